@@ -1,0 +1,24 @@
+# What every target of ours is compiled and linked with.
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor
+                    -Woverloaded-virtual -Werror)
+
+find_program(MOLD mold)
+if(MOLD)
+    add_link_options(-fuse-ld=mold)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+    set(ENV{CCACHE_SLOPPINESS} pch_defines,time_macros)
+endif()
+
+if(CORVANE_SANITIZERS)
+    add_compile_options(-fsanitize=${CORVANE_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${CORVANE_SANITIZERS})
+endif()
+
+if(CORVANE_TIDY)
+    find_program(CLANG_TIDY clang-tidy REQUIRED)
+    set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY};--quiet)
+endif()

@@ -1,0 +1,28 @@
+// Notices on the desktop.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace corvane {
+
+struct UserNotification {
+    std::string title;            // e.g. "Serial Port Connected"
+    std::string informativeText;  // one or two sentences
+    bool hasSound = false;
+
+    bool operator==(const UserNotification&) const = default;
+};
+
+using NotificationId = unsigned;
+
+class NotificationCenter {
+public:
+    virtual ~NotificationCenter() = default;
+
+    // Shows a notice; `delivered` is called with its id once it stands. Where no notices are shown, it is never called.
+    virtual void deliver(const UserNotification& notification, std::function<void(NotificationId)> delivered) = 0;
+    virtual void removeDelivered(NotificationId id) = 0;
+};
+
+}  // namespace corvane

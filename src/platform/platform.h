@@ -1,0 +1,26 @@
+// What the program expects of its surroundings, in one hand. Everything referred to must outlive the controller.
+#pragma once
+
+#include "platform/log.h"
+#include "platform/notification_center.h"
+#include "platform/scheduler.h"
+#include "platform/serial_port_manager.h"
+#include "platform/settings_store.h"
+#include "platform/sound_player.h"
+#include "platform/speech_synthesizer.h"
+#include "platform/web_browser.h"
+
+namespace corvane {
+
+struct Platform {
+    ORSSerialPortManager& serialPortManager;
+    NotificationCenter& notificationCenter;
+    Scheduler& scheduler;
+    SettingsStore& settings;
+    SpeechSynthesizer& speech;
+    SoundPlayer& sounds;
+    WebBrowser& browser;
+    Log& log;
+};
+
+}  // namespace corvane

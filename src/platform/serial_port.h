@@ -1,0 +1,75 @@
+// The serial port as the program needs it. Real in the shell, recorded in tests.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace corvane {
+
+class ORSSerialPort;
+
+enum class Parity { none, odd, even };
+
+// Why a port could not be opened, or stopped working.
+enum class SerialPortErrorKind {
+    busy,        // somebody else holds the port
+    permission,  // the user may not open the device
+    notFound,    // there is no such device
+    gone,        // the device was there and is not any more
+    other,
+};
+
+struct SerialPortError {
+    SerialPortErrorKind kind = SerialPortErrorKind::other;
+    std::string text;   // the system's own words, e.g. "Permission denied"
+    std::string path;   // the device, e.g. "/dev/ttyUSB0"
+    std::string group;  // the group that may open the device, e.g. "dialout"; empty when unknown
+
+    bool operator==(const SerialPortError&) const = default;
+};
+
+// Who a port reports to. All calls arrive on the user-interface thread.
+class ORSSerialPortDelegate {
+public:
+    virtual ~ORSSerialPortDelegate() = default;
+
+    virtual void serialPortWasOpened(ORSSerialPort& port) = 0;
+    virtual void serialPortWasClosed(ORSSerialPort& port) = 0;
+
+    // Bytes from the line, e.g. "FA014250000;". A real port hands over one whole response at a time; what is handed over is
+    // valid only during the call.
+    virtual void serialPortDidReceiveData(ORSSerialPort& port, std::string_view bytes) = 0;
+
+    // The device has left the system. The port is closed already and reports nothing more.
+    virtual void serialPortWasRemovedFromSystem(ORSSerialPort& port) = 0;
+
+    virtual void serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error) = 0;
+};
+
+class ORSSerialPort {
+public:
+    virtual ~ORSSerialPort() = default;
+
+    virtual const std::string& name() const = 0;         // as listed, e.g. "ttyUSB0"; unique in the list
+    virtual const std::string& description() const = 0;  // as listed and as remembered; the same text as the name
+    virtual const std::string& details() const = 0;      // what hangs on it, for the eye: "USB serial adapter, /dev/ttyUSB0"
+
+    virtual int baudRate() const = 0;  // bits a second
+    virtual void setBaudRate(int baudRate) = 0;
+    virtual void setParity(Parity parity) = 0;
+    virtual void setNumberOfStopBits(int bits) = 0;
+    virtual void setUsesRTSCTSFlowControl(bool uses) = 0;
+
+    virtual bool isOpen() const = 0;
+    // Ends in serialPortWasOpened or serialPortDidEncounterError, at once or later. An open port stays as it is.
+    virtual void open() = 0;
+    // Ends in serialPortWasClosed when the port was open; otherwise does nothing. What was sent before still goes out.
+    virtual void close() = 0;
+
+    // Hands all bytes to the line in one piece. A port that is not open drops them; nothing is kept for later.
+    virtual void sendData(std::string_view bytes) = 0;
+
+    virtual void setDelegate(ORSSerialPortDelegate* delegate) = 0;  // or nullptr; does not own it
+};
+
+}  // namespace corvane
