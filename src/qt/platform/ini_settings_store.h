@@ -1,0 +1,33 @@
+// The user's settings in a file of plain text.
+#pragma once
+
+#include <QSettings>
+#include <QString>
+#include <QTimer>
+
+#include "platform/settings_store.h"
+
+namespace corvane {
+
+// Keeps the settings in an ini file, one line a key: `defaultPort=ttyUSB0`. Text comes back as it was given, leading
+// zeros, commas, umlauts and empty text included. A change is on disk by the next turn of the event loop, at the latest
+// when the store ends. A file that cannot be read is empty; one that cannot be written keeps the changes for this run
+// only.
+class IniSettingsStore final : public SettingsStore {
+public:
+    explicit IniSettingsStore(const QString& path = defaultPath());
+
+    // The user's own file, e.g. "~/.config/corvane/corvane.conf".
+    static QString defaultPath();
+
+    std::optional<std::string> text(std::string_view key) const override;
+    int integer(std::string_view key) const override;
+    void setText(std::string_view key, std::string_view value) override;
+    void setInteger(std::string_view key, int value) override;
+
+private:
+    QSettings settings_;
+    QTimer writeSoon_;
+};
+
+}  // namespace corvane

@@ -1,0 +1,57 @@
+#include "qt/platform/open_failure.h"
+
+#include <grp.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <system_error>
+
+namespace corvane {
+
+namespace {
+
+std::string groupOf(const std::string& path) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return {};
+    std::array<char, 4096> text{};
+    group entry{};
+    group* found = nullptr;
+    if (::getgrgid_r(status.st_gid, &entry, text.data(), text.size(), &found) != 0 || found == nullptr) return {};
+    return found->gr_name;
+}
+
+SerialPortErrorKind kindOf(QSerialPort::SerialPortError error, const std::string& path) {
+    switch (error) {
+        case QSerialPort::DeviceNotFoundError:
+            return SerialPortErrorKind::notFound;
+        case QSerialPort::PermissionError:
+            if (::access(path.c_str(), R_OK | W_OK) == 0) return SerialPortErrorKind::busy;
+            return errno == ENOENT ? SerialPortErrorKind::notFound : SerialPortErrorKind::permission;
+        default:
+            return SerialPortErrorKind::other;
+    }
+}
+
+std::string systemWords(SerialPortErrorKind kind, const std::string& words) {
+    switch (kind) {
+        case SerialPortErrorKind::busy:
+            return std::generic_category().message(EBUSY);
+        case SerialPortErrorKind::permission:
+            return std::generic_category().message(EACCES);
+        case SerialPortErrorKind::notFound:
+            return std::generic_category().message(ENOENT);
+        default:
+            return words;
+    }
+}
+
+}  // namespace
+
+SerialPortError openFailure(QSerialPort::SerialPortError error, const std::string& path, const std::string& words) {
+    const SerialPortErrorKind kind = kindOf(error, path);
+    return {kind, systemWords(kind, words), path, groupOf(path)};
+}
+
+}  // namespace corvane

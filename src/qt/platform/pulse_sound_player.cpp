@@ -1,0 +1,81 @@
+#include "qt/platform/pulse_sound_player.h"
+
+#include <pulse/simple.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <sndfile.hh>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace corvane {
+
+namespace {
+
+constexpr std::chrono::milliseconds farewell{150};
+constexpr int mostChannels = PA_CHANNELS_MAX;
+constexpr sf_count_t longestSound = 30;  // seconds; what is longer is cut
+
+struct Sound {
+    pa_sample_spec format{};
+    std::vector<std::int16_t> samples;  // channels interleaved
+};
+
+Sound readSound(const std::filesystem::path& file) {
+    SndfileHandle source(file.string());
+    Sound sound;
+    if (!source || source.channels() < 1 || source.channels() > mostChannels || source.samplerate() < 1) return sound;
+    sound.format = {PA_SAMPLE_S16NE, static_cast<std::uint32_t>(source.samplerate()),
+                    static_cast<std::uint8_t>(source.channels())};
+    const sf_count_t frames = std::clamp<sf_count_t>(source.frames(), 0, longestSound * source.samplerate());
+    sound.samples.resize(static_cast<std::size_t>(frames * source.channels()));
+    const sf_count_t read = source.readf(sound.samples.data(), frames);
+    sound.samples.resize(static_cast<std::size_t>(std::max<sf_count_t>(read, 0) * source.channels()));
+    return sound;
+}
+
+struct CloseStream {
+    void operator()(pa_simple* stream) const { pa_simple_free(stream); }
+};
+
+void playSound(const std::string& name, const Sound& sound, const std::stop_token& stop) {
+    if (sound.samples.empty()) return;
+    const std::unique_ptr<pa_simple, CloseStream> stream(pa_simple_new(
+        nullptr, "Corvane", PA_STREAM_PLAYBACK, nullptr, name.c_str(), &sound.format, nullptr, nullptr, nullptr));
+    if (!stream) return;
+    // In pieces of a tenth of a second, so that the end of the program needs not wait for the end of the sound.
+    const std::size_t piece = std::max<std::size_t>(1, std::size_t{sound.format.rate} * sound.format.channels / 10);
+    for (std::size_t at = 0; at < sound.samples.size(); at += piece) {
+        const std::size_t count = std::min(piece, sound.samples.size() - at);
+        if (stop.stop_requested()) return;
+        if (pa_simple_write(stream.get(), sound.samples.data() + at, count * sizeof(std::int16_t), nullptr) < 0) return;
+    }
+    if (!stop.stop_requested()) pa_simple_drain(stream.get(), nullptr);
+}
+
+}  // namespace
+
+std::filesystem::path soundFile(const std::filesystem::path& folder, std::string_view name) {
+    const bool plain = !name.empty() && name.front() != '.' && name.find('/') == std::string_view::npos &&
+                       name.find('\0') == std::string_view::npos;
+    return plain ? folder / (std::string(name) + ".aiff") : std::filesystem::path();
+}
+
+PulseSoundPlayer::PulseSoundPlayer(std::filesystem::path folder)
+    : folder_(std::move(folder)), worker_(queueLength, farewell) {}
+
+void PulseSoundPlayer::playFile(std::string_view name) { play(folder_, name); }
+
+void PulseSoundPlayer::playAlert(std::string_view name) { play(folder_ / "alerts", name); }
+
+void PulseSoundPlayer::play(const std::filesystem::path& folder, std::string_view name) {
+    const std::filesystem::path file = soundFile(folder, name);
+    if (file.empty()) return;
+    worker_.post(
+        [file, title = std::string(name)](const std::stop_token& stop) { playSound(title, readSound(file), stop); });
+}
+
+}  // namespace corvane

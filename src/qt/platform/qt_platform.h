@@ -1,0 +1,42 @@
+// The program's surroundings, all in one.
+#pragma once
+
+#include <QString>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace corvane {
+
+struct QtPlatformOptions {
+    QString settingsPath;                 // the ini file
+    std::filesystem::path soundsFolder;   // holds Seatbelts.aiff, Funk.aiff and alerts/
+    std::vector<std::string> extraPorts;  // paths of devices to list besides the system's own
+    double schedulerSpeed = 1;            // 100 lets 5 s pass in 50 ms
+    bool simulatedPort = true;            // end the list of ports with "Simulated transceiver"
+};
+
+// The user's own settings file, the sounds beside the installed program (<bin>/../share/corvane/Sounds), the extra
+// ports of CORVANE_EXTRA_PORTS (paths, ":" between them). Needs the application object.
+QtPlatformOptions defaultOptions();
+
+// Lives on the thread of the application object, and no longer than it.
+class QtPlatform {
+public:
+    explicit QtPlatform(const QtPlatformOptions& options = defaultOptions());
+    ~QtPlatform();
+    QtPlatform(const QtPlatform&) = delete;
+    QtPlatform& operator=(const QtPlatform&) = delete;
+
+    Platform platform();
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace corvane

@@ -1,0 +1,155 @@
+#include "qt/platform/qt_serial_port.h"
+
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <QByteArray>
+#include <QDeadlineTimer>
+#include <chrono>
+#include <thread>
+#include <utility>
+
+#include "qt/platform/open_failure.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr std::chrono::milliseconds lastBytes{100};  // how long closing waits for what was sent
+
+QSerialPort::Parity qtParity(Parity parity) {
+    switch (parity) {
+        case Parity::odd:
+            return QSerialPort::OddParity;
+        case Parity::even:
+            return QSerialPort::EvenParity;
+        case Parity::none:
+            break;
+    }
+    return QSerialPort::NoParity;
+}
+
+// Bytes that the driver has taken but the wire has not.
+int unsentBytes(int descriptor) {
+    int count = 0;
+    return ::ioctl(descriptor, TIOCOUTQ, &count) == 0 ? count : 0;
+}
+
+}  // namespace
+
+QtSerialPort::QtSerialPort(std::string name, std::string details, std::string location)
+    : ListedPort(std::move(name), std::move(details)), location_(std::move(location)) {
+    line_.setPortName(QString::fromStdString(location_));
+    QObject::connect(&line_, &QSerialPort::readyRead, &line_, [this] { readAll(); });
+    QObject::connect(&line_, &QSerialPort::errorOccurred, &line_,
+                     [this](QSerialPort::SerialPortError error) { failed(error); });
+}
+
+QtSerialPort::~QtSerialPort() {
+    if (!open_) return;
+    open_ = false;
+    drain();
+    shut();
+}
+
+void QtSerialPort::open() {
+    if (open_) return;
+    const KeepAlive alive(*this);
+    forgetTail();
+    applySettings();
+    if (line_.open(QIODevice::ReadWrite)) {
+        open_ = true;
+        tellOpened();
+    } else {
+        tellError(openFailure(line_.error(), location_, line_.errorString().toStdString()));
+    }
+}
+
+void QtSerialPort::close() {
+    if (!open_) return;
+    const KeepAlive alive(*this);
+    open_ = false;  // first: errors and bytes that turn up while draining are nobody's business
+    drain();
+    shut();
+    tellClosed();
+}
+
+void QtSerialPort::sendData(std::string_view bytes) {
+    if (!open_) return;
+    const KeepAlive alive(*this);
+    line_.write(bytes.data(), static_cast<qint64>(bytes.size()));
+    line_.flush();
+}
+
+void QtSerialPort::deviceLeft() {
+    if (!open_) return;
+    const KeepAlive alive(*this);
+    shut();
+    tellRemoved();
+}
+
+void QtSerialPort::settingsChanged() {
+    if (open_) applySettings();
+}
+
+void QtSerialPort::applySettings() {
+    line_.setBaudRate(settings().baudRate);
+    line_.setDataBits(QSerialPort::Data8);
+    line_.setParity(qtParity(settings().parity));
+    line_.setStopBits(settings().stopBits == 2 ? QSerialPort::TwoStop : QSerialPort::OneStop);
+    line_.setFlowControl(settings().rtsCts ? QSerialPort::HardwareControl : QSerialPort::NoFlowControl);
+}
+
+void QtSerialPort::readAll() {
+    if (!open_) return;
+    const KeepAlive alive(*this);
+    const QByteArray bytes = line_.readAll();
+    receive({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+// A line that has hung up repeats its error as fast as the machine can, until it is closed.
+void QtSerialPort::failed(QSerialPort::SerialPortError error) {
+    if (!open_ || error == QSerialPort::NoError || error == QSerialPort::TimeoutError) return;
+    const KeepAlive alive(*this);
+    if (error != QSerialPort::ReadError && error != QSerialPort::ResourceError) {
+        tellError({SerialPortErrorKind::other, line_.errorString().toStdString(), location_, {}});
+        return;
+    }
+    const bool gone = hungUp();
+    const std::string words = line_.errorString().toStdString();
+    shut();
+    if (gone) {
+        tellRemoved();
+    } else {
+        tellError({SerialPortErrorKind::other, words, location_, {}});
+        if (!open_) tellClosed();
+    }
+}
+
+bool QtSerialPort::hungUp() const {
+    pollfd line{static_cast<int>(line_.handle()), POLLIN, 0};
+    const bool dead = ::poll(&line, 1, 0) > 0 && (line.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0;
+    return dead || ::access(location_.c_str(), F_OK) != 0;
+}
+
+// Waits for the wire as well as for our own buffer. What a deaf device has not taken by then is thrown away: the system
+// would hold up the closing for half a minute.
+void QtSerialPort::drain() {
+    const QDeadlineTimer deadline(lastBytes);
+    while (line_.bytesToWrite() > 0 && !deadline.hasExpired()) {
+        if (!line_.waitForBytesWritten(static_cast<int>(deadline.remainingTime()))) break;
+    }
+    const int descriptor = static_cast<int>(line_.handle());
+    while (unsentBytes(descriptor) > 0 && !deadline.hasExpired())
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    if (line_.bytesToWrite() > 0 || unsentBytes(descriptor) > 0) line_.clear(QSerialPort::Output);
+}
+
+void QtSerialPort::shut() {
+    open_ = false;
+    line_.close();
+    forgetTail();
+}
+
+}  // namespace corvane

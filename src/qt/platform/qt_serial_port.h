@@ -1,0 +1,45 @@
+// A serial port of the system.
+#pragma once
+
+#include <QSerialPort>
+
+#include <string>
+
+#include "qt/platform/listed_port.h"
+
+namespace corvane {
+
+// The device at `location`, e.g. "/dev/ttyUSB0", a symbolic link or a pseudo-terminal, listed as `name`. Opening ends
+// at once; so does closing, which waits up to 100 ms for what was sent before to go out. A device that hangs up is
+// reported as removed, once, with the port closed already. Another failure to read is reported as an error and closes
+// the port.
+class QtSerialPort final : public ListedPort {
+public:
+    QtSerialPort(std::string name, std::string details, std::string location);
+    ~QtSerialPort() override;
+
+    const std::string& location() const { return location_; }
+
+    bool isOpen() const override { return open_; }
+    void open() override;
+    void close() override;
+    void sendData(std::string_view bytes) override;
+    void deviceLeft() override;
+
+protected:
+    void settingsChanged() override;
+
+private:
+    void applySettings();
+    void readAll();
+    void failed(QSerialPort::SerialPortError error);
+    bool hungUp() const;
+    void drain();
+    void shut();
+
+    std::string location_;
+    QSerialPort line_;
+    bool open_ = false;  // what the program knows; line_ may still be busy going down
+};
+
+}  // namespace corvane

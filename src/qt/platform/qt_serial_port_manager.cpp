@@ -1,0 +1,102 @@
+#include "qt/platform/qt_serial_port_manager.h"
+
+#include <QFileInfo>
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "qt/platform/qt_serial_port.h"
+
+namespace corvane {
+
+QtSerialPortManager::QtSerialPortManager(SerialPortSources sources) : sources_(std::move(sources)) {
+    settled_.setSingleShot(true);
+    settled_.setInterval(sources_.settle);
+    QObject::connect(&settled_, &QTimer::timeout, &settled_, [this] { refresh(); });
+    if (sources_.watcher) {
+        sources_.watcher->watch([this] { settled_.start(); });
+    }
+    if (!sources_.extraPaths.empty()) {
+        QObject::connect(&extraTimer_, &QTimer::timeout, &extraTimer_, [this] { lookAtExtras(); });
+        extraTimer_.start(sources_.extraInterval);
+    }
+    refresh();
+}
+
+std::vector<SerialDevice> QtSerialPortManager::presentExtras() const {
+    std::vector<SerialDevice> extras;
+    for (const std::string& path : sources_.extraPaths) {
+        if (QFileInfo::exists(QString::fromStdString(path))) extras.push_back({path, path, "Extra port, " + path});
+    }
+    return extras;
+}
+
+std::vector<SerialDevice> QtSerialPortManager::presentDevices() const {
+    std::vector<SerialDevice> devices = sources_.devices ? sources_.devices() : std::vector<SerialDevice>();
+    const auto listed = static_cast<std::ptrdiff_t>(devices.size());
+    for (const SerialDevice& extra : extras_) {
+        const auto end = devices.begin() + listed;
+        const bool known = std::any_of(devices.begin(), end,
+                                       [&](const SerialDevice& device) { return device.location == extra.location; });
+        if (!known) devices.push_back(extra);
+    }
+    return devices;
+}
+
+// Makes the devices the list, with their ports of before where they have one; gives the ports that are new.
+SerialPorts QtSerialPortManager::take(const std::vector<SerialDevice>& devices) {
+    std::vector<Entry> entries;
+    SerialPorts fresh;
+    for (const SerialDevice& device : devices) {
+        // What the system says of a device may grow while it settles in; it is the same device all the same.
+        const auto known = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
+            return entry.device.name == device.name && entry.device.location == device.location;
+        });
+        if (known != entries_.end()) {
+            entries.push_back(*known);
+        } else {
+            entries.push_back({device, std::make_shared<QtSerialPort>(device.name, device.details, device.location)});
+            fresh.push_back(entries.back().port);
+        }
+    }
+    entries_ = std::move(entries);
+    ports_.clear();
+    for (const Entry& entry : entries_) ports_.push_back(entry.port);
+    if (sources_.lastPort) ports_.push_back(sources_.lastPort);
+    return fresh;
+}
+
+void QtSerialPortManager::refresh() {
+    extras_ = presentExtras();
+    const std::vector<Entry> before = entries_;
+    const SerialPorts connected = take(presentDevices());
+    SerialPorts disconnected;
+    for (const Entry& entry : before) {
+        if (std::find(ports_.begin(), ports_.end(), entry.port) == ports_.end()) disconnected.push_back(entry.port);
+    }
+    // The list stands before anybody hears of it.
+    for (const Entry& entry : before) {
+        if (std::find(disconnected.begin(), disconnected.end(), entry.port) != disconnected.end()) {
+            entry.port->deviceLeft();
+        }
+    }
+    if (!disconnected.empty() && observer_ != nullptr) observer_->serialPortsWereDisconnected(disconnected);
+    if (!connected.empty() && observer_ != nullptr) observer_->serialPortsWereConnected(connected);
+}
+
+void QtSerialPortManager::lookAtExtras() {
+    if (presentExtras() != extras_) refresh();
+}
+
+std::vector<std::string> splitPaths(std::string_view paths) {
+    std::vector<std::string> pieces;
+    while (!paths.empty()) {
+        const std::size_t end = std::min(paths.find(':'), paths.size());
+        const std::string piece(paths.substr(0, end));
+        if (!piece.empty() && std::find(pieces.begin(), pieces.end(), piece) == pieces.end()) pieces.push_back(piece);
+        paths.remove_prefix(std::min(end + 1, paths.size()));
+    }
+    return pieces;
+}
+
+}  // namespace corvane

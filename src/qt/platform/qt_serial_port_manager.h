@@ -1,0 +1,62 @@
+// The list of serial ports.
+#pragma once
+
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/serial_port_manager.h"
+#include "qt/platform/listed_port.h"
+#include "qt/platform/serial_device.h"
+#include "qt/platform/serial_port_watcher.h"
+
+namespace corvane {
+
+// Where the ports come from.
+struct SerialPortSources {
+    std::function<std::vector<SerialDevice>()> devices = attachedSerialDevices;
+    std::vector<std::string> extraPaths;         // listed under the path as written, for as long as something is there
+    std::unique_ptr<SerialPortWatcher> watcher;  // none: the list of devices is read once
+    std::shared_ptr<ListedPort> lastPort;        // always there, at the end of the list; none is fine
+
+    std::chrono::milliseconds settle{200};          // quiet time after a change, so that a burst gives one notice
+    std::chrono::milliseconds extraInterval{1000};  // between two looks at the extra paths
+};
+
+class QtSerialPortManager final : public ORSSerialPortManager {
+public:
+    explicit QtSerialPortManager(SerialPortSources sources);
+
+    const SerialPorts& availablePorts() const override { return ports_; }
+    void setObserver(SerialPortsObserver* observer) override { observer_ = observer; }
+
+private:
+    struct Entry {
+        SerialDevice device;
+        std::shared_ptr<ListedPort> port;
+    };
+
+    std::vector<SerialDevice> presentDevices() const;
+    std::vector<SerialDevice> presentExtras() const;
+    SerialPorts take(const std::vector<SerialDevice>& devices);
+    void refresh();
+    void lookAtExtras();
+
+    SerialPortSources sources_;
+    std::vector<Entry> entries_;
+    std::vector<SerialDevice> extras_;  // present at the last look
+    SerialPorts ports_;
+    SerialPortsObserver* observer_ = nullptr;
+    QTimer settled_;
+    QTimer extraTimer_;
+};
+
+// "/dev/pts/5:/tmp/radio" as {"/dev/pts/5", "/tmp/radio"}; empty pieces and repetitions are left out.
+std::vector<std::string> splitPaths(std::string_view paths);
+
+}  // namespace corvane

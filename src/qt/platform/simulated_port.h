@@ -1,0 +1,47 @@
+// A port with a transceiver behind it that is not there.
+#pragma once
+
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+#include "qt/platform/listed_port.h"
+
+namespace simulator {
+class SimulatedTransceiver;
+}
+
+namespace corvane {
+
+// "Simulated transceiver": a port like any other, which opens on the next turn of the event loop. The transceiver comes
+// to be with the first opening and keeps its state from one opening to the next; its time is real time.
+class SimulatedPort final : public ListedPort {
+public:
+    SimulatedPort();
+    ~SimulatedPort() override;
+
+    bool isOpen() const override { return open_; }
+    void open() override;
+    void close() override;
+    void sendData(std::string_view bytes) override;
+    void deviceLeft() override;
+
+    // A hand on the transceiver's own knobs, e.g. to tune it; what it reports of that comes over the line.
+    void operate(const std::function<void(simulator::SimulatedTransceiver&)>& action);
+
+private:
+    std::chrono::microseconds now() const;
+    void makeTransceiver();
+    void arm();
+    void shut();
+
+    std::unique_ptr<simulator::SimulatedTransceiver> transceiver_;
+    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    QTimer opening_;
+    QTimer next_;
+    bool open_ = false;
+};
+
+}  // namespace corvane

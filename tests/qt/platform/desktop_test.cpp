@@ -1,0 +1,106 @@
+// The small ones: browser, log, and the worker behind speech and sounds.
+#include <gtest/gtest.h>
+
+#include <QDesktopServices>
+#include <QElapsedTimer>
+#include <QUrl>
+#include <atomic>
+#include <future>
+#include <memory>
+#include <vector>
+
+#include "event_loop.h"
+#include "qt/platform/background_worker.h"
+#include "qt/platform/desktop_web_browser.h"
+#include "qt/platform/standard_log.h"
+
+namespace corvane {
+
+class UrlCatcher : public QObject {
+    Q_OBJECT
+public:
+    std::vector<std::string> urls;
+public slots:
+    void take(const QUrl& url) { urls.push_back(url.toEncoded().toStdString()); }
+};
+
+namespace {
+
+using std::chrono::milliseconds;
+
+TEST(DesktopWebBrowserTest, OpensWebAddressesOnly) {
+    UrlCatcher catcher;
+    for (const char* scheme : {"http", "https", "file"}) QDesktopServices::setUrlHandler(scheme, &catcher, "take");
+    DesktopWebBrowser browser;
+    for (const char* url : {"https://example.org/corvane/", "file:///etc/passwd", "not an address", "", "https://",
+                            "http://127.0.0.1:8080/a?b=c"}) {
+        browser.open(url);
+    }
+    EXPECT_EQ(catcher.urls, (std::vector<std::string>{"https://example.org/corvane/", "http://127.0.0.1:8080/a?b=c"}));
+    for (const char* scheme : {"http", "https", "file"}) QDesktopServices::unsetUrlHandler(scheme);
+}
+
+TEST(StandardLogTest, WritesWholeLines) {
+    testing::internal::CaptureStdout();
+    StandardLog log;
+    log.line("one");
+    log.line("");
+    log.line("%s \u00fc");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "one\n\n%s \u00fc\n");
+}
+
+TEST(BackgroundWorkerTest, RunsTasksInOrderAndDropsWhatExceedsItsCapacity) {
+    BackgroundWorker worker(3, milliseconds(5000));
+    std::promise<void> started;
+    std::promise<void> goOn;
+    std::atomic<int> sum = 0;
+    EXPECT_TRUE(worker.post([&](const std::stop_token&) {
+        started.set_value();
+        goOn.get_future().wait();
+    }));
+    started.get_future().wait();
+    for (int i = 1; i <= 3; ++i) EXPECT_TRUE(worker.post([&sum, i](const std::stop_token&) { sum = sum * 10 + i; }));
+    EXPECT_FALSE(worker.post([&](const std::stop_token&) { sum = -1; }));
+    goOn.set_value();
+    EXPECT_TRUE(eventually([&] { return sum == 123; }));
+}
+
+TEST(BackgroundWorkerTest, EndsByAskingOrByLeavingBehind) {
+    QElapsedTimer clock;
+    clock.start();
+    std::promise<void> polite;
+    {
+        BackgroundWorker worker(3, milliseconds(5000));
+        worker.post([&](const std::stop_token& stop) {
+            polite.set_value();
+            std::promise<void> asked;
+            const std::stop_callback onStop(stop, [&] { asked.set_value(); });
+            asked.get_future().wait();
+        });
+        polite.get_future().wait();
+    }
+    EXPECT_LT(clock.elapsed(), 2000);
+
+    const auto release = std::make_shared<std::promise<void>>();
+    const auto released = std::make_shared<std::promise<void>>();
+    std::promise<void> hanging;
+    clock.start();
+    {
+        BackgroundWorker worker(3, milliseconds(50));
+        worker.post([&hanging, release, released](const std::stop_token&) {
+            hanging.set_value();
+            release->get_future().wait();
+            released->set_value();
+        });
+        hanging.get_future().wait();
+    }
+    EXPECT_GE(clock.elapsed(), 49);
+    EXPECT_LT(clock.elapsed(), 2000);
+    release->set_value();
+    released->get_future().wait();
+}
+
+}  // namespace
+}  // namespace corvane
+
+#include "desktop_test.moc"

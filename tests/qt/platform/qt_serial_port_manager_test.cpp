@@ -1,0 +1,157 @@
+#include "qt/platform/qt_serial_port_manager.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <memory>
+
+#include "event_loop.h"
+#include "pseudo_terminal.h"
+#include "qt/platform/polling_serial_port_watcher.h"
+#include "qt/platform/udev_serial_port_watcher.h"
+#include "recording_delegate.h"
+
+namespace corvane {
+namespace {
+
+using Names = std::vector<std::string>;
+
+struct FakeWatcher : SerialPortWatcher {
+    std::function<void()> changed;
+    void watch(std::function<void()> call) override { changed = std::move(call); }
+};
+
+struct LastPort final : ListedPort {
+    LastPort() : ListedPort("Simulated transceiver", "") {}
+    bool isOpen() const override { return false; }
+    void open() override {}
+    void close() override {}
+    void sendData(std::string_view) override {}
+    void deviceLeft() override {}
+};
+
+Names namesOf(const SerialPorts& ports) {
+    Names names;
+    for (const auto& port : ports) names.push_back(port->name());
+    return names;
+}
+
+struct ManagerTest : testing::Test, SerialPortsObserver {
+    std::vector<SerialDevice> devices{{"ttyUSB0", "/dev/ttyUSB0", "Adapter, /dev/ttyUSB0"}};
+    FakeWatcher* watcher = nullptr;
+    std::vector<Names> connected;
+    std::vector<Names> disconnected;
+    std::unique_ptr<QtSerialPortManager> manager;
+
+    void make(std::vector<std::string> extraPaths = {}) {
+        SerialPortSources sources;
+        sources.devices = [this] { return devices; };
+        sources.extraPaths = std::move(extraPaths);
+        auto fake = std::make_unique<FakeWatcher>();
+        watcher = fake.get();
+        sources.watcher = std::move(fake);
+        sources.lastPort = std::make_shared<LastPort>();
+        sources.settle = std::chrono::milliseconds(20);
+        sources.extraInterval = std::chrono::milliseconds(10);
+        manager = std::make_unique<QtSerialPortManager>(std::move(sources));
+        manager->setObserver(this);
+    }
+
+    void serialPortsWereConnected(const SerialPorts& ports) override { connected.push_back(namesOf(ports)); }
+    void serialPortsWereDisconnected(const SerialPorts& ports) override { disconnected.push_back(namesOf(ports)); }
+
+    Names names() const { return namesOf(manager->availablePorts()); }
+};
+
+TEST_F(ManagerTest, ListsDevicesThenExtraPathsThenTheLastPort) {
+    const PseudoTerminal line;
+    devices.push_back({"pts", line.path(), ""});
+    const PseudoTerminal other;
+    make({"/dev/no-such-device", line.path(), other.path()});
+    EXPECT_EQ(names(), (Names{"ttyUSB0", "pts", other.path(), "Simulated transceiver"}));
+    EXPECT_EQ(manager->availablePorts()[0]->details(), "Adapter, /dev/ttyUSB0");
+    EXPECT_EQ(manager->availablePorts()[0]->description(), "ttyUSB0");
+    EXPECT_TRUE(connected.empty());
+}
+
+TEST_F(ManagerTest, ABurstGivesOneNoticeAndPortsKeepTheirObjects) {
+    make();
+    const auto kept = manager->availablePorts()[0];
+    devices[0].details = "Adapter by Somebody, /dev/ttyUSB0";
+    for (const char* name : {"ttyUSB1", "ttyUSB2"}) {
+        devices.push_back({name, std::string("/dev/") + name, ""});
+        watcher->changed();
+    }
+    ASSERT_TRUE(eventually([&] { return !connected.empty(); }));
+    EXPECT_EQ(connected, (std::vector<Names>{{"ttyUSB1", "ttyUSB2"}}));
+    EXPECT_EQ(names(), (Names{"ttyUSB0", "ttyUSB1", "ttyUSB2", "Simulated transceiver"}));
+    EXPECT_EQ(manager->availablePorts()[0], kept);
+
+    devices.erase(devices.begin());
+    watcher->changed();
+    ASSERT_TRUE(eventually([&] { return !disconnected.empty(); }));
+    EXPECT_EQ(disconnected, (std::vector<Names>{{"ttyUSB0"}}));
+    EXPECT_EQ(connected.size(), 1U);
+
+    watcher->changed();  // nothing new
+    runEventLoop(std::chrono::milliseconds(60));
+    EXPECT_EQ(connected.size() + disconnected.size(), 2U);
+}
+
+TEST_F(ManagerTest, AnOpenPortThatLeavesTheListIsRemovedOnce) {
+    const PseudoTerminal line;
+    devices = {{"radio", line.path(), ""}};
+    make();
+    const auto port = manager->availablePorts()[0];
+    RecordingDelegate delegate;
+    port->setDelegate(&delegate);
+    port->open();
+    ASSERT_TRUE(port->isOpen());
+    Names listedAtRemoval;
+    delegate.onReport = [&](ORSSerialPort&, const std::string&) { listedAtRemoval = names(); };
+    devices.clear();
+    watcher->changed();
+    ASSERT_TRUE(eventually([&] { return !disconnected.empty(); }));
+    EXPECT_EQ(delegate.reports, (std::vector<std::string>{"opened", "removed"}));
+    EXPECT_EQ(listedAtRemoval, Names{"Simulated transceiver"});
+}
+
+TEST_F(ManagerTest, ExtraPathsComeAndGo) {
+    const QTemporaryDir folder;
+    const std::string link = folder.filePath("radio").toStdString();
+    auto line = std::make_unique<PseudoTerminal>();
+    devices.clear();
+    make({link});
+    EXPECT_EQ(names(), Names{"Simulated transceiver"});
+
+    ASSERT_TRUE(QFile::link(QString::fromStdString(line->path()), QString::fromStdString(link)));
+    ASSERT_TRUE(eventually([&] { return !connected.empty(); }));
+    EXPECT_EQ(connected, (std::vector<Names>{{link}}));
+    RecordingDelegate delegate;
+    const auto port = manager->availablePorts()[0];
+    port->setDelegate(&delegate);
+    port->open();
+    line.reset();  // the link dangles
+    ASSERT_TRUE(eventually([&] { return !disconnected.empty(); }));
+    EXPECT_EQ(disconnected, (std::vector<Names>{{link}}));
+    EXPECT_EQ(delegate.reports, (std::vector<std::string>{"opened", "removed"}));
+}
+
+TEST(SplitPathsTest, LeavesOutEmptyPiecesAndRepetitions) {
+    EXPECT_EQ(splitPaths(""), Names{});
+    EXPECT_EQ(splitPaths("/dev/a"), Names{"/dev/a"});
+    EXPECT_EQ(splitPaths(":/dev/a::/dev/b:/dev/a:"), (Names{"/dev/a", "/dev/b"}));
+}
+
+TEST(SerialPortWatcherTest, PollingCallsAgainAndAgainAndTheMonitorOpens) {
+    PollingSerialPortWatcher polling(std::chrono::milliseconds(5));
+    int calls = 0;
+    polling.watch([&] { ++calls; });
+    EXPECT_TRUE(eventually([&] { return calls >= 2; }));
+    EXPECT_TRUE(UdevSerialPortWatcher(UdevSerialPortWatcher::Source::udev).works());
+    EXPECT_NE(makeSerialPortWatcher(), nullptr);
+}
+
+}  // namespace
+}  // namespace corvane

@@ -1,0 +1,221 @@
+#include "qt/platform/qt_serial_port.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <termios.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <ctime>
+#include <memory>
+
+#include "event_loop.h"
+#include "pseudo_terminal.h"
+#include "qt/platform/open_failure.h"
+#include "recording_delegate.h"
+
+namespace corvane {
+namespace {
+
+using Reports = std::vector<std::string>;
+
+struct QtSerialPortTest : testing::Test {
+    PseudoTerminal line;
+    RecordingDelegate delegate;
+    std::shared_ptr<QtSerialPort> port = std::make_shared<QtSerialPort>("radio", "A radio", line.path());
+
+    QtSerialPortTest() { port->setDelegate(&delegate); }
+
+    bool reported(std::size_t count) {
+        return eventually([&] { return delegate.reports.size() >= count; });
+    }
+};
+
+TEST_F(QtSerialPortTest, OpensWithTheLineSettingsAndSendsInOrder) {
+    port->setBaudRate(19200);
+    port->setNumberOfStopBits(2);
+    port->sendData("dropped;");
+    port->open();
+    ASSERT_EQ(delegate.reports, Reports{"opened"});
+    EXPECT_TRUE(port->isOpen());
+
+    const int descriptor = ::open(line.path().c_str(), O_RDWR | O_NOCTTY);
+    termios settings{};
+    ASSERT_EQ(::tcgetattr(descriptor, &settings), 0);
+    ::close(descriptor);
+    EXPECT_EQ(::cfgetospeed(&settings), speed_t{B19200});
+    EXPECT_NE(settings.c_cflag & CSTOPB, 0U);
+    EXPECT_NE(settings.c_cflag & CRTSCTS, 0U);
+    EXPECT_EQ(settings.c_cflag & (PARENB | ICANON), 0U);
+
+    port->sendData("FA;");
+    port->sendData("MD0;");
+    std::string sent;
+    EXPECT_TRUE(eventually([&] { return (sent += line.taken()).size() >= 7; }));
+    EXPECT_EQ(sent, "FA;MD0;");
+    port->open();  // stays as it is
+    EXPECT_EQ(delegate.reports, Reports{"opened"});
+}
+
+TEST_F(QtSerialPortTest, HandsOverWholeResponsesAndATailAfterItsPatience) {
+    port->open();
+    ASSERT_TRUE(line.send("FA0142"));
+    runEventLoop(std::chrono::milliseconds(20));
+    EXPECT_EQ(delegate.reports, Reports{"opened"});
+    ASSERT_TRUE(line.send("50000;MD02;"));
+    ASSERT_TRUE(reported(3));
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "FA014250000;", "MD02;"}));
+    QElapsedTimer clock;
+    clock.start();
+    ASSERT_TRUE(line.send("SM0"));
+    ASSERT_TRUE(reported(4));
+    EXPECT_EQ(delegate.reports.back(), "SM0");
+    EXPECT_GE(clock.elapsed(), 90);
+}
+
+TEST_F(QtSerialPortTest, WhatWasSentBeforeClosingStillGoesOut) {
+    port->open();
+    port->sendData("AI0;");
+    port->close();
+    EXPECT_FALSE(port->isOpen());
+    EXPECT_EQ(line.taken(), "AI0;");
+    port->close();
+    port->sendData("FA;");
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "closed"}));
+    port->open();
+    EXPECT_EQ(delegate.reports.back(), "opened");
+    EXPECT_EQ(line.taken(), "");
+}
+
+TEST_F(QtSerialPortTest, ATailDoesNotSurviveClosing) {
+    port->open();
+    ASSERT_TRUE(line.send("FA0142"));
+    runEventLoop(std::chrono::milliseconds(20));
+    port->close();
+    port->open();
+    ASSERT_TRUE(line.send("MD02;"));
+    ASSERT_TRUE(reported(4));
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "closed", "opened", "MD02;"}));
+}
+
+TEST_F(QtSerialPortTest, UnpluggedReportsOneRemovalWithThePortClosedAndBurnsNoTime) {
+    port->open();
+    line.unplug();
+    ASSERT_TRUE(reported(2));
+    const std::clock_t before = std::clock();
+    runEventLoop(std::chrono::milliseconds(300));
+    EXPECT_LT(static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC, 0.1);
+    port->deviceLeft();
+    port->sendData("FA;");
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "removed"}));
+    EXPECT_TRUE(delegate.errors.empty());
+    port->open();
+    ASSERT_EQ(delegate.errors.size(), 1U);
+    EXPECT_EQ(delegate.errors[0],
+              (SerialPortError{SerialPortErrorKind::notFound, "No such file or directory", line.path(), ""}));
+}
+
+TEST_F(QtSerialPortTest, UnpluggedIsNoticedWhileSendingToo) {
+    port->open();
+    line.unplug();
+    port->sendData("FA;");
+    port->sendData("FB;");
+    ASSERT_TRUE(reported(2));
+    runEventLoop(std::chrono::milliseconds(20));
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "removed"}));
+}
+
+TEST_F(QtSerialPortTest, ADeviceThatLeftTheListIsReportedOnce) {
+    port->open();
+    port->deviceLeft();
+    port->deviceLeft();
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "removed"}));
+}
+
+TEST_F(QtSerialPortTest, APortThatIsHeldIsBusy) {
+    QtSerialPort holder("holder", "", line.path());
+    holder.open();
+    ASSERT_TRUE(holder.isOpen());
+    port->open();
+    EXPECT_FALSE(port->isOpen());
+    ASSERT_EQ(delegate.errors.size(), 1U);
+    EXPECT_EQ(delegate.errors[0].kind, SerialPortErrorKind::busy);
+    EXPECT_EQ(delegate.errors[0].text, "Device or resource busy");
+    holder.close();
+    port->open();
+    EXPECT_TRUE(port->isOpen());
+}
+
+TEST_F(QtSerialPortTest, TheDelegateMayCloseChangeAndLetGoFromInsideAReport) {
+    delegate.onReport = [&](ORSSerialPort& reporting, const std::string& what) {
+        if (what == "FA;") reporting.close();
+    };
+    port->open();
+    ASSERT_TRUE(line.send("FA;FB;MD"));
+    ASSERT_TRUE(reported(3));
+    runEventLoop(std::chrono::milliseconds(150));
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "FA;", "closed"}));
+
+    delegate.reports.clear();
+    std::weak_ptr<QtSerialPort> watched = port;
+    delegate.onReport = [&](ORSSerialPort& reporting, const std::string& what) {
+        if (what != "FB;") return;
+        reporting.setDelegate(nullptr);
+        port.reset();
+    };
+    port->open();
+    ASSERT_TRUE(line.send("FB;MD0;"));
+    ASSERT_TRUE(reported(2));
+    EXPECT_TRUE(eventually([&] { return watched.expired(); }));
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "FB;"}));
+}
+
+TEST_F(QtSerialPortTest, TheDelegateMayLetGoOfAPortThatWasRemoved) {
+    std::weak_ptr<QtSerialPort> watched = port;
+    delegate.onReport = [&](ORSSerialPort&, const std::string& what) {
+        if (what == "removed") port.reset();
+    };
+    port->open();
+    line.unplug();
+    EXPECT_TRUE(eventually([&] { return watched.expired(); }));
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "removed"}));
+}
+
+// The superuser may open everything; for a moment this test is nobody.
+class AsNobody {
+public:
+    AsNobody() { changed_ = ::geteuid() == 0 && ::setresuid(65534, 65534, 0) == 0; }
+    ~AsNobody() {
+        if (changed_ && ::setresuid(0, 0, 0) != 0) ADD_FAILURE() << "the superuser did not come back";
+    }
+
+private:
+    bool changed_ = false;
+};
+
+TEST(OpenFailureTest, TellsNotAllowedFromHeldBySomebodyElse) {
+    const QTemporaryDir folder;
+    ASSERT_EQ(::chmod(folder.path().toStdString().c_str(), 0755), 0);
+    const std::string path = folder.filePath("ttyUSB0").toStdString();
+    QFile device(QString::fromStdString(path));
+    ASSERT_TRUE(device.open(QIODevice::WriteOnly));
+    const auto failure = [&](QSerialPort::SerialPortError error) { return openFailure(error, path, "Qt's words"); };
+
+    EXPECT_EQ(failure(QSerialPort::PermissionError).kind, SerialPortErrorKind::busy);
+    ASSERT_EQ(::chmod(path.c_str(), 0), 0);
+    {
+        const AsNobody nobody;
+        const SerialPortError error = failure(QSerialPort::PermissionError);
+        EXPECT_EQ(error.kind, SerialPortErrorKind::permission);
+        EXPECT_EQ(error.text, "Permission denied");
+        EXPECT_FALSE(error.group.empty());
+    }
+    EXPECT_EQ(failure(QSerialPort::UnsupportedOperationError).text, "Qt's words");
+    ASSERT_TRUE(device.remove());
+    EXPECT_EQ(failure(QSerialPort::PermissionError).kind, SerialPortErrorKind::notFound);
+    EXPECT_EQ(failure(QSerialPort::DeviceNotFoundError).kind, SerialPortErrorKind::notFound);
+}
+
+}  // namespace
+}  // namespace corvane
