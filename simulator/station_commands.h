@@ -1,0 +1,12 @@
+#pragma once
+
+#include <span>
+
+#include "simulator/command_set.h"
+
+namespace simulator {
+
+/// The commands of texts, menu, tuner, meter, power and reports.
+std::span<const CommandRow> stationCommands();
+
+}  // namespace simulator
