@@ -36,8 +36,8 @@ public:
     virtual void serialPortWasOpened(ORSSerialPort& port) = 0;
     virtual void serialPortWasClosed(ORSSerialPort& port) = 0;
 
-    // Bytes from the line, e.g. "FA014250000;". A real port hands over one whole response at a time; what is handed over is
-    // valid only during the call.
+    // Bytes from the line, e.g. "FA014250000;". A real port hands over one whole response at a time; what is handed
+    // over is valid only during the call.
     virtual void serialPortDidReceiveData(ORSSerialPort& port, std::string_view bytes) = 0;
 
     // The device has left the system. The port is closed already and reports nothing more.
@@ -52,7 +52,8 @@ public:
 
     virtual const std::string& name() const = 0;         // as listed, e.g. "ttyUSB0"; unique in the list
     virtual const std::string& description() const = 0;  // as listed and as remembered; the same text as the name
-    virtual const std::string& details() const = 0;      // what hangs on it, for the eye: "USB serial adapter, /dev/ttyUSB0"
+    virtual const std::string& details()
+        const = 0;  // what hangs on it, for the eye: "USB serial adapter, /dev/ttyUSB0"
 
     virtual int baudRate() const = 0;  // bits a second
     virtual void setBaudRate(int baudRate) = 0;

@@ -22,8 +22,8 @@ class ORSSerialPortManager {
 public:
     virtual ~ORSSerialPortManager() = default;
 
-    // In the order of the port list: adapters on USB first, then other ports, named extra ports, and last the simulated one.
-    // A port keeps its object for as long as it stays in the list.
+    // In the order of the port list: adapters on USB first, then other ports, named extra ports, and last the simulated
+    // one. A port keeps its object for as long as it stays in the list.
     virtual const SerialPorts& availablePorts() const = 0;
 
     virtual void setObserver(SerialPortsObserver* observer) = 0;  // or nullptr; does not own it

@@ -8,9 +8,9 @@
 
 namespace corvane {
 
-// Takes chunks of any size and hands over one whole response at a time, its ";" included: "FA0142" and "50000;MD02;" give
-// "FA014250000;" and "MD02;". What has no ";" yet is held, at most `limit` bytes; a longer run is noise and is dropped up to
-// its ";". The owner calls `expire` when nothing has come for `patience` after a chunk that left a tail.
+// Takes chunks of any size and hands over one whole response at a time, its ";" included: "FA0142" and "50000;MD02;"
+// give "FA014250000;" and "MD02;". What has no ";" yet is held, at most `limit` bytes; a longer run is noise and is
+// dropped up to its ";". The owner calls `expire` when nothing has come for `patience` after a chunk that left a tail.
 class ResponseAssembler {
 public:
     using Deliver = std::function<void(std::string_view response)>;

@@ -1,0 +1,43 @@
+// What is kept between runs: read back when the window is there, and again when ports appear.
+#include "controller/serial_port_demo_controller.h"
+#include "display/pop_up_entries.h"
+
+namespace corvane {
+
+void SerialPortDemoController::restoreSettings() {
+    const std::string port = userDefaults.text("defaultPort").value_or("");
+    const std::string baudRate = userDefaults.text("defaultBaud").value_or("");
+    if (!baudRate.empty()) display.BaudPopUpButton.selectItemWithTitle(baudRate);
+    if (!port.empty() && !(link.serialPort && link.serialPort->isOpen())) {
+        display.PortPopUpButton.selectItemWithTitle(port);
+        choosePort(display.PortPopUpButton);
+    }
+
+    for (const PreferenceSwitch& row : preferenceSwitches) {
+        std::string& value = preferences.*row.value;
+        value = userDefaults.text(row.key).value_or(std::string(row.defaultValue));
+        MenuItem& item = display.*row.item;
+        item.setChecked(value == "1");
+        item.setTag(value == "1" ? row.onTag : row.onTag + 1000);
+    }
+    preferences.vqPortChecked = 1;
+    display.vqMemAButton.setTitle("  M-01");
+    const int power = display.powerPopUpButton.indexOfSelectedItem();
+    display.powerPopUpButton.setEntries(powerEntries());
+    display.powerPopUpButton.selectItem(power);
+}
+
+void SerialPortDemoController::goMainMenu(MenuItem& sender) {
+    for (const PreferenceSwitch& row : preferenceSwitches) {
+        const bool wasOn = sender.tag() == row.onTag;
+        if (!wasOn && sender.tag() != row.onTag + 1000) continue;
+        const std::string_view value = wasOn ? "0" : "1";
+        preferences.*row.value = value;
+        userDefaults.setText(row.key, value);
+        sender.setTag(wasOn ? row.onTag + 1000 : row.onTag);
+        (display.*row.item).setChecked(!wasOn);
+        return;
+    }
+}
+
+}  // namespace corvane

@@ -1,0 +1,189 @@
+// The face of Corvane: every operation of the program, and the state that they share.
+//
+// This header is an index; the bodies are in the rooms:
+//   controller           making it, and what each control does    controller/serial_port_demo_controller.cpp
+//   sending              what leaves for the transceiver          radio/send_path.cpp
+//   receiving            what comes from it, and who gets it      radio/receive_path.cpp
+//   ports                choosing, opening, coming and going      radio/serial_ports.cpp
+//   session              the steps after a port opened            radio/session_start.cpp
+//   frequency and mode   FA FB MC IF OI MD VS                     interpret/frequency_responses.cpp
+//   operating state      meters, gains, switches, texts           interpret/operating_state_responses.cpp
+//   front panel          the keys                                 controls/front_panel.cpp
+//   operator class       what may be done on a frequency          controls/operator_class.cpp
+//   memories             reading the memory channels              memories/memory_read.cpp
+//   settings             what is kept between runs                app/settings_restore.cpp
+//   voice and sounds     what is heard, and the help page         app/voice_and_sounds.cpp
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "app/preferences.h"
+#include "app/service_hosts.h"
+#include "display/display.h"
+#include "interpret/radio_state.h"
+#include "memories/memory_state.h"
+#include "platform/platform.h"
+#include "radio/link_state.h"
+
+namespace corvane {
+
+class SerialPortDemoController final : public ORSSerialPortDelegate, public SerialPortsObserver {
+public:
+    // --- controller: controller/serial_port_demo_controller.cpp
+    SerialPortDemoController(const Platform& platform, ServiceHosts hosts);
+    ~SerialPortDemoController() override;
+    void awakeFromNib();  // the window is there: restores the settings, the first time only
+
+    // --- sending: radio/send_path.cpp
+    void sendCommand(std::string_view commands);       // one write for each command in the text
+    void writeString(std::string_view commands);       // the whole text in one write
+    void sendBox(Button& sender);                      // what is typed in the raw-command box
+    void returnPressedInTextField(TextField& sender);  // Return in the raw-command box
+
+    // --- receiving: radio/receive_path.cpp
+    void serialPortDidReceiveData(ORSSerialPort& port, std::string_view bytes) override;
+    void interpretResponses(std::string_view text);  // every response in one chunk
+
+    // --- ports: radio/serial_ports.cpp
+    void setSerialPort(std::shared_ptr<ORSSerialPort> port);  // makes it, or none, the current port
+    void choosePort(PopUpButton& sender);
+    void chooseBaudRate(PopUpButton& sender);
+    void openOrClosePort(Button& sender);
+    void serialPortWasOpened(ORSSerialPort& port) override;
+    void serialPortWasClosed(ORSSerialPort& port) override;
+    void serialPortWasRemovedFromSystem(ORSSerialPort& port) override;
+    void serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error) override;
+    void serialPortsWereConnected(const SerialPorts& ports) override;
+    void serialPortsWereDisconnected(const SerialPorts& ports) override;
+    bool userNotificationCenterShouldPresentNotification() const;  // notices show while the program is in front, too
+    void userNotificationCenterDidDeliverNotification(NotificationId id);
+
+    // --- session: radio/session_start.cpp
+    void startSession();
+
+    // --- frequency and mode: interpret/frequency_responses.cpp
+    void readFrequencyA(std::string_view response);           // "FA014250000"
+    void readFrequencyB(std::string_view response);           // "FB007074000"
+    void readMemoryChannel(std::string_view response);        // "MC006"
+    void readInformation(std::string_view response);          // "IF000014155000+012010200000", side A
+    void readOppositeInformation(std::string_view response);  // the same with "OI", side B
+    void readMode(std::string_view response);                 // "MD02"
+    void readVfoASelected(std::string_view response);         // "VS0"
+    void readVfoBSelected(std::string_view response);         // "VS1"
+    void highlightBand(int frequency);                        // hertz
+    void clearBandButtons();
+    void enableTextMemoryControls();
+    void disableTextMemoryControls();
+    void setActiveVfo(std::string_view vfo);  // "A" or "B"
+
+    // --- operating state: interpret/operating_state_responses.cpp
+    void readKeyerMemory(std::string_view response);           // "KM2CQ CQ DE N0CALL"
+    void readTextMemory(std::string_view response);            // "EM15TEXT"
+    void readPreAmplifier(std::string_view response);          // "PA01"
+    void readNoiseBlankerLevel(std::string_view response);     // "NL0005"
+    void readNoiseReductionLevel(std::string_view response);   // "RL012"
+    void readAgc(std::string_view response);                   // "GT04"
+    void readAttenuator(std::string_view response);            // "RA00"
+    void readMeter(std::string_view response);                 // "RM1100000"
+    void readAFGain(std::string_view response);                // "AG0128"
+    void readRFGain(std::string_view response);                // "RG0255"
+    void readMeterSelection(std::string_view response);        // "MS50"
+    void readPower(std::string_view response);                 // "PC050"
+    void readMultiKnob(std::string_view response);             // "SF03"
+    void readFunctionKnob(std::string_view response);          // "SF1H"
+    void readScopeSpeed(std::string_view response);            // "SS0010000"
+    void readScopePeak(std::string_view response);             // "SS0120000"
+    void readScopeColor(std::string_view response);            // "SS03A0000"
+    void readScopeLevel(std::string_view response);            // "SS04+10.5"
+    void readScopeSpan(std::string_view response);             // "SS0570000"
+    void readSpectrumMode(std::string_view response);          // "SS06B0000"
+    void readSwitchedOff(std::string_view response);           // "PS0"
+    void readNoiseReductionSwitch(std::string_view response);  // "NR01"
+    void readNoiseBlankerSwitch(std::string_view response);    // "NB01"
+    void readSwitch(std::string_view response);                // "BC01", "CO000001", "BP00001", "BI1"
+
+    // --- front panel: controls/front_panel.cpp
+    void go(Button& sender);                                   // dispatches on the sender's tag
+    void stepFrequency(std::string_view direction, int step);  // "up" or "down", hertz
+
+    // --- operator class: controls/operator_class.cpp
+    void showOperatorClass(std::string_view megahertz);  // "14.250000"
+
+    // --- memories: memories/memory_read.cpp
+    void getMemoriesFromRadio(Button& sender);
+    void startMemoryRead();
+
+    // --- settings: app/settings_restore.cpp
+    void restoreSettings();
+    void goMainMenu(MenuItem& sender);
+
+    // --- voice and sounds: app/voice_and_sounds.cpp
+    void speak(std::string_view text);
+    void playSound(std::string_view name);
+    void playSystemSound(std::string_view name);
+    void showHelp();
+
+    // What the program uses of its surroundings.
+    ORSSerialPortManager& serialPortManager;
+    SettingsStore& userDefaults;
+    SpeechSynthesizer& synth;
+    std::string synthVoice;  // empty: the default voice of the user's language
+
+    // The shared state, each part with its room.
+    Display display;
+    LinkState link;
+    RadioState radio;
+    MemoryState memories;
+    Preferences preferences;
+
+private:
+    void bindControls();
+    void later(Scheduler::Duration delay, std::function<void()> task);  // unless the controller has gone by then
+
+    void fillPortPopUp();
+    void showLinkStatus();
+    void showLinkMessage(std::string_view message);
+    void deliverNotice(std::string_view title, std::string_view portName, std::string_view what);
+    void listPortsInLog(std::string_view what, const SerialPorts& ports);
+    void afterOpening(Scheduler::Duration delay, void (SerialPortDemoController::*step)());
+    void setUpMemorySlots();
+    void synchronise();
+    template <int page>
+    void requestSettingsPage() {
+        display.settingsTab.requestView(page);
+    }
+
+    struct Side;  // the fields and controls of VFO A or B
+    Side side(char vfo);
+    void readFrequency(std::string_view response, char vfo);
+    void readSideInformation(std::string_view response, char vfo);
+    void showMemoryText(int slot, std::string_view text, std::deque<Button>& familyButtons);
+
+    // The kinds of keys; each says whether it built a command, which the common tail then sends.
+    bool pressBandKey(Button& sender);
+    bool pressModeKey(Button& sender);
+    bool pressToggleKey(Button& sender);
+    bool pressMuteKey(Button& sender);
+    bool pressCommandKey(Button& sender);
+    bool pressScopeColorKey(Button& sender);
+    bool pressStepKey(Button& sender);
+    bool pressSwapKey(Button& sender);
+    bool pressPowerOnKey(Button& sender);
+    bool pressPowerOffKey(Button& sender);
+    bool pressVfoKey(Button& sender);
+    bool pressMemoryKey(Button& sender);
+    bool pressMemoryBKey(Button& sender);
+    bool pressTextMemoryKey(Button& sender);
+    bool pressClearLogKey(Button& sender);
+    bool pressProductPageKey(Button& sender);
+    bool pressReadMenuKey(Button& sender);
+    void finishGo();  // the tail of every key: break-in on, then send what the key built
+
+    Platform platform_;
+    ServiceHosts hosts_;
+    std::shared_ptr<const int> alive_ = std::make_shared<const int>(0);  // delayed tasks hold it weakly
+};
+
+}  // namespace corvane

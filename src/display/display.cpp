@@ -1,0 +1,60 @@
+#include "display/display.h"
+
+#include "display/pop_up_entries.h"
+
+namespace corvane {
+
+namespace {
+
+using MemoryOutlets = std::array<Outlet, Display::memories>;
+
+constexpr std::string_view memoryHelp = "What the transceiver holds in this memory.";
+constexpr MemoryOutlets cwMemories{{{"cwMemory1Button", 0, "", "CW memory 1", memoryHelp},
+                                    {"cwMemory2Button", 0, "", "CW memory 2", memoryHelp},
+                                    {"cwMemory3Button", 0, "", "CW memory 3", memoryHelp},
+                                    {"cwMemory4Button", 0, "", "CW memory 4", memoryHelp},
+                                    {"cwMemory5Button", 0, "", "CW memory 5", memoryHelp}}};
+constexpr MemoryOutlets rttyMemories{{{"rttyMemory1Button", 0, "", "RTTY memory 1", memoryHelp},
+                                      {"rttyMemory2Button", 0, "", "RTTY memory 2", memoryHelp},
+                                      {"rttyMemory3Button", 0, "", "RTTY memory 3", memoryHelp},
+                                      {"rttyMemory4Button", 0, "", "RTTY memory 4", memoryHelp},
+                                      {"rttyMemory5Button", 0, "", "RTTY memory 5", memoryHelp}}};
+constexpr MemoryOutlets pskMemories{{{"pskMemory1Button", 0, "", "PSK memory 1", memoryHelp},
+                                     {"pskMemory2Button", 0, "", "PSK memory 2", memoryHelp},
+                                     {"pskMemory3Button", 0, "", "PSK memory 3", memoryHelp},
+                                     {"pskMemory4Button", 0, "", "PSK memory 4", memoryHelp},
+                                     {"pskMemory5Button", 0, "", "PSK memory 5", memoryHelp}}};
+
+std::deque<Button> makeKeys() {
+    std::deque<Button> keys;
+    for (const FrontPanelKey& key : frontPanelKeys) keys.emplace_back(key.outlet);
+    return keys;
+}
+
+}  // namespace
+
+Display::Display()
+    : keys(makeKeys()),
+      cwMemoryButtons(cwMemories.begin(), cwMemories.end()),
+      rttyMemoryButtons(rttyMemories.begin(), rttyMemories.end()),
+      pskMemoryButtons(pskMemories.begin(), pskMemories.end()) {
+    modesPopUpButton.setEntries(entryList(modeEntries));
+    AGCPopUpButton.setEntries(entryList(agcEntries));
+    ATTPopUpButton.setEntries(entryList(attenuatorEntries));
+    ampPopUpButton.setEntries(entryList(preAmplifierEntries));
+    RFILPopUpButton.setEntries(entryList(roofingFilterEntries));
+    DNRPopupButton.setEntries(noiseReductionEntries());
+    NBPopupButton.setEntries(noiseBlankerEntries());
+    smeterPopUpButton.setEntries(entryList(meterEntries));
+    MPVDButton.setEntries(entryList(multiKnobEntries));
+    FuncKnobButton.setEntries(entryList(functionKnobEntries));
+    APOPopUpButton.setEntries(powerOffEntries());
+    colorPopUpButton.setEntries(scopeColorEntries());
+    spectrumModePopUpButton.setEntries(entryList(spectrumModeEntries));
+    scopeSpeedPopUpButton.setEntries(entryList(scopeSpeedEntries));
+    scopePeakPopUpButton.setEntries(entryList(scopePeakEntries));
+    scopeLevelPopUpButton.setEntries(scopeLevelEntries());
+    scopeSpanPopUpButton.setEntries(entryList(scopeSpanEntries));
+}
+
+}  // namespace corvane

@@ -1,0 +1,143 @@
+// Every control of the window by its name: the interface file. Texts and entries stand here and in the tables beside
+// it; where a control lies in the window is the shell's business.
+#pragma once
+
+#include <array>
+#include <deque>
+#include <string_view>
+
+#include "display/box.h"
+#include "display/button.h"
+#include "display/front_panel_keys.h"
+#include "display/level_indicator.h"
+#include "display/menu_item.h"
+#include "display/pop_up_button.h"
+#include "display/slider.h"
+#include "display/tab_view.h"
+#include "display/text_field.h"
+
+namespace corvane {
+
+struct Display {
+    static constexpr int stationPage = 0;
+    static constexpr int radioPage = 1;
+    static constexpr int keyerPage = 2;
+    static constexpr int settingsPage = 3;
+    static constexpr int memories = 5;  // of each family of keyer and text memories
+
+    Display();
+
+    // The key that had this tag at first, e.g. key(20) is m20Button; there must be one.
+    Button& key(int firstTag) { return keys[frontPanelKeyIndex(firstTag)]; }
+
+private:
+    std::deque<Button> keys;  // in the order of frontPanelKeys
+
+public:
+    // --- pages
+    TabView mainTab{{"mainTab", 0, "", "Pages"}};
+    TabView settingsTab{{"settingsTab", 0, "", "Menu groups"}};
+
+    // --- always in sight
+    Button& vqFreqAButton = key(500);
+    Button& vqFreqBButton = key(501);
+    Button& vqMemAButton = key(502);
+    TextField activeVfoField{{"activeVfoField", 0, "", "Active VFO", "The VFO that receives and transmits."}};
+    LevelIndicator sMeter{{"sMeter", 0, "S", "S-meter", "Strength of the received signal in S units."}, 10};
+    Button licenseClassButton{
+        {"licenseClassButton", 0, "", "Operator class", "Operator class allowed on this frequency."}};
+    TextField linkStatusField{{"linkStatusField", 0, "", "Link", "Whether the transceiver is connected."}};
+    TextField linkMessageField{{"linkMessageField", 0, "", "Message", "What went wrong, and what to do about it."}};
+
+    // --- station page
+    PopUpButton PortPopUpButton{{"PortPopUpButton", 0, "Port", "Serial port", "The serial port of the transceiver."}};
+    PopUpButton BaudPopUpButton{
+        {"BaudPopUpButton", 0, "Speed", "Speed in baud", "Speed of the serial port, in bits a second."}};
+    TextField portDetailsField{{"portDetailsField", 0, "", "Port details", "What hangs on the chosen port."}};
+    Button openCloseButton{
+        {"openCloseButton", 0, "Connect", "Connect or disconnect", "Open the chosen port, or close it.", "Ctrl+O"}};
+    Button readMemoriesButton{{"readMemoriesButton", 0, "Read memories", "Read the memory channels",
+                               "Read the 99 memory channels from the transceiver."}};
+    TextField sendTextField{{"sendTextField", 0, "Command", "Command to send",
+                             "CAT commands, for example FA; or MD02;FA014250000; \u2014 Return sends them.", "Ctrl+R"}};
+    Button sendButton{{"sendButton", 0, "Send", "Send the command", "Send the typed commands to the transceiver."}};
+
+    // --- radio page: bands and functions
+    Button& m6Button = key(6);
+    Button& m10Button = key(10);
+    Button& m12Button = key(12);
+    Button& m15Button = key(15);
+    Button& m17Button = key(17);
+    Button& m20Button = key(20);
+    Button& m30Button = key(30);
+    Button& m40Button = key(40);
+    Button& m60Button = key(60);
+    Button& m80Button = key(80);
+    Button& m160Button = key(160);
+    Button& mgenButton = key(161);
+    Button& mmwButton = key(162);
+    Button& dnfButton = key(228);
+    Button& bkinButton = key(229);
+    Button& notchButton = key(233);
+    Button& contButton = key(234);
+    Button& muteButton = key(610);
+    TextField freqTextField{
+        {"freqTextField", 0, "MHz", "Frequency in megahertz", "Frequency of the active VFO in MHz."}};
+
+    // --- radio page: pop-ups and sliders
+    PopUpButton modesPopUpButton{{"modesPopUpButton", 0, "Mode", "Mode", "Operating mode."}};
+    PopUpButton memPopUpButton{{"memPopUpButton", 0, "Memory", "Memory channel", "Memory channel in use."}};
+    PopUpButton AGCPopUpButton{
+        {"AGCPopUpButton", 0, "AGC", "Automatic gain control", "Automatic gain control: how fast it recovers."}};
+    PopUpButton ATTPopUpButton{{"ATTPopUpButton", 0, "ATT", "Attenuator", "Attenuator before the receiver."}};
+    PopUpButton ampPopUpButton{{"ampPopUpButton", 0, "IPO / AMP", "Pre-amplifier", "Pre-amplifier; IPO is none."}};
+    PopUpButton RFILPopUpButton{
+        {"RFILPopUpButton", 0, "Roofing", "Roofing filter", "Roofing filter. The transceiver does not report it."}};
+    PopUpButton DNRPopupButton{
+        {"DNRPopupButton", 0, "DNR", "Noise reduction level", "Digital noise reduction, OFF or level 1 to 15."}};
+    PopUpButton NBPopupButton{
+        {"NBPopupButton", 0, "NB", "Noise blanker level", "Noise blanker, OFF or level 1 to 10."}};
+    PopUpButton smeterPopUpButton{
+        {"smeterPopUpButton", 0, "Meter", "Transmit meter", "What the meter shows while transmitting."}};
+    PopUpButton MPVDButton{{"MPVDButton", 0, "MPVD", "Multi-purpose knob", "What the multi-purpose knob does."}};
+    PopUpButton FuncKnobButton{{"FuncKnobButton", 0, "FUNC", "Function knob", "What the function knob does."}};
+    PopUpButton powerPopUpButton{{"", 2007, "Power", "Transmit power", "Transmit power in watts."}};
+    PopUpButton APOPopUpButton{
+        {"APOPopUpButton", 2006, "Auto off", "Automatic power-off", "Switches the transceiver off after this time."}};
+    PopUpButton colorPopUpButton{{"colorPopUpButton", 0, "Color", "Scope color", "Color of the scope display."}};
+    PopUpButton spectrumModePopUpButton{
+        {"spectrumModePopUpButton", 0, "Display", "Scope display", "Kind of the scope display."}};
+    PopUpButton scopeSpeedPopUpButton{{"", 2000, "Speed", "Scope speed", "How fast the scope sweeps."}};
+    PopUpButton scopePeakPopUpButton{{"", 2001, "Peak", "Scope peak", "How strongly the scope shows peaks."}};
+    PopUpButton scopeLevelPopUpButton{
+        {"", 2004, "Level", "Scope level in decibels", "Reference level of the scope in dB."}};
+    PopUpButton scopeSpanPopUpButton{{"", 2005, "Span", "Scope span", "Width of the band that the scope shows."}};
+    Slider afGainSlider{{"afGainSlider", 0, "AF gain", "AF gain", "Volume, 0 to 255."}, 0, 255};
+    Slider rfGainSlider{{"rfGainSlider", 0, "RF gain", "RF gain", "Receiver gain, 0 to 255."}, 0, 255};
+
+    // --- keyer page
+    Box sendBox{{"sendBox", 0, "Keyer / Encoder", "Keyer"}};
+    std::array<Button*, memories> textMemoryButtons{&key(601), &key(602), &key(603), &key(604), &key(605)};
+    TextField textMemoryField{{"textMemoryField", 0, "Text", "Text to send", "Text to transmit in the present mode."}};
+    Button sendTextMemoryButton{{"sendTextMemoryButton", 0, "Send", "Send the text", "Transmit the typed text."}};
+    Button clearTextMemoryButton{{"clearTextMemoryButton", 0, "Clear", "Clear the text", "Empty the text to send."}};
+    TextField sentTextMemoryField{
+        {"sentTextMemoryField", 0, "Sent", "Log of sent texts", "What was sent, newest first."}};
+    std::deque<Button> cwMemoryButtons;    // cwMemory1Button to cwMemory5Button
+    std::deque<Button> rttyMemoryButtons;  // rttyMemory1Button to rttyMemory5Button
+    std::deque<Button> pskMemoryButtons;   // pskMemory1Button to pskMemory5Button
+
+    // --- menu bar
+    MenuItem menuItemPreferencesVoice{
+        {"menuItemPreferencesVoice", 900, "Voice guide", "Voice guide", "Speak bands, modes and stations."}};
+    MenuItem menuItemPreferencesSounds{
+        {"menuItemPreferencesSounds", 901, "Sounds", "Sounds", "Play Corvane's own sounds."}};
+    MenuItem menuItemPreferencesIPO{{"menuItemPreferencesIPO", 902, "Memory IPO", "Memory IPO",
+                                     "Recalling a memory channel also switches the pre-amplifier off."}};
+
+    std::array<Button*, 13> bandButtons{&m6Button,   &m10Button,  &m12Button, &m15Button, &m17Button,
+                                        &m20Button,  &m30Button,  &m40Button, &m60Button, &m80Button,
+                                        &m160Button, &mgenButton, &mmwButton};
+};
+
+}  // namespace corvane

@@ -1,0 +1,24 @@
+// An entry of the menu bar.
+#pragma once
+
+#include "display/control.h"
+
+namespace corvane {
+
+class MenuItem : public Control {
+public:
+    using Control::Control;
+
+    bool checked() const { return checked_; }
+    void setChecked(bool checked) { assign(checked_, checked); }
+
+    std::function<void(MenuItem&)> action;
+    void performClick() {
+        if (enabled() && action) action(*this);
+    }
+
+private:
+    bool checked_ = false;
+};
+
+}  // namespace corvane

@@ -1,0 +1,27 @@
+// The transceiver's setup menu by groups: which items a read of a group asks for.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace corvane {
+
+struct SubMenu {
+    int number;  // group and sub-menu, e.g. 0106 as 106
+    int items;   // items 01 to this one
+    int firstNotAsked = 0;
+    int lastNotAsked = 0;
+};
+
+inline constexpr std::array subMenus{
+    SubMenu{101, 19}, SubMenu{102, 17}, SubMenu{103, 21}, SubMenu{104, 20},        SubMenu{105, 16}, SubMenu{106, 5},
+    SubMenu{107, 6},  SubMenu{201, 20}, SubMenu{202, 11}, SubMenu{301, 26, 8, 10}, SubMenu{302, 4},  SubMenu{303, 19},
+    SubMenu{304, 7},  SubMenu{305, 7},  SubMenu{401, 6},  SubMenu{402, 4},         SubMenu{403, 4},  SubMenu{404, 2},
+};
+
+// The read requests of a sub-menu back to back: 106 gives "EX010601;EX010602;EX010603;EX010604;EX010605;". A number
+// that is not in the table gives none.
+std::string subMenuRequest(int number);
+
+}  // namespace corvane

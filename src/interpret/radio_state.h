@@ -1,0 +1,29 @@
+// The transceiver as it reports itself. Values are kept as the text received, leading zeros included.
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace corvane {
+
+struct RadioState {
+    std::string vqFreqA;            // VFO A in hertz, nine digits, e.g. "014250000"; empty before the first report
+    std::string vqFreqB;            // VFO B
+    std::string vqAorB = "B";       // the active VFO, "A" or "B"
+    std::string vqModeA = "vfo";    // what side A is tuned by: "vfo" or "memory"
+    std::string vqModeB = "vfo";    // side B
+    std::string vqMode;             // name of the operating mode, e.g. "USB"
+    std::string vqMemCh = "001";    // the memory channel reported last, three digits
+    std::string vqMemChA = "001";   // the memory channel of side A
+    std::string vqMemChB = "002";   // the memory channel of side B
+    std::string vqMemATag;          // the tag of side A's channel
+    std::string vqVFOA;             // VFO A as it is spoken: "1 4 dot 250"
+    std::string vqVFOB;             // VFO B
+    std::string vqAFLevel = "000";  // the last AF gain of 5 or more, three digits
+    std::string vqRFLevel = "000";  // the last RF gain, three digits
+    int vqMuted = 0;                // 1 while the AF gain is below 5
+    std::array<std::string, 6> vqTextMemoryArray;  // keyer and text memories as last reported; 1 to 5 are used
+    std::string vqTextMemoryRevert;                // memory 5 of whichever family was reported last
+};
+
+}  // namespace corvane
