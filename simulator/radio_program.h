@@ -1,0 +1,45 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+#include "simulator/console.h"
+#include "simulator/port_link.h"
+#include "simulator/program_options.h"
+#include "simulator/pseudo_terminal.h"
+#include "simulator/simulated_transceiver.h"
+#include "simulator/stop_signals.h"
+
+namespace simulator {
+
+/// corvane-radio itself: the simulated transceiver between a pseudo-terminal and the typed commands of standard input.
+/// Prints "port /dev/pts/3" whenever it is plugged in and "unplugged" when it is not.
+class RadioProgram {
+public:
+    explicit RadioProgram(const ProgramOptions& options);
+
+    /// Runs until "quit", the end of a terminal's input or a signal. The end of input that is no terminal only ends the
+    /// typed commands. Throws std::system_error when the system gives no port or the link cannot be made.
+    void run();
+
+private:
+    Time now() const;
+    int waitMilliseconds() const;
+    void waitAndServe();
+    void followPlug();
+    void readTyped();
+    void executeTyped();
+
+    ProgramOptions options_;
+    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    StopSignals stopSignals_;
+    SimulatedTransceiver transceiver_;
+    Console console_{transceiver_};
+    std::unique_ptr<PseudoTerminal> terminal_;
+    std::unique_ptr<PortLink> link_;
+    std::string typed_;
+    bool inputEnded_ = false;
+};
+
+}  // namespace simulator
