@@ -7,11 +7,11 @@ namespace simulator {
 
 /// The command line of corvane-radio.
 struct ProgramOptions {
-    std::string link;  ///< symbolic link to make to the port, or empty
+    std::string link = {};  ///< symbolic link to make to the port, or empty
     bool instant = false;
     bool silent = false;
     bool help = false;
-    std::string fault;  ///< what is wrong with the command line, or empty
+    std::string fault = {};  ///< what is wrong with the command line, or empty
 
     bool operator==(const ProgramOptions&) const = default;
 };
