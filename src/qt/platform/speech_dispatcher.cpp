@@ -2,6 +2,7 @@
 
 #include <libspeechd.h>
 
+#include <cstdlib>
 #include <optional>
 #include <string>
 
@@ -10,6 +11,15 @@ namespace corvane {
 namespace {
 
 constexpr std::chrono::milliseconds farewell{150};
+
+// The service is started where it does not run yet, unless somebody named the address of one that he runs himself.
+SPDConnection* openConnection() {
+    const int start = std::getenv("SPEECHD_ADDRESS") == nullptr ? 1 : 0;
+    char* reason = nullptr;
+    SPDConnection* connection = spd_open2("corvane", "main", nullptr, SPD_MODE_SINGLE, nullptr, start, &reason);
+    std::free(reason);
+    return connection;
+}
 
 }  // namespace
 
@@ -35,7 +45,7 @@ private:
         // Nothing but a fresh connection goes back to the default voice.
         if (!connection_ && lastFailure_ && Clock::now() - *lastFailure_ < retry_) return false;
         connection_.reset();
-        connection_.reset(spd_open("corvane", "main", nullptr, SPD_MODE_SINGLE));
+        connection_.reset(openConnection());
         if (!connection_) {
             lastFailure_ = Clock::now();
             return false;

@@ -3,7 +3,8 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QEvent>
+#include <QEventLoop>
+#include <QTimer>
 #include <chrono>
 
 namespace corvane {
@@ -11,10 +12,12 @@ namespace corvane {
 // Runs the event loop until `condition` holds; false when it has not by the deadline.
 template <class Condition>
 bool eventually(Condition condition, std::chrono::milliseconds deadline = std::chrono::seconds(5)) {
-    const QDeadlineTimer timer(deadline);
+    const QDeadlineTimer end(deadline);
+    QTimer look;  // conditions may come true without an event
+    look.start(std::chrono::milliseconds(2));
     while (!condition()) {
-        if (timer.hasExpired()) return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 5);
+        if (end.hasExpired()) return false;
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     return true;
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
@@ -26,8 +27,8 @@ public:
         QFile config(folder_.filePath("bus.conf"));
         if (!config.open(QIODevice::WriteOnly)) return;
         config.write("<busconfig><type>session</type><listen>unix:dir=" + folder_.path().toUtf8() +
-                     "</listen><policy context=\"default\"><allow send_destination=\"*\"/><allow own=\"*\"/></policy>"
-                     "</busconfig>");
+                     "</listen><policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
+                     "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>");
         config.close();
         daemon_.start("dbus-daemon", {"--nofork", "--print-address=1", "--config-file=" + config.fileName()});
         if (daemon_.waitForReadyRead(5000)) address_ = daemon_.readLine().trimmed();

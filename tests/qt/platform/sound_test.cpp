@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QByteArray>
 #include <QElapsedTimer>
 #include <algorithm>
 #include <cstdint>

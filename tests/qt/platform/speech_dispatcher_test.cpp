@@ -89,20 +89,21 @@ private:
     }
 
     void answer(int socket, const std::string& line) {
+        const bool speak = !speaking_ && (line == "SPEAK" || line == "speak");
         std::string reply = "200 OK\r\n";
         if (speaking_ && line != ".") {
             reply.clear();
         } else if (speaking_) {
             reply = "225-1\r\n225 OK MESSAGE QUEUED\r\n";
-        } else if (line == "SPEAK") {
+        } else if (speak) {
             reply = "230 OK RECEIVING DATA\r\n";
         }
         {
             const std::lock_guard lock(mutex_);
-            if (line != "." && line != "SPEAK") lines_.push_back((speaking_ ? "> " : "") + line);
+            if (line != "." && !speak) lines_.push_back((speaking_ ? "> " : "") + line);
         }
-        speaking_ = line == "SPEAK" || (speaking_ && line != ".");
-        EXPECT_EQ(::send(socket, reply.data(), reply.size(), MSG_NOSIGNAL), static_cast<ssize_t>(reply.size()));
+        speaking_ = speak || (speaking_ && line != ".");
+        ::send(socket, reply.data(), reply.size(), MSG_NOSIGNAL);  // a client that has gone need not be told
     }
 
     Manner manner_;
@@ -142,7 +143,7 @@ TEST_F(SpeechDispatcherTest, AVoiceIsSetAndTheDefaultComesBack) {
     speech.speak("one", "Anna");
     speech.speak("two", "");
     ASSERT_TRUE(eventually([&] { return service.texts().size() == 2; }));
-    EXPECT_TRUE(service.heard("SET self SYNTHESIS_VOICE Anna"));
+    EXPECT_TRUE(service.heard("SET SELF SYNTHESIS_VOICE Anna"));
     EXPECT_EQ(service.connections(), 2);
 }
 
@@ -151,7 +152,7 @@ TEST_F(SpeechDispatcherTest, WithoutAServiceItIsSilentAndTriesAgainLater) {
     SpeechDispatcher eager(std::chrono::milliseconds(1));
     patient.speak("lost", "");
     eager.speak("lost", "");
-    runEventLoop(std::chrono::milliseconds(100));
+    runEventLoop(std::chrono::milliseconds(250));
     const FakeSpeechService service(path);
     patient.speak("too early", "");
     EXPECT_TRUE(eventually([&] {
