@@ -16,6 +16,7 @@ namespace corvane {
 namespace {
 
 constexpr std::chrono::milliseconds farewell{150};
+constexpr std::uint32_t unset = 0xFFFFFFFF;  // the server chooses
 constexpr int mostChannels = PA_CHANNELS_MAX;
 constexpr sf_count_t longestSound = 30;  // seconds; what is longer is cut
 
@@ -43,8 +44,11 @@ struct CloseStream {
 
 void playSound(const std::string& name, const Sound& sound, const std::stop_token& stop) {
     if (sound.samples.empty()) return;
+    const std::uint32_t second = sound.format.rate * sound.format.channels * sizeof(std::int16_t);
+    // The server's own choice of two seconds would hold up the sound, and the next one even longer.
+    const pa_buffer_attr buffer{unset, second / 10, unset, unset, unset};
     const std::unique_ptr<pa_simple, CloseStream> stream(pa_simple_new(
-        nullptr, "Corvane", PA_STREAM_PLAYBACK, nullptr, name.c_str(), &sound.format, nullptr, nullptr, nullptr));
+        nullptr, "Corvane", PA_STREAM_PLAYBACK, nullptr, name.c_str(), &sound.format, nullptr, &buffer, nullptr));
     if (!stream) return;
     // In pieces of a tenth of a second, so that the end of the program needs not wait for the end of the sound.
     const std::size_t piece = std::max<std::size_t>(1, std::size_t{sound.format.rate} * sound.format.channels / 10);
