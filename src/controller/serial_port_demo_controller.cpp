@@ -32,9 +32,7 @@ void SerialPortDemoController::awakeFromNib() {
     if (preferences.vqPortChecked == 1) return;
     fillPortPopUp();
     restoreSettings();
-    // Where there is only one port there is nothing to choose.
-    const SerialPorts& ports = serialPortManager.availablePorts();
-    if (!link.serialPort && ports.size() == 1) setSerialPort(ports.front());
+    if (!link.serialPort) setSerialPort(serialPortManager.suggestedPort());
 }
 
 void SerialPortDemoController::bindControls() {

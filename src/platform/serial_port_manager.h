@@ -26,6 +26,9 @@ public:
     // one. A port keeps its object for as long as it stays in the list.
     virtual const SerialPorts& availablePorts() const = 0;
 
+    // The port to begin with while none is remembered: a named extra port, else an adapter on USB, else the simulated one.
+    virtual std::shared_ptr<ORSSerialPort> suggestedPort() const { return nullptr; }
+
     virtual void setObserver(SerialPortsObserver* observer) = 0;  // or nullptr; does not own it
 };
 

@@ -66,6 +66,16 @@ SerialPorts QtSerialPortManager::take(const std::vector<SerialDevice>& devices) 
     return fresh;
 }
 
+std::shared_ptr<ORSSerialPort> QtSerialPortManager::suggestedPort() const {
+    const auto isExtra = [this](const Entry& entry) {
+        return std::find(extras_.begin(), extras_.end(), entry.device) != extras_.end();
+    };
+    auto entry = std::find_if(entries_.begin(), entries_.end(), isExtra);
+    if (entry == entries_.end())
+        entry = std::find_if(entries_.begin(), entries_.end(), [](const Entry& listed) { return listed.device.usb; });
+    return entry == entries_.end() ? std::shared_ptr<ORSSerialPort>(sources_.lastPort) : entry->port;
+}
+
 void QtSerialPortManager::refresh() {
     extras_ = presentExtras();
     const std::vector<Entry> before = entries_;

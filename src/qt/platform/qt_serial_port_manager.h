@@ -33,6 +33,7 @@ public:
     explicit QtSerialPortManager(SerialPortSources sources);
 
     const SerialPorts& availablePorts() const override { return ports_; }
+    std::shared_ptr<ORSSerialPort> suggestedPort() const override;
     void setObserver(SerialPortsObserver* observer) override { observer_ = observer; }
 
 private:

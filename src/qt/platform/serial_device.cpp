@@ -15,7 +15,7 @@ SerialDevice deviceOf(const QSerialPortInfo& info) {
     if (what.isEmpty()) what = info.manufacturer();
     if (what.isEmpty()) what = usb ? QStringLiteral("USB serial adapter") : QStringLiteral("Serial port");
     return {info.portName().toStdString(), info.systemLocation().toStdString(),
-            (what + QLatin1String(", ") + info.systemLocation()).toStdString()};
+            (what + QLatin1String(", ") + info.systemLocation()).toStdString(), usb};
 }
 
 }  // namespace

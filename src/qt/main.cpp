@@ -1,0 +1,34 @@
+// Corvane: one window, one transceiver.
+#include <QApplication>
+#include <QIcon>
+#include <QStyleFactory>
+
+#include "app/service_hosts.h"
+#include "controller/serial_port_demo_controller.h"
+#include "qt/platform/qt_platform.h"
+#include "qt/start_report.h"
+#include "qt/window/main_window.h"
+
+int main(int argc, char** argv) {
+    QApplication::setApplicationName("corvane");
+    QApplication::setApplicationDisplayName("Corvane");
+    QApplication::setApplicationVersion(CORVANE_VERSION);
+    QApplication::setDesktopFileName("corvane");
+    const QApplication application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+
+    corvane::QtPlatform platform;
+    corvane::SerialPortDemoController controller(platform.platform(),
+                                                 corvane::ServiceHosts::from(qEnvironmentVariable("CORVANE_SERVICES").toStdString()));
+    corvane::MainWindow window(controller);
+    corvane::reportStart(window);
+    // The icon costs a few milliseconds that the first paint need not wait for.
+    QObject::connect(&window, &corvane::MainWindow::firstPainted, &window,
+                     [&window] { window.setWindowIcon(QIcon::fromTheme("corvane", QIcon(":/icons/corvane.svg"))); });
+    controller.awakeFromNib();
+    window.show();
+    const int result = QApplication::exec();
+    // The transceiver must not go on reporting to nobody.
+    if (controller.link.serialPort && controller.link.serialPort->isOpen()) controller.display.openCloseButton.performClick();
+    return result;
+}

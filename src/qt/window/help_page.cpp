@@ -1,0 +1,42 @@
+// Every shortcut, made from the same tables as the controls.
+#include <QGridLayout>
+#include <QLabel>
+
+#include "qt/window/control_texts.h"
+#include "qt/window/pages.h"
+#include "qt/window/panel.h"
+#include "qt/window/shortcuts.h"
+#include "qt/window/theme.h"
+
+namespace corvane {
+
+QWidget* makeHelpPage(Display& display) {
+    auto* page = new QWidget;
+    auto* rows = new QVBoxLayout(page);
+    rows->setContentsMargins(4 * gridStep, 4 * gridStep, 4 * gridStep, 4 * gridStep);
+    auto* panel = new Panel("Shortcuts");
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(4 * gridStep);
+    grid->setVerticalSpacing(gridStep);
+    const std::vector<ShortcutText> shortcuts = shortcutTexts(display);
+    const int rowsInColumn = static_cast<int>((shortcuts.size() + 2) / 3);
+    int place = 0;
+    for (const ShortcutText& shortcut : shortcuts) {
+        const int column = 2 * (place / rowsInColumn);
+        auto* keys = new QLabel(shortcut.keys);
+        keys->setFont(typeface(TypeSize::body, QFont::DemiBold));
+        auto* meaning = new QLabel(shortcut.meaning);
+        meaning->setForegroundRole(QPalette::PlaceholderText);
+        keys->setBuddy(meaning);
+        grid->addWidget(keys, place % rowsInColumn, column);
+        grid->addWidget(meaning, place % rowsInColumn, column + 1);
+        grid->setColumnStretch(column + 1, 1);
+        ++place;
+    }
+    panel->content().addLayout(grid);
+    rows->addWidget(panel);
+    rows->addStretch();
+    return page;
+}
+
+}  // namespace corvane

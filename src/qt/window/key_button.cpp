@@ -1,0 +1,122 @@
+#include "qt/window/key_button.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include "qt/window/control_texts.h"
+#include "qt/window/theme.h"
+
+namespace corvane {
+
+namespace {
+
+// A loudspeaker, with waves or crossed out, in a square of 16 units.
+void paintLoudspeaker(QPainter& painter, const QRectF& square, bool mute, const QColor& ink) {
+    painter.save();
+    painter.translate(square.topLeft());
+    painter.scale(square.width() / 16, square.height() / 16);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    painter.drawPolygon(QPolygonF({{1, 6}, {4, 6}, {8, 2}, {8, 14}, {4, 10}, {1, 10}}));
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(ink, 1.6, Qt::SolidLine, Qt::RoundCap));
+    if (mute) {
+        painter.drawLine(QPointF(10.5, 5.5), QPointF(15, 10.5));
+        painter.drawLine(QPointF(15, 5.5), QPointF(10.5, 10.5));
+    } else {
+        painter.drawArc(QRectF(6.5, 4.5, 6, 7), -60 * 16, 120 * 16);
+        painter.drawArc(QRectF(6, 2, 9.5, 12), -60 * 16, 120 * 16);
+    }
+    painter.restore();
+}
+
+}  // namespace
+
+KeyButton::KeyButton(Button& model, ChangeQueue& queue, QWidget* parent)
+    : KeyButton(model, queue, typeface(TypeSize::key, QFont::DemiBold), parent) {}
+
+KeyButton::KeyButton(Button& model, ChangeQueue& queue, const QFont& font, QWidget* parent)
+    : QPushButton(parent), model_(model) {
+    describe(*this, model);
+    setFont(font);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setFocusPolicy(model.action ? Qt::StrongFocus : Qt::TabFocus);
+    setCheckable(true);
+    connect(this, &QPushButton::clicked, this, [this] { model_.performClick(); });
+    // A screen reader toggles a checkable button; that is a press.
+    connect(this, &QPushButton::toggled, this, [this](bool on) {
+        if (showing_) return;
+        showing_ = true;
+        setChecked(!on);
+        showing_ = false;
+        model_.performClick();
+    });
+    model.addView(queue, [this] { show_(); });
+    show_();
+}
+
+void KeyButton::show_() {
+    showing_ = true;
+    setChecked(model_.bezelColor() != Color::none);
+    showing_ = false;
+    if (isEnabled() != model_.enabled()) setEnabled(model_.enabled());
+    if (shown_ != model_.visible()) {
+        shown_ = model_.visible();
+        setVisible(shown_);
+    }
+    const QString title = QString::fromStdString(model_.title());
+    if (text() != title) setText(title);
+    const QString name = spokenName();
+    if (accessibleName() != name) setAccessibleName(name);
+    update();
+}
+
+QString KeyButton::spokenName() const {
+    return model_.outlet().title.empty() ? spokenWithValue(model_, model_.title()) : labelOf(model_);
+}
+
+QSize KeyButton::sizeHint() const {
+    const QFontMetrics metrics(font());
+    return {metrics.horizontalAdvance(text()) + 5 * gridStep, metrics.height() + 4 * gridStep};
+}
+
+QSize KeyButton::minimumSizeHint() const { return {10 * gridStep, sizeHint().height()}; }
+
+void KeyButton::paintEvent(QPaintEvent*) {
+    const Theme& theme = Theme::current();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool lit = model_.bezelColor() != Color::none;
+    QColor fill = theme.of(model_.bezelColor(), underMouse() && model_.action ? theme.keyHover : theme.key);
+    if (!model_.action && !lit) fill = theme.panel;
+    if (isDown()) fill = fill.darker(120);
+    if (!isEnabled() && !lit) fill = theme.panel;
+    paintCap(painter, fill);
+    QColor ink = lit ? readableOn(fill) : theme.text;
+    if (!isEnabled()) ink = palette().color(QPalette::Disabled, QPalette::ButtonText);
+    paintFace(painter, rect().adjusted(gridStep, 0, -gridStep, 0), ink);
+}
+
+void KeyButton::paintCap(QPainter& painter, const QColor& fill) {
+    const Theme& theme = Theme::current();
+    painter.setBrush(fill);
+    painter.setPen(hasFocus() ? QPen(theme.accent, 2) : QPen(theme.line, 1));
+    const double inset = hasFocus() ? 1.0 : 0.5;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), 6, 6);
+}
+
+void KeyButton::paintFace(QPainter& painter, const QRect& face, const QColor& ink) {
+    painter.setPen(ink);
+    painter.setFont(font());
+    QRect textFace = face;
+    if (model_.image() != Image::none) {
+        const int side = QFontMetrics(font()).height();
+        paintLoudspeaker(painter, QRectF(face.left() + gridStep, face.center().y() - side / 2.0, side, side),
+                         model_.image() == Image::audioOutputMute, ink);
+        textFace.setLeft(face.left() + side + 2 * gridStep);
+    }
+    const QString shown = QFontMetrics(font()).elidedText(text(), Qt::ElideRight, textFace.width());
+    painter.drawText(textFace, Qt::AlignCenter | Qt::TextSingleLine, shown);
+}
+
+}  // namespace corvane

@@ -1,0 +1,43 @@
+// A key of the window: a button model painted as a key cap, its bezel colour filling it while it is lit.
+#pragma once
+
+#include <QPushButton>
+
+#include "display/button.h"
+
+namespace corvane {
+
+class ChangeQueue;
+
+class KeyButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    // Shows `model` for as long as both live. A lit key is "checked" to a screen reader.
+    KeyButton(Button& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    // A font can only be given once: under a style sheet a later one is forgotten.
+    KeyButton(Button& model, ChangeQueue& queue, const QFont& font, QWidget* parent);
+
+    void paintEvent(QPaintEvent* event) override;
+    void nextCheckState() override {}  // only the model lights and darkens a key
+
+    const Button& model() const { return model_; }
+    // The face of the key on its cap; `ink` reads well on it.
+    virtual void paintFace(QPainter& painter, const QRect& face, const QColor& ink);
+    virtual QString spokenName() const;
+
+private:
+    void show_();
+    void paintCap(QPainter& painter, const QColor& fill);
+
+    Button& model_;
+    bool showing_ = false;
+    bool shown_ = true;
+};
+
+}  // namespace corvane

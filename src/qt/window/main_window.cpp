@@ -1,0 +1,151 @@
+#include "qt/window/main_window.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "qt/window/control_texts.h"
+#include "qt/window/header_bar.h"
+#include "qt/window/pages.h"
+#include "qt/window/shortcuts.h"
+#include "qt/window/tab_pages.h"
+#include "qt/window/theme.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr int helpPage = Display::settingsPage + 1;
+constexpr auto themeKey = "theme";
+constexpr auto geometryKey = "windowGeometry";
+
+}  // namespace
+
+MainWindow::MainWindow(SerialPortDemoController& controller) : controller_(controller) {
+    setWindowTitle("Corvane");
+    setObjectName("mainWindow");
+    // However many reports arrive in one turn of the event loop, the controls are shown anew once.
+    queue_.onFirstChange = [this] {
+        QMetaObject::invokeMethod(this, [this] { queue_.refresh(); }, Qt::QueuedConnection);
+    };
+    chooseTheme(QString::fromStdString(controller_.userDefaults.text(themeKey).value_or("dark")));
+    makePages();
+    makeMenus();
+    addShortcuts(*this, controller_.display);
+    auto* command = new QShortcut(QKeySequence(toQString(controller_.display.sendTextField.outlet().shortcut)), this);
+    connect(command, &QShortcut::activated, this, &MainWindow::focusCommandField);
+    // The first thing to do is to connect: Space does it.
+    if (auto* connectKey = findChild<QPushButton*>("openCloseButton")) connectKey->setFocus();
+    resize(1280, 800);
+    const std::string geometry = controller_.userDefaults.text(geometryKey).value_or("");
+    if (!geometry.empty()) restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(geometry)));
+}
+
+void MainWindow::makePages() {
+    Display& display = controller_.display;
+    auto* body = new QWidget;
+    auto* rows = new QVBoxLayout(body);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(new HeaderBar(display, queue_));
+    auto* pages = new TabPages(display.mainTab, queue_);
+    pages->addPage("Station", [this, &display] { return makeStationPage(display, queue_); });
+    pages->addPage("Radio", [this, &display] { return makeRadioPage(display, queue_); });
+    pages->addPage("Keyer", [this, &display] { return makeKeyerPage(display, queue_); });
+    pages->addPage("Settings", [this, &display] { return makeSettingsPage(display, queue_); });
+    pages->addPage("Help", [&display] { return makeHelpPage(display); });
+    rows->addWidget(pages, 1);
+    setCentralWidget(body);
+    for (int index = 0; index <= helpPage; ++index) {
+        auto* shortcut = new QShortcut(QKeySequence("Alt+" + QString::number(index + 1)), this);
+        connect(shortcut, &QShortcut::activated, this, [this, index] { showPage(index); });
+    }
+}
+
+void MainWindow::makeMenus() {
+    Display& display = controller_.display;
+    auto* program = menuBar()->addMenu("&Corvane");
+    program->addAction("&Connect or disconnect", this, [&display] { display.openCloseButton.performClick(); });
+    program->addSeparator();
+    program->addAction("&Quit", QKeySequence("Ctrl+Q"), this, &QWidget::close);
+
+    auto* preferences = menuBar()->addMenu("&Preferences");
+    addPreference(*preferences, display.menuItemPreferencesVoice);
+    addPreference(*preferences, display.menuItemPreferencesSounds);
+    addPreference(*preferences, display.menuItemPreferencesIPO);
+    preferences->addSeparator();
+    auto* themes = new QActionGroup(this);
+    for (const char* name : {"dark", "light"}) {
+        auto* action = preferences->addAction(QString(name).replace(0, 1, QChar(name[0]).toUpper()) + " theme");
+        action->setCheckable(true);
+        action->setChecked((Theme::currentKind() == ThemeKind::dark) == (QLatin1String(name) == QLatin1String("dark")));
+        themes->addAction(action);
+        connect(action, &QAction::triggered, this, [this, name] {
+            chooseTheme(name);
+            controller_.userDefaults.setText(themeKey, name);
+        });
+    }
+
+    auto* help = menuBar()->addMenu("&Help");
+    help->addAction("&Shortcuts", QKeySequence("F1"), this, [this] { showPage(helpPage); });
+    help->addAction("&Help on the web", this, [this] { controller_.showHelp(); })->setObjectName("showHelp");
+    Button& productPage = display.key(805);
+    help->addAction(toQString(productPage.title()), this, [&productPage] { productPage.performClick(); })
+        ->setObjectName(QString::fromStdString(productPage.objectName()));
+    help->addSeparator();
+    help->addAction("&About Corvane", this, [this] {
+        QMessageBox::about(this, "About Corvane",
+                           "<b>Corvane " + QApplication::applicationVersion() +
+                               "</b><p>Operates an HF transceiver from the desktop.<p>Free software under the GNU General "
+                               "Public License, version 3 or later.");
+    });
+}
+
+void MainWindow::addPreference(QMenu& menu, MenuItem& item) {
+    auto* action = menu.addAction(toQString(item.outlet().title));
+    action->setObjectName(QString::fromStdString(item.objectName()));
+    action->setToolTip(toolTipOf(item));
+    action->setCheckable(true);
+    connect(action, &QAction::triggered, this, [action, &item] {
+        item.performClick();
+        action->setChecked(item.checked());
+    });
+    const auto show = [action, &item] { action->setChecked(item.checked()); };
+    item.addView(queue_, show);
+    show();
+}
+
+void MainWindow::showPage(int index) { controller_.display.mainTab.selectItem(index); }
+
+void MainWindow::focusCommandField() {
+    showPage(Display::stationPage);
+    queue_.refresh();
+    if (auto* field = findChild<QLineEdit*>("sendTextField")) field->setFocus(Qt::ShortcutFocusReason);
+}
+
+void MainWindow::chooseTheme(const QString& name) {
+    Theme::apply(name == "light" ? ThemeKind::light : ThemeKind::dark);
+}
+
+bool MainWindow::event(QEvent* event) {
+    const bool handled = QMainWindow::event(event);
+    if (event->type() == QEvent::Paint && !painted_) {
+        painted_ = true;
+        QTimer::singleShot(0, this, &MainWindow::firstPainted);
+    }
+    return handled;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    controller_.userDefaults.setText(geometryKey, saveGeometry().toBase64().toStdString());
+    event->accept();
+}
+
+}  // namespace corvane

@@ -1,0 +1,37 @@
+// The one window: menu bar, what is always in sight, and the pages.
+#pragma once
+
+#include <QMainWindow>
+
+#include "controller/serial_port_demo_controller.h"
+
+namespace corvane {
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    // Shows the controller's controls; it must outlive the window.
+    explicit MainWindow(SerialPortDemoController& controller);
+
+signals:
+    void firstPainted();  // once, after the window's first paint
+
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void makeMenus();
+    void addPreference(QMenu& menu, MenuItem& item);
+    void makePages();
+    void showPage(int index);
+    void focusCommandField();
+    void chooseTheme(const QString& name);
+
+    SerialPortDemoController& controller_;
+    ChangeQueue queue_;
+    bool painted_ = false;
+};
+
+}  // namespace corvane

@@ -1,0 +1,41 @@
+#include "qt/window/panel.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "qt/window/theme.h"
+
+namespace corvane {
+
+Panel::Panel(const QString& title, QWidget* parent) : QFrame(parent), title_(new QLabel(this)) {
+    title_->setFont(typeface(TypeSize::small, QFont::DemiBold));
+    title_->setForegroundRole(QPalette::PlaceholderText);
+    content_ = new QVBoxLayout(this);
+    content_->setContentsMargins(3 * gridStep, 2 * gridStep, 3 * gridStep, 3 * gridStep);
+    content_->setSpacing(2 * gridStep);
+    content_->addWidget(title_);
+    setTitle(title);
+}
+
+void Panel::setTitle(const QString& title) {
+    title_->setText(title);
+    setAccessibleName(title);
+}
+
+void Panel::setTitleColor(const QColor& color) {
+    QPalette colors = palette();
+    if (color.isValid()) colors.setColor(QPalette::PlaceholderText, color);
+    title_->setPalette(color.isValid() ? colors : QPalette());
+}
+
+void Panel::paintEvent(QPaintEvent*) {
+    const Theme& theme = Theme::current();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(theme.line, 1));
+    painter.setBrush(theme.panel);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+}
+
+}  // namespace corvane

@@ -1,0 +1,109 @@
+// The radio: front panel, function and scope pop-ups, sliders.
+#include <QGridLayout>
+#include <QLabel>
+
+#include "qt/window/control_views.h"
+#include "qt/window/key_grid.h"
+#include "qt/window/pages.h"
+#include "qt/window/panel.h"
+#include "qt/window/theme.h"
+
+namespace corvane {
+
+namespace {
+
+void addRow(QGridLayout& grid, int place, int columns, const Control& control, QWidget* view) {
+    const int row = place / columns;
+    const int column = 2 * (place % columns);
+    grid.addWidget(titleLabel(control, *view), row, column);
+    grid.addWidget(view, row, column + 1);
+    grid.setColumnStretch(column + 1, 1);
+}
+
+QGridLayout* popUpGrid(const std::vector<PopUpButton*>& popUps, ChangeQueue& queue, int columns) {
+    auto* grid = new QGridLayout;
+    grid->setSpacing(2 * gridStep);
+    int place = 0;
+    for (PopUpButton* popUp : popUps) addRow(*grid, place++, columns, *popUp, new PopUpView(*popUp, queue));
+    return grid;
+}
+
+Panel* keysPanel(const QString& title, Display& display, KeyPanel keys, ChangeQueue& queue, int columns) {
+    auto* panel = new Panel(title);
+    panel->content().addLayout(keyGrid(display, keys, queue, columns));
+    panel->content().addStretch();
+    return panel;
+}
+
+Panel* tuningPanel(Display& display, ChangeQueue& queue) {
+    auto* panel = new Panel("Tuning");
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * gridStep);
+    auto* frequency = new TextFieldView(display.freqTextField, queue);
+    frequency->setFont(typeface(TypeSize::value));
+    frequency->setMinimumWidth(QFontMetrics(frequency->font()).horizontalAdvance("50.0000") + 6 * gridStep);
+    row->addWidget(frequency, 2);
+    row->addWidget(titleLabel(display.freqTextField, *frequency));
+    panel->content().addLayout(row);
+    panel->content().addLayout(keyGrid(display, KeyPanel::steps, queue, 4));
+    panel->content().addLayout(keyGrid(display, KeyPanel::vfo, queue, 4));
+    panel->content().addStretch();
+    return panel;
+}
+
+Panel* receiverPanel(Display& display, ChangeQueue& queue) {
+    auto* panel = new Panel("Receiver");
+    auto* grid = popUpGrid({&display.modesPopUpButton, &display.memPopUpButton, &display.AGCPopUpButton,
+                            &display.ATTPopUpButton, &display.ampPopUpButton, &display.RFILPopUpButton,
+                            &display.DNRPopupButton, &display.NBPopupButton},
+                           queue, 2);
+    addRow(*grid, 8, 2, display.afGainSlider, new SliderView(display.afGainSlider, queue));
+    addRow(*grid, 9, 2, display.rfGainSlider, new SliderView(display.rfGainSlider, queue));
+    panel->content().addLayout(grid);
+    panel->content().addStretch();
+    return panel;
+}
+
+Panel* transmitterPanel(Display& display, ChangeQueue& queue) {
+    auto* panel = new Panel("Transmitter and knobs");
+    panel->content().addLayout(popUpGrid({&display.powerPopUpButton, &display.smeterPopUpButton, &display.MPVDButton,
+                                          &display.FuncKnobButton, &display.APOPopUpButton},
+                                         queue, 1));
+    panel->content().addStretch();
+    return panel;
+}
+
+Panel* scopePanel(Display& display, ChangeQueue& queue) {
+    auto* panel = new Panel("Spectrum scope");
+    panel->content().addLayout(
+        popUpGrid({&display.spectrumModePopUpButton, &display.colorPopUpButton, &display.scopeSpanPopUpButton,
+                   &display.scopeSpeedPopUpButton, &display.scopeLevelPopUpButton, &display.scopePeakPopUpButton},
+                  queue, 2));
+    panel->content().addLayout(keyGrid(display, KeyPanel::scope, queue, 2));
+    panel->content().addLayout(keyGrid(display, KeyPanel::scopeColors, queue, 11));
+    panel->content().addStretch();
+    return panel;
+}
+
+}  // namespace
+
+QWidget* makeRadioPage(Display& display, ChangeQueue& queue) {
+    auto* page = new QWidget;
+    auto* grid = new QGridLayout(page);
+    grid->setContentsMargins(4 * gridStep, 3 * gridStep, 4 * gridStep, 3 * gridStep);
+    grid->setSpacing(3 * gridStep);
+    grid->addWidget(keysPanel("Bands, meters", display, KeyPanel::bands, queue, 13), 0, 0, 1, 12);
+    grid->addWidget(keysPanel("Mode", display, KeyPanel::modes, queue, 5), 1, 0, 1, 4);
+    grid->addWidget(tuningPanel(display, queue), 1, 4, 1, 4);
+    auto* functions = keysPanel("Functions", display, KeyPanel::functions, queue, 4);
+    functions->content().insertLayout(2, keyGrid(display, KeyPanel::power, queue, 3));
+    grid->addWidget(functions, 1, 8, 1, 4);
+    grid->addWidget(receiverPanel(display, queue), 2, 0, 1, 5);
+    grid->addWidget(transmitterPanel(display, queue), 2, 5, 1, 3);
+    grid->addWidget(scopePanel(display, queue), 2, 8, 1, 4);
+    for (int column = 0; column < 12; ++column) grid->setColumnStretch(column, 1);
+    grid->setRowStretch(3, 1);
+    return page;
+}
+
+}  // namespace corvane

@@ -1,0 +1,41 @@
+#include "qt/window/shortcuts.h"
+
+#include <QShortcut>
+
+#include "qt/window/control_texts.h"
+
+namespace corvane {
+
+namespace {
+
+ShortcutText textOf(const Outlet& outlet) { return {toQString(outlet.shortcut), toQString(outlet.label)}; }
+
+}  // namespace
+
+std::vector<ShortcutText> shortcutTexts(Display& display) {
+    std::vector<ShortcutText> texts{
+        {"F1", "This page"},
+        {"Ctrl+Q", "Quit"},
+        {"Alt+1 to Alt+5", "Pages"},
+        {"Tab, Shift+Tab", "Next and previous control"},
+        textOf(display.openCloseButton.outlet()),
+        textOf(display.sendTextField.outlet()),
+    };
+    for (const FrontPanelKey& key : frontPanelKeys)
+        if (!key.outlet.shortcut.empty()) texts.push_back(textOf(key.outlet));
+    return texts;
+}
+
+void addShortcuts(QWidget& window, Display& display) {
+    const auto add = [&window](Button& button, bool repeats) {
+        auto* shortcut = new QShortcut(QKeySequence(toQString(button.outlet().shortcut)), &window);
+        shortcut->setAutoRepeat(repeats);
+        QObject::connect(shortcut, &QShortcut::activated, &window, [&button] { button.performClick(); });
+    };
+    add(display.openCloseButton, false);
+    // Only the steps repeat while they are held: nothing else should go out many times by accident.
+    for (const FrontPanelKey& key : frontPanelKeys)
+        if (!key.outlet.shortcut.empty()) add(display.key(key.outlet.tag), key.panel == KeyPanel::steps);
+}
+
+}  // namespace corvane

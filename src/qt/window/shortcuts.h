@@ -1,0 +1,24 @@
+// The keyboard: what each shortcut does, from the tables of the controls.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "display/display.h"
+
+class QWidget;
+
+namespace corvane {
+
+struct ShortcutText {
+    QString keys;     // "Ctrl+6"
+    QString meaning;  // "20 meters"
+};
+
+// All shortcuts of the window in the order of the help page.
+std::vector<ShortcutText> shortcutTexts(Display& display);
+
+// Gives `window` the shortcuts of the front-panel keys and of the link. They work on every page.
+void addShortcuts(QWidget& window, Display& display);
+
+}  // namespace corvane

@@ -1,0 +1,92 @@
+// The station: port, speed, link, and commands typed by hand.
+#include <QGridLayout>
+#include <QLabel>
+
+#include "qt/window/control_views.h"
+#include "qt/window/key_button.h"
+#include "qt/window/key_grid.h"
+#include "qt/window/pages.h"
+#include "qt/window/panel.h"
+#include "qt/window/theme.h"
+
+namespace corvane {
+
+namespace {
+
+QLabel* plainText(const QString& text) {
+    auto* label = new QLabel(text);
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::RichText);
+    return label;
+}
+
+Panel* linkPanel(Display& display, ChangeQueue& queue) {
+    auto* panel = new Panel("Link to the transceiver");
+    auto* grid = new QGridLayout;
+    grid->setSpacing(2 * gridStep);
+    auto* port = new PopUpView(display.PortPopUpButton, queue);
+    port->setPlaceholderText("Choose a port");
+    auto* speed = new PopUpView(display.BaudPopUpButton, queue);
+    grid->addWidget(titleLabel(display.PortPopUpButton, *port), 0, 0);
+    grid->addWidget(port, 0, 1);
+    grid->addWidget(titleLabel(display.BaudPopUpButton, *speed), 1, 0);
+    grid->addWidget(speed, 1, 1);
+    grid->addWidget(new TextLabel(display.portDetailsField, queue), 2, 1);
+    grid->addWidget(new KeyButton(display.openCloseButton, queue), 3, 1);
+    grid->addWidget(new KeyButton(display.readMemoriesButton, queue), 4, 1);
+    grid->setColumnStretch(1, 1);
+    panel->content().addLayout(grid);
+    panel->content().addStretch();
+    return panel;
+}
+
+Panel* firstStepsPanel() {
+    auto* panel = new Panel("First steps");
+    panel->content().addWidget(plainText(
+        "<p>1. Connect the transceiver with a USB cable and switch it on.</p>"
+        "<p>2. Choose its port and press <b>Connect</b>. Of the two ports that the transceiver shows, it is usually the first."
+        " Corvane remembers it.</p>"
+        "<p>3. After eight seconds the display follows the transceiver.</p>"
+        "<p>No transceiver at hand? Choose <b>Simulated transceiver</b>.</p>"
+        "<p>Set the transceiver's CAT speed to 38400 bits a second, with RTS on. F1 shows every shortcut.</p>"));
+    panel->content().addStretch();
+    return panel;
+}
+
+Panel* commandPanel(Display& display, ChangeQueue& queue) {
+    auto* panel = new Panel("Commands by hand");
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * gridStep);
+    auto* field = new TextFieldView(display.sendTextField, queue);
+    field->setPlaceholderText("FA;");
+    auto* send = new KeyButton(display.sendButton, queue);
+    send->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    row->addWidget(titleLabel(display.sendTextField, *field));
+    row->addWidget(field, 1);
+    row->addWidget(send);
+    panel->content().addLayout(row);
+    panel->content().addWidget(plainText("Any CAT command, with or without its last semicolon; several one after the other."
+                                         " What the transceiver answers shows where it belongs."));
+    return panel;
+}
+
+}  // namespace
+
+QWidget* makeStationPage(Display& display, ChangeQueue& queue) {
+    auto* page = new QWidget;
+    auto* grid = new QGridLayout(page);
+    grid->setContentsMargins(4 * gridStep, 4 * gridStep, 4 * gridStep, 4 * gridStep);
+    grid->setSpacing(4 * gridStep);
+    grid->addWidget(linkPanel(display, queue), 0, 0);
+    grid->addWidget(firstStepsPanel(), 0, 1);
+    grid->addWidget(commandPanel(display, queue), 1, 0, 1, 2);
+    auto* lists = new Panel("On-line lists");
+    lists->content().addLayout(keyGrid(display, KeyPanel::lists, queue, 6));
+    grid->addWidget(lists, 2, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(3, 1);
+    return page;
+}
+
+}  // namespace corvane

@@ -1,0 +1,47 @@
+#include "qt/window/tab_pages.h"
+
+#include <QScrollArea>
+#include <QTabBar>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "qt/window/control_texts.h"
+
+namespace corvane {
+
+TabPages::TabPages(TabView& model, ChangeQueue& queue, QWidget* parent) : QTabWidget(parent), model_(model) {
+    describe(*this, model);
+    tabBar()->setAccessibleName(labelOf(model));
+    setDocumentMode(true);
+    tabBar()->setDrawBase(false);
+    connect(this, &QTabWidget::currentChanged, this, [this](int index) {
+        makePage(index);
+        model_.selectItem(index);
+    });
+    model.addView(queue, [this] { showModel(); });
+}
+
+void TabPages::addPage(const QString& title, std::function<QWidget*()> make) {
+    makers_.push_back(std::move(make));
+    auto* place = new QScrollArea;  // a small screen scrolls instead of cutting off
+    place->setWidgetResizable(true);
+    place->setFrameShape(QFrame::NoFrame);
+    place->setFocusPolicy(Qt::NoFocus);
+    const int index = addTab(place, title);
+    if (index == currentIndex()) makePage(index);
+    if (model_.viewRequested(index)) makePage(index);
+}
+
+void TabPages::showModel() {
+    for (int index = 0; index < count(); ++index)
+        if (model_.viewRequested(index)) makePage(index);
+    if (model_.indexOfSelectedItem() < count()) setCurrentIndex(model_.indexOfSelectedItem());
+}
+
+void TabPages::makePage(int index) {
+    if (index < 0 || index >= static_cast<int>(makers_.size())) return;
+    const auto make = std::exchange(makers_[static_cast<std::size_t>(index)], {});
+    if (make) static_cast<QScrollArea*>(widget(index))->setWidget(make());
+}
+
+}  // namespace corvane

@@ -1,0 +1,50 @@
+// The look of the window: colours, type scale and spacing, dark and light.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+#include <QString>
+
+#include "display/control.h"
+
+namespace corvane {
+
+enum class ThemeKind { dark, light };
+
+struct Theme {
+    QColor window;     // behind everything
+    QColor panel;      // a group of controls
+    QColor key;        // a key at rest
+    QColor keyHover;   // under the pointer
+    QColor line;       // edges
+    QColor text;       // what is read
+    QColor quietText;  // labels, units, what is not active; still readable on panel and window
+    QColor accent;     // the one accent: focus, the active digits, the meter
+    QColor warning;    // behind a message that something went wrong
+    // What the named colours of the controls are here; white or black text is readable on each.
+    QColor blue, green, red, purple, pink, brown, darkGray;
+
+    // The colour of a control, or `none` for a control without one.
+    QColor of(Color color, const QColor& none) const;
+
+    static const Theme& current();
+    static ThemeKind currentKind();
+    // Gives the application this look; every widget paints itself anew.
+    static void apply(ThemeKind kind);
+
+    QPalette palette() const;
+    QString styleSheet() const;
+};
+
+// White or near-black, whichever reads better on `background`.
+QColor readableOn(const QColor& background);
+
+// The type scale, in steps of the application's own font: its size is the user's choice.
+enum class TypeSize { small, body, key, value, digits };
+QFont typeface(TypeSize size, QFont::Weight weight = QFont::Normal);
+
+// The grid: every distance is a multiple of this many device-independent pixels.
+inline constexpr int gridStep = 4;
+
+}  // namespace corvane

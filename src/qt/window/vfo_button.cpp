@@ -1,0 +1,75 @@
+#include "qt/window/vfo_button.h"
+
+#include <QPainter>
+#include <utility>
+
+#include "qt/window/control_texts.h"
+#include "qt/window/theme.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr int labelHeight = 5 * gridStep;
+const QString emptyDisplay = QStringLiteral("--.---.---");
+
+}  // namespace
+
+VfoButton::VfoButton(Button& model, TextField& activeVfo, std::string letter, ChangeQueue& queue, QWidget* parent)
+    : KeyButton(model, queue, typeface(TypeSize::digits), parent), activeVfo_(activeVfo), letter_(std::move(letter)) {
+    activeVfo_.addView(queue, [this] {
+        setAccessibleName(spokenName());
+        update();
+    });
+    setAccessibleName(spokenName());
+}
+
+QString VfoButton::spokenName() const {
+    QString name = spokenWithValue(model(), model().title());
+    if (!model().title().empty()) name += " MHz";
+    return active() ? name + ", active" : name;
+}
+
+QSize VfoButton::sizeHint() const {
+    const QFontMetrics metrics(font());
+    return {metrics.horizontalAdvance(QStringLiteral("50.000.000")) + 8 * gridStep, metrics.height() + labelHeight};
+}
+
+void VfoButton::paintEvent(QPaintEvent*) {
+    const Theme& theme = Theme::current();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(isDown() ? theme.key : theme.panel);
+    painter.setPen(hasFocus() ? QPen(theme.accent, 2) : QPen(theme.line, 1));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 8, 8);
+
+    // A bar in the colour of the side that the transceiver works on.
+    const QColor lamp = theme.of(model().bezelColor(), active() ? theme.accent : theme.line);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(lamp);
+    painter.drawRoundedRect(QRectF(8, 10, 4, height() - 20), 2, 2);
+
+    painter.setPen(active() ? theme.text : theme.quietText);
+    painter.setFont(typeface(TypeSize::small, QFont::DemiBold));
+    painter.drawText(QRect(20, 6, width() - 32, labelHeight), Qt::AlignLeft | Qt::AlignVCenter, labelOf(model()));
+    painter.setPen(theme.quietText);
+    painter.drawText(QRect(20, 6, width() - 32, labelHeight), Qt::AlignRight | Qt::AlignVCenter,
+                     active() ? QStringLiteral("ACTIVE \u00b7 MHz") : QStringLiteral("MHz"));
+
+    const QString title = model().title().empty() ? emptyDisplay : QString::fromStdString(model().title());
+    const QRect digits(16, labelHeight, width() - 28, height() - labelHeight);
+    // The hertz are read last: they stand back a little.
+    const qsizetype hertzAt = title.lastIndexOf('.');
+    const QFontMetrics metrics(font());
+    const int hertzWidth = metrics.horizontalAdvance(title.mid(hertzAt));
+    const bool known = !model().title().empty();
+    painter.setFont(font());
+    painter.setPen(active() && known ? theme.accent : theme.quietText);
+    painter.drawText(digits.adjusted(0, 0, -hertzWidth, 0), Qt::AlignRight | Qt::AlignVCenter, title.left(hertzAt));
+    QColor dim = painter.pen().color();
+    dim.setAlphaF(0.72F);
+    painter.setPen(dim);
+    painter.drawText(digits, Qt::AlignRight | Qt::AlignVCenter, title.mid(hertzAt));
+}
+
+}  // namespace corvane
