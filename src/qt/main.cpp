@@ -18,8 +18,8 @@ int main(int argc, char** argv) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
 
     corvane::QtPlatform platform;
-    corvane::SerialPortDemoController controller(platform.platform(),
-                                                 corvane::ServiceHosts::from(qEnvironmentVariable("CORVANE_SERVICES").toStdString()));
+    corvane::SerialPortDemoController controller(
+        platform.platform(), corvane::ServiceHosts::from(qEnvironmentVariable("CORVANE_SERVICES").toStdString()));
     corvane::MainWindow window(controller);
     corvane::reportStart(window);
     // The icon costs a few milliseconds that the first paint need not wait for.
@@ -29,6 +29,7 @@ int main(int argc, char** argv) {
     window.show();
     const int result = QApplication::exec();
     // The transceiver must not go on reporting to nobody.
-    if (controller.link.serialPort && controller.link.serialPort->isOpen()) controller.display.openCloseButton.performClick();
+    if (controller.link.serialPort && controller.link.serialPort->isOpen())
+        controller.display.openCloseButton.performClick();
     return result;
 }

@@ -10,7 +10,8 @@ namespace corvane {
 PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent) : QComboBox(parent), model_(model) {
     describe(*this, model);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(8);
+    setMinimumContentsLength(6);
+    setPlaceholderText(QStringLiteral("\u2013"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setProperty("shown", !model.action);
     setFocusPolicy(model.action ? Qt::StrongFocus : Qt::TabFocus);
@@ -60,7 +61,8 @@ TextFieldView::TextFieldView(TextField& model, ChangeQueue& queue, QWidget* pare
     describe(*this, model);
     setReadOnly(!model.action);
     setProperty("shown", !model.action);
-    connect(this, &QLineEdit::textEdited, this, [&model](const QString& text) { model.setStringValue(text.toStdString()); });
+    connect(this, &QLineEdit::textEdited, this,
+            [&model](const QString& text) { model.setStringValue(text.toStdString()); });
     connect(this, &QLineEdit::returnPressed, this, [&model] { model.performReturn(); });
     const auto show = [this, &model] {
         const QString shown = QString::fromStdString(model.stringValue());

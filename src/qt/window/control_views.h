@@ -1,5 +1,5 @@
-// Widgets that show the other kinds of controls. Each shows its model for as long as both live, and hands what the operator
-// does to it; a model without an action is only shown.
+// Widgets that show the other kinds of controls. Each shows its model for as long as both live, and hands what the
+// operator does to it; a model without an action is only shown.
 #pragma once
 
 #include <QComboBox>

@@ -80,7 +80,7 @@ QSize KeyButton::sizeHint() const {
     return {metrics.horizontalAdvance(text()) + 5 * gridStep, metrics.height() + 4 * gridStep};
 }
 
-QSize KeyButton::minimumSizeHint() const { return {10 * gridStep, sizeHint().height()}; }
+QSize KeyButton::minimumSizeHint() const { return {7 * gridStep, sizeHint().height()}; }
 
 void KeyButton::paintEvent(QPaintEvent*) {
     const Theme& theme = Theme::current();
@@ -94,7 +94,7 @@ void KeyButton::paintEvent(QPaintEvent*) {
     paintCap(painter, fill);
     QColor ink = lit ? readableOn(fill) : theme.text;
     if (!isEnabled()) ink = palette().color(QPalette::Disabled, QPalette::ButtonText);
-    paintFace(painter, rect().adjusted(gridStep, 0, -gridStep, 0), ink);
+    paintFace(painter, rect().adjusted(2, 0, -2, 0), ink);
 }
 
 void KeyButton::paintCap(QPainter& painter, const QColor& fill) {

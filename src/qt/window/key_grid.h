@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QLayout>
+#include <vector>
 
 #include "display/display.h"
 
@@ -9,5 +10,8 @@ namespace corvane {
 
 // The keys of a panel in the table's order, `columns` in a row.
 QLayout* keyGrid(Display& display, KeyPanel panel, ChangeQueue& queue, int columns);
+
+// These keys one under the other, each behind its number, 1 first.
+QLayout* numberedKeys(const std::vector<Button*>& keys, ChangeQueue& queue);
 
 }  // namespace corvane

@@ -1,10 +1,8 @@
 // The keyer: text memories of the present mode, and what the transceiver holds for each family of modes.
 #include <QGridLayout>
-#include <QLabel>
 #include <QPlainTextEdit>
 
 #include "qt/window/control_texts.h"
-#include "qt/window/key_button.h"
 #include "qt/window/key_grid.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
@@ -34,27 +32,20 @@ Panel* sendPanel(Display& display, ChangeQueue& queue) {
     };
     display.sendBox.addView(queue, show);
     show();
-    panel->content().addLayout(keyGrid(display, KeyPanel::textMemories, queue, 1));
-    panel->content().addWidget(logView(display.sentTextMemoryField, queue), 1);
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(4 * gridStep);
+    columns->addLayout(numberedKeys({display.textMemoryButtons.begin(), display.textMemoryButtons.end()}, queue), 2);
+    columns->addWidget(logView(display.sentTextMemoryField, queue), 1);
+    panel->content().addLayout(columns);
     panel->content().addLayout(keyGrid(display, KeyPanel::keyer, queue, 3));
     return panel;
 }
 
 Panel* familyPanel(const QString& title, std::deque<Button>& memories, ChangeQueue& queue) {
     auto* panel = new Panel(title);
-    auto* grid = new QGridLayout;
-    grid->setSpacing(2 * gridStep);
-    int row = 0;
-    for (Button& memory : memories) {
-        auto* key = new KeyButton(memory, queue);
-        auto* number = new QLabel(QString::number(row + 1));
-        number->setBuddy(key);
-        grid->addWidget(number, row, 0);
-        grid->addWidget(key, row, 1);
-        ++row;
-    }
-    grid->setColumnStretch(1, 1);
-    panel->content().addLayout(grid);
+    std::vector<Button*> keys;
+    for (Button& memory : memories) keys.push_back(&memory);
+    panel->content().addLayout(numberedKeys(keys, queue));
     panel->content().addStretch();
     return panel;
 }
@@ -63,17 +54,15 @@ Panel* familyPanel(const QString& title, std::deque<Button>& memories, ChangeQue
 
 QWidget* makeKeyerPage(Display& display, ChangeQueue& queue) {
     auto* page = new QWidget;
-    auto* columns = new QHBoxLayout(page);
-    columns->setContentsMargins(4 * gridStep, 4 * gridStep, 4 * gridStep, 4 * gridStep);
-    columns->setSpacing(4 * gridStep);
-    columns->addWidget(sendPanel(display, queue), 2);
-    auto* families = new QVBoxLayout;
-    families->setSpacing(4 * gridStep);
-    families->addWidget(familyPanel("CW memories", display.cwMemoryButtons, queue));
-    families->addWidget(familyPanel("RTTY memories", display.rttyMemoryButtons, queue));
-    families->addWidget(familyPanel("PSK memories", display.pskMemoryButtons, queue));
-    families->addStretch();
-    columns->addLayout(families, 3);
+    auto* grid = new QGridLayout(page);
+    grid->setContentsMargins(4 * gridStep, 4 * gridStep, 4 * gridStep, 4 * gridStep);
+    grid->setSpacing(4 * gridStep);
+    grid->addWidget(sendPanel(display, queue), 0, 0, 1, 3);
+    grid->addWidget(familyPanel("CW memories", display.cwMemoryButtons, queue), 1, 0);
+    grid->addWidget(familyPanel("RTTY memories", display.rttyMemoryButtons, queue), 1, 1);
+    grid->addWidget(familyPanel("PSK memories", display.pskMemoryButtons, queue), 1, 2);
+    for (int column = 0; column < 3; ++column) grid->setColumnStretch(column, 1);
+    grid->setRowStretch(2, 1);
     return page;
 }
 

@@ -33,7 +33,8 @@ MainWindow::MainWindow(SerialPortDemoController& controller) : controller_(contr
     setObjectName("mainWindow");
     // However many reports arrive in one turn of the event loop, the controls are shown anew once.
     queue_.onFirstChange = [this] {
-        QMetaObject::invokeMethod(this, [this] { queue_.refresh(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { queue_.refresh(); }, Qt::QueuedConnection);
     };
     chooseTheme(QString::fromStdString(controller_.userDefaults.text(themeKey).value_or("dark")));
     makePages();
@@ -101,10 +102,11 @@ void MainWindow::makeMenus() {
         ->setObjectName(QString::fromStdString(productPage.objectName()));
     help->addSeparator();
     help->addAction("&About Corvane", this, [this] {
-        QMessageBox::about(this, "About Corvane",
-                           "<b>Corvane " + QApplication::applicationVersion() +
-                               "</b><p>Operates an HF transceiver from the desktop.<p>Free software under the GNU General "
-                               "Public License, version 3 or later.");
+        QMessageBox::about(
+            this, "About Corvane",
+            "<b>Corvane " + QApplication::applicationVersion() +
+                "</b><p>Operates an HF transceiver from the desktop.<p>Free software under the GNU General "
+                "Public License, version 3 or later.");
     });
 }
 

@@ -53,10 +53,10 @@ Panel* tuningPanel(Display& display, ChangeQueue& queue) {
 
 Panel* receiverPanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel("Receiver");
-    auto* grid = popUpGrid({&display.modesPopUpButton, &display.memPopUpButton, &display.AGCPopUpButton,
-                            &display.ATTPopUpButton, &display.ampPopUpButton, &display.RFILPopUpButton,
-                            &display.DNRPopupButton, &display.NBPopupButton},
-                           queue, 2);
+    auto* grid =
+        popUpGrid({&display.modesPopUpButton, &display.memPopUpButton, &display.AGCPopUpButton, &display.ATTPopUpButton,
+                   &display.ampPopUpButton, &display.RFILPopUpButton, &display.DNRPopupButton, &display.NBPopupButton},
+                  queue, 2);
     addRow(*grid, 8, 2, display.afGainSlider, new SliderView(display.afGainSlider, queue));
     addRow(*grid, 9, 2, display.rfGainSlider, new SliderView(display.rfGainSlider, queue));
     panel->content().addLayout(grid);
@@ -75,12 +75,23 @@ Panel* transmitterPanel(Display& display, ChangeQueue& queue) {
 
 Panel* scopePanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel("Spectrum scope");
-    panel->content().addLayout(
-        popUpGrid({&display.spectrumModePopUpButton, &display.colorPopUpButton, &display.scopeSpanPopUpButton,
-                   &display.scopeSpeedPopUpButton, &display.scopeLevelPopUpButton, &display.scopePeakPopUpButton},
-                  queue, 2));
+    panel->content().addLayout(popUpGrid({&display.spectrumModePopUpButton}, queue, 1));
+    panel->content().addLayout(popUpGrid({&display.scopeSpanPopUpButton, &display.scopeSpeedPopUpButton,
+                                          &display.scopeLevelPopUpButton, &display.scopePeakPopUpButton},
+                                         queue, 2));
     panel->content().addLayout(keyGrid(display, KeyPanel::scope, queue, 2));
+    panel->content().addLayout(popUpGrid({&display.colorPopUpButton}, queue, 1));
     panel->content().addLayout(keyGrid(display, KeyPanel::scopeColors, queue, 11));
+    panel->content().addStretch();
+    return panel;
+}
+
+// Receiving keys and transmitting keys keep a distance.
+Panel* functionsPanel(Display& display, ChangeQueue& queue) {
+    auto* panel = new Panel("Functions");
+    panel->content().addLayout(keyGrid(display, KeyPanel::functions, queue, 4));
+    panel->content().addSpacing(gridStep);
+    panel->content().addLayout(keyGrid(display, KeyPanel::power, queue, 3));
     panel->content().addStretch();
     return panel;
 }
@@ -93,11 +104,9 @@ QWidget* makeRadioPage(Display& display, ChangeQueue& queue) {
     grid->setContentsMargins(4 * gridStep, 3 * gridStep, 4 * gridStep, 3 * gridStep);
     grid->setSpacing(3 * gridStep);
     grid->addWidget(keysPanel("Bands, meters", display, KeyPanel::bands, queue, 13), 0, 0, 1, 12);
-    grid->addWidget(keysPanel("Mode", display, KeyPanel::modes, queue, 5), 1, 0, 1, 4);
+    grid->addWidget(keysPanel("Mode", display, KeyPanel::modes, queue, 4), 1, 0, 1, 4);
     grid->addWidget(tuningPanel(display, queue), 1, 4, 1, 4);
-    auto* functions = keysPanel("Functions", display, KeyPanel::functions, queue, 4);
-    functions->content().insertLayout(2, keyGrid(display, KeyPanel::power, queue, 3));
-    grid->addWidget(functions, 1, 8, 1, 4);
+    grid->addWidget(functionsPanel(display, queue), 1, 8, 1, 4);
     grid->addWidget(receiverPanel(display, queue), 2, 0, 1, 5);
     grid->addWidget(transmitterPanel(display, queue), 2, 5, 1, 3);
     grid->addWidget(scopePanel(display, queue), 2, 8, 1, 4);

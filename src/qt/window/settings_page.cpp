@@ -33,7 +33,8 @@ QWidget* makeGroupPage(Display& display, ChangeQueue& queue, int readKeyTag) {
     auto* read = new KeyButton(display.key(readKeyTag), queue);
     read->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     rows->addWidget(read);
-    auto* note = new QLabel("Asks the transceiver for every item of this group. This version does not show the items yet.");
+    auto* note =
+        new QLabel("Asks the transceiver for every item of this group. This version does not show the items yet.");
     note->setForegroundRole(QPalette::PlaceholderText);
     rows->addWidget(note);
     rows->addStretch();
@@ -45,7 +46,8 @@ QWidget* makeGroupPage(Display& display, ChangeQueue& queue, int readKeyTag) {
 QWidget* makeSettingsPage(Display& display, ChangeQueue& queue) {
     auto* pages = new TabPages(display.settingsTab, queue);
     for (const MenuGroupPage& group : menuGroupPages)
-        pages->addPage(group.title, [&display, &queue, tag = group.readKeyTag] { return makeGroupPage(display, queue, tag); });
+        pages->addPage(group.title,
+                       [&display, &queue, tag = group.readKeyTag] { return makeGroupPage(display, queue, tag); });
     return pages;
 }
 

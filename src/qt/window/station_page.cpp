@@ -44,7 +44,8 @@ Panel* firstStepsPanel() {
     auto* panel = new Panel("First steps");
     panel->content().addWidget(plainText(
         "<p>1. Connect the transceiver with a USB cable and switch it on.</p>"
-        "<p>2. Choose its port and press <b>Connect</b>. Of the two ports that the transceiver shows, it is usually the first."
+        "<p>2. Choose its port and press <b>Connect</b>. Of the two ports that the transceiver shows, it is usually "
+        "the first."
         " Corvane remembers it.</p>"
         "<p>3. After eight seconds the display follows the transceiver.</p>"
         "<p>No transceiver at hand? Choose <b>Simulated transceiver</b>.</p>"
@@ -65,8 +66,9 @@ Panel* commandPanel(Display& display, ChangeQueue& queue) {
     row->addWidget(field, 1);
     row->addWidget(send);
     panel->content().addLayout(row);
-    panel->content().addWidget(plainText("Any CAT command, with or without its last semicolon; several one after the other."
-                                         " What the transceiver answers shows where it belongs."));
+    panel->content().addWidget(
+        plainText("Any CAT command, with or without its last semicolon; several one after the other."
+                  " What the transceiver answers shows where it belongs."));
     return panel;
 }
 

@@ -56,14 +56,22 @@ QColor mixed(const QColor& a, const QColor& b, double share) {
 
 QColor Theme::of(Color color, const QColor& none) const {
     switch (color) {
-        case Color::none: return none;
-        case Color::blue: return blue;
-        case Color::green: return green;
-        case Color::red: return red;
-        case Color::purple: return purple;
-        case Color::pink: return pink;
-        case Color::brown: return brown;
-        case Color::darkGray: return darkGray;
+        case Color::none:
+            return none;
+        case Color::blue:
+            return blue;
+        case Color::green:
+            return green;
+        case Color::red:
+            return red;
+        case Color::purple:
+            return purple;
+        case Color::pink:
+            return pink;
+        case Color::brown:
+            return brown;
+        case Color::darkGray:
+            return darkGray;
     }
     return none;
 }
@@ -122,6 +130,12 @@ QString Theme::styleSheet() const {
                "QMenu { background: %6; border: 1px solid %1; padding: 4px; }"
                "QMenu::item { padding: 5px 26px 5px 22px; } QMenu::item:selected { background: %5; }"
                "QToolTip { background: %6; color: %3; border: 1px solid %1; padding: 4px; }"
+               "QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }"
+               "QScrollBar:horizontal { background: transparent; height: 10px; margin: 0; }"
+               "QScrollBar::handle { background: %1; border-radius: 4px; margin: 1px; min-height: 24px; min-width: "
+               "24px; }"
+               "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
+               "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }"
                "QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: 0; }")
         .arg(line.name(), quietText.name(), text.name(), accent.name(), key.name(), panel.name(), window.name());
 }
