@@ -1,0 +1,171 @@
+#include <gmock/gmock.h>
+
+#include "display/display.h"
+
+namespace corvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct ControlTest : testing::Test {
+    ControlTest() {
+        queue.onFirstChange = [this] { ++planned; };
+        for (Control* control :
+             std::initializer_list<Control*>{&button, &popUp, &slider, &field, &level, &tabs, &box, &item})
+            control->addView(queue, [this, control] { shown.push_back(control->objectName()); });
+    }
+    std::vector<std::string> refresh() {
+        queue.refresh();
+        return std::exchange(shown, {});
+    }
+
+    ChangeQueue queue;
+    std::vector<std::string> shown;
+    int planned = 0;
+    Button button{{"m20Button", 20, "20"}};
+    PopUpButton popUp{{"", 2007}};
+    Slider slider{{"slider"}, 10, 20};
+    TextField field{{"field"}};
+    LevelIndicator level{{"level"}, 10};
+    TabView tabs{{"tabs"}};
+    Box box{{"box", 0, "Keyer"}};
+    MenuItem item{{"item", 900}};
+};
+
+TEST_F(ControlTest, ASetterThatChangesNothingSaysNothing) {
+    button.setTitle("20");
+    button.setTag(20);
+    button.setEnabled(true);
+    button.setVisible(true);
+    button.setBezelColor(Color::none);
+    button.setImage(Image::none);
+    popUp.selectItem(PopUpButton::noSelection);
+    popUp.selectItem(3);
+    slider.setIntegerValue(5);
+    field.setStringValue("");
+    level.setIntegerValue(-4);
+    tabs.selectItem(0);
+    box.setTitle("Keyer");
+    box.setTitleColor(Color::none);
+    item.setChecked(false);
+    EXPECT_EQ(planned, 0);
+    EXPECT_THAT(refresh(), IsEmpty());
+}
+
+TEST_F(ControlTest, EverySetterThatChangesSomethingIsShown) {
+    const std::vector<std::pair<std::function<void()>, std::string>> changes{
+        {[&] { button.setTitle("40"); }, "m20Button"},
+        {[&] { button.setTag(1020); }, "m20Button"},
+        {[&] { button.setEnabled(false); }, "m20Button"},
+        {[&] { button.setVisible(false); }, "m20Button"},
+        {[&] { button.setBezelColor(Color::red); }, "m20Button"},
+        {[&] { button.setImage(Image::audioOutputMute); }, "m20Button"},
+        {[&] {
+             popUp.setEntries({"OFF", "ON"});
+         },
+         "tag2007"},
+        {[&] { popUp.selectItem(1); }, "tag2007"},
+        {[&] { popUp.selectItemWithTitle("OFF"); }, "tag2007"},
+        {[&] { slider.setIntegerValue(11); }, "slider"},
+        {[&] { field.setStringValue("FA;"); }, "field"},
+        {[&] { level.setIntegerValue(1); }, "level"},
+        {[&] { tabs.selectItem(1); }, "tabs"},
+        {[&] { tabs.requestView(2); }, "tabs"},
+        {[&] { box.setTitle("Send CW"); }, "box"},
+        {[&] { box.setTitleColor(Color::darkGray); }, "box"},
+        {[&] { item.setChecked(true); }, "item"}};
+    for (const auto& [change, name] : changes) {
+        change();
+        EXPECT_THAT(refresh(), ElementsAre(name));
+    }
+}
+
+TEST_F(ControlTest, ManyChangesAreShownOnceInOneRefresh) {
+    for (int tag = 0; tag < 100; ++tag) {
+        button.setTag(tag);
+        field.setStringValue(std::to_string(tag));
+    }
+    EXPECT_EQ(planned, 1);
+    EXPECT_THAT(refresh(), ElementsAre("m20Button", "field"));
+    EXPECT_THAT(refresh(), IsEmpty());
+    button.setTag(7);
+    EXPECT_EQ(planned, 2);
+    EXPECT_THAT(refresh(), ElementsAre("m20Button"));
+}
+
+TEST_F(ControlTest, AChangeMadeWhileShowingWaitsForTheNextRefresh) {
+    field.addView(queue, [this] { button.setTitle(field.stringValue()); });
+    field.setStringValue("40");
+    EXPECT_THAT(refresh(), ElementsAre("field"));
+    EXPECT_EQ(planned, 2);
+    EXPECT_THAT(refresh(), ElementsAre("m20Button"));
+}
+
+TEST_F(ControlTest, PopUpSelectsWhatItHas) {
+    popUp.setEntries({"OFF", "1", "2"});
+    EXPECT_EQ(popUp.indexOfSelectedItem(), PopUpButton::noSelection);
+    EXPECT_EQ(popUp.titleOfSelectedItem(), "");
+    popUp.selectItem(2);
+    popUp.selectItemWithTitle("3");
+    EXPECT_EQ(popUp.titleOfSelectedItem(), "2");
+    popUp.selectItemWithTitle("1");
+    EXPECT_EQ(popUp.indexOfSelectedItem(), 1);
+    for (const int beyond : {3, -1, -7}) {
+        popUp.selectItem(0);
+        popUp.selectItem(beyond);
+        EXPECT_EQ(popUp.indexOfSelectedItem(), PopUpButton::noSelection) << beyond;
+    }
+    popUp.selectItem(2);
+    const int version = popUp.entriesVersion();
+    popUp.setEntries({"OFF"});
+    EXPECT_EQ(popUp.indexOfSelectedItem(), PopUpButton::noSelection);
+    EXPECT_NE(popUp.entriesVersion(), version);
+}
+
+TEST_F(ControlTest, AChoiceActsOnlyWhereTheOperatorMayMakeIt) {
+    std::vector<std::string> done;
+    popUp.setEntries({"OFF", "ON"});
+    popUp.choose(1);
+    EXPECT_EQ(popUp.indexOfSelectedItem(), PopUpButton::noSelection) << "a pop-up without an action only shows";
+    popUp.action = [&](PopUpButton& sender) { done.emplace_back(sender.titleOfSelectedItem()); };
+    button.action = [&](Button& sender) { done.push_back(sender.title()); };
+    field.action = [&](TextField& sender) { done.push_back(sender.stringValue()); };
+    for (const bool enabled : {true, false}) {
+        popUp.setEnabled(enabled);
+        button.setEnabled(enabled);
+        field.setEnabled(enabled);
+        field.setStringValue(enabled ? "FA;" : "FB;");
+        popUp.choose(enabled ? 1 : 0);
+        button.performClick();
+        field.performReturn();
+    }
+    EXPECT_THAT(done, ElementsAre("ON", "20", "FA;"));
+    EXPECT_EQ(popUp.indexOfSelectedItem(), 1);
+}
+
+TEST_F(ControlTest, ValuesBeyondAnEndStandAtThatEnd) {
+    slider.setIntegerValue(21);
+    level.setIntegerValue(11);
+    EXPECT_EQ(slider.integerValue(), 20);
+    EXPECT_EQ(level.integerValue(), 10);
+    slider.setIntegerValue(-5);
+    level.setIntegerValue(-5);
+    EXPECT_EQ(slider.integerValue(), 10);
+    EXPECT_EQ(level.integerValue(), 0);
+}
+
+TEST(DisplayTexts, EveryControlSaysWhatItIs) {
+    for (const FrontPanelKey& row : frontPanelKeys) {
+        EXPECT_FALSE(row.outlet.label.empty()) << row.outlet.tag;
+        EXPECT_FALSE(row.outlet.help.empty()) << row.outlet.tag;
+    }
+    std::vector<std::string_view> shortcuts{"Ctrl+O", "Ctrl+R"};
+    for (const FrontPanelKey& row : frontPanelKeys)
+        if (!row.outlet.shortcut.empty()) shortcuts.push_back(row.outlet.shortcut);
+    std::ranges::sort(shortcuts);
+    EXPECT_EQ(std::ranges::adjacent_find(shortcuts), shortcuts.end()) << "a shortcut is given to one control";
+}
+
+}  // namespace
+}  // namespace corvane

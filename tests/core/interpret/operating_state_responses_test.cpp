@@ -1,0 +1,170 @@
+#include <gmock/gmock.h>
+
+#include "tests/support/test_bench.h"
+
+namespace corvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr int before = 1;  // the entry that stands when a report comes
+constexpr int none = PopUpButton::noSelection;
+
+TEST(OperatingStateResponses, APopUpSelectsTheReportedValue) {
+    using D = Display;
+    // clang-format off
+    const struct {
+        std::string_view responses;
+        PopUpButton D::*popUp;
+        int item;
+    } cases[] = {
+        {"PA00;", &D::ampPopUpButton, 0}, {"PA02;", &D::ampPopUpButton, 2}, {"PA03;", &D::ampPopUpButton, none},
+        {"PA0x;", &D::ampPopUpButton, 0}, {"PA2;", &D::ampPopUpButton, before},
+        {"PA002;", &D::ampPopUpButton, before}, {"NL0010;", &D::NBPopupButton, 10},
+        {"NL0011;", &D::NBPopupButton, none}, {"NB00;", &D::NBPopupButton, 0}, {"NB01;", &D::NBPopupButton, before},
+        {"RL015;", &D::DNRPopupButton, 15}, {"NR00;", &D::DNRPopupButton, 0}, {"NR01;", &D::DNRPopupButton, before},
+        {"GT00;", &D::AGCPopUpButton, 0}, {"GT02;", &D::AGCPopUpButton, 2}, {"GT03;", &D::AGCPopUpButton, 3},
+        {"GT04;", &D::AGCPopUpButton, 4}, {"GT05;", &D::AGCPopUpButton, 4}, {"GT09;", &D::AGCPopUpButton, 4},
+        {"GT;", &D::AGCPopUpButton, 0}, {"RA03;", &D::ATTPopUpButton, 3}, {"RA04;", &D::ATTPopUpButton, none},
+        {"MS50;", &D::smeterPopUpButton, 5}, {"MS;", &D::smeterPopUpButton, 0}, {"PC005;", &D::powerPopUpButton, 0},
+        {"PC100;", &D::powerPopUpButton, 95}, {"PC101;", &D::powerPopUpButton, none},
+        {"PC004;", &D::powerPopUpButton, none}, {"PC;", &D::powerPopUpButton, none}, {"SF01;", &D::MPVDButton, 0},
+        {"SF09;", &D::MPVDButton, 4}, {"SF00;", &D::MPVDButton, before}, {"SF10;", &D::FuncKnobButton, 0},
+        {"SF16;", &D::FuncKnobButton, 4}, {"SF1C;", &D::FuncKnobButton, 6}, {"SF1N;", &D::FuncKnobButton, 16},
+        {"SF1L;", &D::FuncKnobButton, before}, {"SS0050000;", &D::scopeSpeedPopUpButton, 5},
+        {"SS0060000;", &D::scopeSpeedPopUpButton, none}, {"SS00A0000;", &D::scopeSpeedPopUpButton, 0},
+        {"SS0140000;", &D::scopePeakPopUpButton, 4}, {"SS0390000;", &D::colorPopUpButton, 9},
+        {"SS03A0000;", &D::colorPopUpButton, 10}, {"SS03B0000;", &D::colorPopUpButton, 0},
+        {"SS04-30.0;", &D::scopeLevelPopUpButton, 0}, {"SS04+00.0;", &D::scopeLevelPopUpButton, 60},
+        {"SS04-00.5;", &D::scopeLevelPopUpButton, 59}, {"SS04+30.0;", &D::scopeLevelPopUpButton, 120},
+        {"SS04+30.5;", &D::scopeLevelPopUpButton, before}, {"SS04;", &D::scopeLevelPopUpButton, before},
+        {"SS0590000;", &D::scopeSpanPopUpButton, 9}, {"SS06A0000;", &D::spectrumModePopUpButton, 10},
+        {"SS06B0000;", &D::spectrumModePopUpButton, 11}, {"SS06C0000;", &D::spectrumModePopUpButton, 0},
+    };
+    // clang-format on
+    TestBench bench;
+    for (const auto& [responses, popUp, item] : cases) {
+        (bench.display.*popUp).selectItem(before);
+        bench.receive(responses);
+        EXPECT_EQ((bench.display.*popUp).indexOfSelectedItem(), item) << responses;
+    }
+}
+
+TEST(OperatingStateResponses, MeterShowsTensOfTheRawValue) {
+    const struct {
+        std::string_view response;
+        int level;
+    } cases[] = {{"RM1045000;", 4}, {"RM1009000;", 0}, {"RM1100000;", 10}, {"RM1255000;", 10}, {"RM1019999;", 1},
+                 {"RM;", 0},        {"RM1099000;", 9}, {"RM1x45000;", 0},  {"RM1-50000;", 0}};
+    TestBench bench;
+    for (const auto& [response, level] : cases) {
+        bench.display.sMeter.setIntegerValue(7);
+        bench.receive(response);
+        EXPECT_EQ(bench.display.sMeter.integerValue(), level) << response;
+    }
+}
+
+struct Volume {
+    int slider;
+    std::string audible;
+    int muted;
+    Image image;
+    Color color;
+
+    bool operator==(const Volume&) const = default;
+};
+
+TEST(OperatingStateResponses, AFGainBelowFiveCountsAsMuted) {
+    const struct {
+        std::string_view response;
+        Volume volume;
+    } steps[] = {{"AG0120;", {120, "120", 0, Image::none, Color::none}},
+                 {"AG0003;", {3, "120", 1, Image::audioOutputMute, Color::red}},
+                 {"AG0004;", {4, "120", 1, Image::audioOutputMute, Color::red}},
+                 {"AG0005;", {5, "005", 0, Image::audioOutputVolumeHigh, Color::none}},
+                 {"AG0255;", {255, "255", 0, Image::audioOutputVolumeHigh, Color::none}},
+                 {"AG0999;", {255, "999", 0, Image::audioOutputVolumeHigh, Color::none}},
+                 {"AG0xyz;", {0, "999", 1, Image::audioOutputMute, Color::red}}};
+    TestBench bench;
+    const Button& mute = bench.display.muteButton;
+    for (const auto& [response, volume] : steps) {
+        bench.receive(response);
+        EXPECT_TRUE((Volume{bench.display.afGainSlider.integerValue(), bench.radio.vqAFLevel, bench.radio.vqMuted,
+                            mute.image(), mute.bezelColor()}) == volume)
+            << response;
+        EXPECT_EQ(mute.tag(), 610) << "the tag belongs to the operator";
+    }
+}
+
+TEST(OperatingStateResponses, RFGainMovesItsSlider) {
+    TestBench bench;
+    bench.receive("RG0200;");
+    EXPECT_EQ(bench.radio.vqRFLevel, "200");
+    EXPECT_EQ(bench.display.rfGainSlider.integerValue(), 200);
+    bench.receive("RG0abc;");
+    EXPECT_EQ(bench.radio.vqRFLevel, "abc");
+    EXPECT_EQ(bench.display.rfGainSlider.integerValue(), 0);
+}
+
+TEST(OperatingStateResponses, SwitchedOnFunctionsAreAskedForTheirLevel) {
+    TestBench bench;
+    bench.receive("NR01;NB01;NR00;NB00;");
+    EXPECT_EQ(bench.takeWrites(), (Writes{"RL0;", "NL0;"}));
+}
+
+TEST(OperatingStateResponses, ASwitchShowsItsStateAndThePressThatFollowsSendsTheOpposite) {
+    const struct {
+        std::string on, off;
+        int tag;
+        Writes pressedWhileOn;
+    } switches[] = {{"BC01", "BC00", 228, {"BC00;", "BI1;"}},
+                    {"BI1", "BI0", 229, {"BI0;"}},
+                    {"BP00001", "BP00000", 233, {"BP00000;", "BI1;"}},
+                    {"CO000001", "CO000000", 234, {"CO000000;", "BI1;"}}};
+    TestBench bench;
+    for (const auto& row : switches) {
+        const Button& button = bench.display.key(row.tag);
+        for (const bool on : {true, true, false, false, true}) {
+            bench.receive((on ? row.on : row.off) + ';');
+            EXPECT_EQ(button.tag(), on ? row.tag + 1000 : row.tag) << row.on;
+            EXPECT_EQ(button.bezelColor(), on ? Color::blue : Color::none) << row.on;
+        }
+        bench.press(row.tag);
+        EXPECT_EQ(bench.takeWrites(), row.pressedWhileOn);
+    }
+}
+
+TEST(OperatingStateResponses, KeyerAndTextMemoriesAreTrimmedCutAndShown) {
+    TestBench bench;
+    Display& display = bench.display;
+    bench.receive("KM2CQ CQ DE TEST  ;EM03 RYRY\t;EM14}TU 73;");
+    EXPECT_THAT(bench.radio.vqTextMemoryArray, ElementsAre("", "", "CQ CQ DE TEST", "RYRY", "}TU 73", ""));
+    EXPECT_EQ(display.key(602).title(), "CQ CQ DE TEST");
+    EXPECT_EQ(display.cwMemoryButtons[1].title(), "CQ CQ DE TEST");
+    EXPECT_EQ(display.key(603).title(), "RYRY");
+    EXPECT_EQ(display.rttyMemoryButtons[2].title(), "RYRY");
+    EXPECT_EQ(display.key(604).title(), "}TU 73");
+    EXPECT_EQ(display.pskMemoryButtons[3].title(), "}TU 73");
+    EXPECT_EQ(bench.radio.vqTextMemoryRevert, "");
+
+    const std::string text = ' ' + std::string(48, 'a') + "\u00e4";  // 50 characters
+    bench.receive("EM15" + text + "beyond;");
+    EXPECT_EQ(bench.radio.vqTextMemoryRevert, text.substr(1));
+    EXPECT_EQ(display.pskMemoryButtons[4].title(), text.substr(1));
+    bench.receive("KM5;");
+    EXPECT_EQ(bench.radio.vqTextMemoryRevert, "");
+    EXPECT_EQ(display.key(605).title(), "");
+    EXPECT_EQ(display.pskMemoryButtons[4].title(), text.substr(1));
+}
+
+TEST(OperatingStateResponses, SwitchedOffEmptiesTheMeterAndSounds) {
+    TestBench bench;
+    bench.receive("RM1100000;PS0;");
+    EXPECT_EQ(bench.display.sMeter.integerValue(), 0);
+    EXPECT_THAT(bench.takeSounds(), ElementsAre("alert Basso"));
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace corvane

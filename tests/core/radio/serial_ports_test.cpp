@@ -1,0 +1,232 @@
+#include <gmock/gmock.h>
+
+#include "radio/link_messages.h"
+#include "tests/support/test_bench.h"
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using Texts = std::vector<std::string>;
+
+struct LinkButtons {
+    std::string title;
+    Color color;
+    bool canReadMemories;
+
+    bool operator==(const LinkButtons&) const = default;
+};
+
+LinkButtons linkButtons(const Display& display) {
+    return {display.openCloseButton.title(), display.openCloseButton.bezelColor(),
+            display.readMemoriesButton.enabled()};
+}
+
+// A program with ports to choose from, none of them open, and every call of a port written down.
+struct SerialPortsTest : testing::Test {
+    Texts calls;
+    const std::shared_ptr<FakeSerialPort> first = std::make_shared<FakeSerialPort>("ttyUSB0", &calls);
+    const std::shared_ptr<FakeSerialPort> second = std::make_shared<FakeSerialPort>("ttyUSB1", &calls);
+    Surroundings around;
+    SerialPortDemoController controller{around.platform(), {}};
+    Display& display = controller.display;
+
+    void start(const SerialPorts& ports) {
+        around.portManager.ports = ports;
+        controller.awakeFromNib();
+    }
+    void startOn(const SerialPorts& ports, int chosen) {
+        start(ports);
+        display.PortPopUpButton.choose(chosen);
+        display.openCloseButton.performClick();
+        calls.clear();
+        around.sounds.played.clear();
+    }
+    Texts takeCalls() { return std::exchange(calls, {}); }
+};
+
+TEST_F(SerialPortsTest, OpeningSetsTheLineAndRemembersThePort) {
+    start({first, second});
+    EXPECT_EQ(linkButtons(display), (LinkButtons{"Connect", Color::none, false}));
+    EXPECT_EQ(display.linkStatusField.stringValue(), "Not connected");
+    display.PortPopUpButton.choose(1);
+    EXPECT_FALSE(second->isOpen());
+    EXPECT_EQ(display.portDetailsField.stringValue(), "USB serial adapter, /dev/ttyUSB1");
+    EXPECT_THAT(around.settings.values, IsEmpty());
+
+    display.openCloseButton.performClick();
+
+    EXPECT_EQ(takeCalls(), (Texts{"ttyUSB1 attach", "ttyUSB1 open"}));
+    EXPECT_EQ(second->line, (FakeSerialPort::Line{38400, Parity::none, 1, true}));
+    EXPECT_EQ(linkButtons(display), (LinkButtons{"Connected", Color::green, true}));
+    EXPECT_EQ(around.settings.values, (MapSettingsStore::Values{{"defaultBaud", "38400"}, {"defaultPort", "ttyUSB1"}}));
+    EXPECT_THAT(around.sounds.played, ElementsAre("file Seatbelts"));
+}
+
+TEST_F(SerialPortsTest, ClosingEndsTheReportsFirst) {
+    startOn({first, second}, 0);
+    display.openCloseButton.performClick();
+    EXPECT_EQ(takeCalls(), (Texts{"ttyUSB0 AI0;", "ttyUSB0 close"}));
+    EXPECT_EQ(linkButtons(display), (LinkButtons{"Connect", Color::red, false}));
+    EXPECT_THAT(around.sounds.played, ElementsAre("alert Bottle"));
+
+    display.openCloseButton.performClick();
+    EXPECT_EQ(linkButtons(display), (LinkButtons{"Connected", Color::green, true}));
+}
+
+TEST_F(SerialPortsTest, WithoutAPortTheButtonDoesNothing) {
+    start({});
+    display.openCloseButton.performClick();
+    EXPECT_EQ(linkButtons(display), (LinkButtons{"Connect", Color::none, false}));
+    EXPECT_THAT(around.sounds.played, IsEmpty());
+    EXPECT_THAT(display.PortPopUpButton.entries(), IsEmpty());
+}
+
+TEST_F(SerialPortsTest, BeginsWithTheSuggestedPortUnlessOneIsRemembered) {
+    start({first, second});
+    EXPECT_EQ(display.PortPopUpButton.indexOfSelectedItem(), PopUpButton::noSelection);
+    EXPECT_EQ(controller.link.serialPort, nullptr);
+    for (const auto& [remembered, chosen] : {std::pair{"", second}, {"ttyUSB9", second}, {"ttyUSB0", first}}) {
+        Surroundings other;
+        other.portManager.ports = {first, second};
+        other.portManager.suggested = second;
+        other.settings.setText("defaultPort", remembered);
+        SerialPortDemoController begun(other.platform(), {});
+        begun.awakeFromNib();
+        EXPECT_EQ(begun.link.serialPort, chosen);
+        EXPECT_EQ(begun.display.PortPopUpButton.titleOfSelectedItem(), chosen->name());
+        EXPECT_FALSE(chosen->isOpen());
+    }
+}
+
+TEST_F(SerialPortsTest, ChoosingAnotherPortClosesAndDetachesTheOldOneFirst) {
+    startOn({first, second}, 0);
+    display.PortPopUpButton.choose(1);
+    EXPECT_EQ(takeCalls(), (Texts{"ttyUSB0 close", "ttyUSB0 detach", "ttyUSB1 attach"}));
+    EXPECT_EQ(linkButtons(display), (LinkButtons{"Connect", Color::red, false}));
+    EXPECT_EQ(display.PortPopUpButton.titleOfSelectedItem(), "ttyUSB1");
+    EXPECT_FALSE(second->isOpen());
+
+    display.PortPopUpButton.choose(1);
+    EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
+TEST_F(SerialPortsTest, APortThatDoesNotOpenSaysWhyAndWhatToDo) {
+    const struct {
+        SerialPortError error;
+        std::string_view logged;
+        Texts hints;
+    } cases[] = {
+        {{SerialPortErrorKind::busy, "Device busy", "/dev/ttyUSB0", ""}, "Device busy", {"/dev/ttyUSB0", "in use"}},
+        {{SerialPortErrorKind::permission, "Permission denied", "/dev/ttyUSB0", "dialout"},
+         "Permission denied",
+         {"/dev/ttyUSB0", "\"dialout\"", "usermod -aG dialout"}},
+        {{SerialPortErrorKind::permission, "Permission denied", "/dev/ttyUSB0", ""},
+         "Permission denied",
+         {"/dev/ttyUSB0"}},
+        {{SerialPortErrorKind::notFound, "No such file", "/dev/ttyUSB0", ""}, "No such file", {"not exist", "Plug"}},
+        {{SerialPortErrorKind::gone, "No such device", "/dev/ttyUSB0", ""}, "No such device", {"ttyUSB0", "unplugged"}},
+        {{SerialPortErrorKind::other, "Input/output error", "", ""},
+         "Input/output error",
+         {"ttyUSB0", "Input/output"}}};
+    start({first, second});
+    display.PortPopUpButton.choose(0);
+    for (const auto& [error, logged, hints] : cases) {
+        display.mainTab.selectItem(Display::radioPage);
+        around.sounds.played.clear();
+        around.log.lines.clear();
+        first->openFailure = error;
+        display.openCloseButton.performClick();
+        EXPECT_EQ(around.log.lines, Texts{"SerialPort ttyUSB0 encountered an error: " + std::string(logged)});
+        EXPECT_EQ(around.sounds.played, Texts{"alert Frog"});
+        EXPECT_EQ(display.mainTab.indexOfSelectedItem(), Display::stationPage);
+        EXPECT_EQ(linkButtons(display), (LinkButtons{"Connect", Color::none, false}));
+        EXPECT_THAT(display.linkMessageField.stringValue(), HasSubstr("press Connect."));
+        for (const std::string& hint : hints) EXPECT_THAT(display.linkMessageField.stringValue(), HasSubstr(hint));
+    }
+    EXPECT_THAT(around.settings.values, IsEmpty());
+
+    first->openFailure.reset();
+    display.openCloseButton.performClick();
+    EXPECT_EQ(linkButtons(display), (LinkButtons{"Connected", Color::green, true}));
+    EXPECT_EQ(display.linkMessageField.stringValue(), "");
+}
+
+TEST_F(SerialPortsTest, AnErrorOnAnOpenPortLeavesItAsItIs) {
+    startOn({first, second}, 0);
+    around.settings.setText("sounds", "0");
+    controller.preferences.vqSounds = "0";
+    display.mainTab.selectItem(Display::radioPage);
+    first->fail({SerialPortErrorKind::other, "Framing error", "/dev/ttyUSB0", ""});
+    EXPECT_EQ(display.mainTab.indexOfSelectedItem(), Display::stationPage);
+    EXPECT_EQ(linkButtons(display), (LinkButtons{"Connected", Color::green, true}));
+    EXPECT_THAT(around.sounds.played, ElementsAre("alert Frog"));
+    controller.sendCommand("FA;");
+    EXPECT_EQ(takeCalls(), Texts{"ttyUSB0 FA;"});
+}
+
+TEST_F(SerialPortsTest, AnOpenPortThatIsUnpluggedLeavesNoPort) {
+    startOn({first, second}, 0);
+    first->unplug();
+    around.portManager.disconnect({first});
+    EXPECT_EQ(takeCalls(), Texts{"ttyUSB0 detach"});
+    EXPECT_EQ(controller.link.serialPort, nullptr);
+    EXPECT_EQ(linkButtons(display), (LinkButtons{"Connect", Color::green, false}));
+    EXPECT_EQ(display.linkStatusField.stringValue(), "Not connected");
+    EXPECT_THAT(display.linkMessageField.stringValue(), HasSubstr("ttyUSB0 was unplugged"));
+    EXPECT_EQ(display.PortPopUpButton.entries(), Texts{"ttyUSB1"});
+    EXPECT_EQ(display.PortPopUpButton.indexOfSelectedItem(), PopUpButton::noSelection);
+    controller.sendCommand("FA;");
+    display.openCloseButton.performClick();
+    EXPECT_THAT(takeCalls(), IsEmpty());
+
+    around.portManager.connect({first});
+    EXPECT_EQ(display.PortPopUpButton.titleOfSelectedItem(), "ttyUSB0");
+    EXPECT_EQ(takeCalls(), Texts{"ttyUSB0 attach"});
+    EXPECT_FALSE(first->isOpen());
+}
+
+TEST_F(SerialPortsTest, AChosenPortThatLeavesWhileClosedIsNotUsedAnyMore) {
+    start({first, second});
+    display.PortPopUpButton.choose(0);
+    around.portManager.disconnect({first});
+    EXPECT_EQ(controller.link.serialPort, nullptr);
+    EXPECT_EQ(display.portDetailsField.stringValue(), "");
+    EXPECT_EQ(display.PortPopUpButton.indexOfSelectedItem(), PopUpButton::noSelection);
+}
+
+TEST_F(SerialPortsTest, PortsThatComeAndGoDoNotTouchAnOpenOne) {
+    startOn({first}, 0);
+    const auto third = std::make_shared<FakeSerialPort>("ttyACM0");
+    around.settings.setText("defaultPort", "ttyUSB1");
+    around.portManager.connect({second, third});
+    EXPECT_EQ(display.PortPopUpButton.entries(), (Texts{"ttyUSB0", "ttyUSB1", "ttyACM0"}));
+    EXPECT_EQ(display.PortPopUpButton.titleOfSelectedItem(), "ttyUSB0");
+    around.portManager.disconnect({second});
+    EXPECT_EQ(display.PortPopUpButton.entries(), (Texts{"ttyUSB0", "ttyACM0"}));
+    EXPECT_EQ(display.PortPopUpButton.titleOfSelectedItem(), "ttyUSB0");
+    EXPECT_TRUE(first->isOpen());
+    EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
+TEST_F(SerialPortsTest, EveryPortThatComesOrGoesGetsANoticeForThreeSeconds) {
+    start({});
+    around.portManager.connect({first, second});
+    around.scheduler.advance(2999ms);
+    EXPECT_THAT(around.notices.removed, IsEmpty());
+    around.scheduler.advance(1ms);
+    EXPECT_THAT(around.notices.removed, ElementsAre(1U, 2U));
+    around.portManager.disconnect({first});
+    EXPECT_EQ(around.notices.shown,
+              (std::vector<UserNotification>{
+                  {"Serial Port Connected", "Serial Port ttyUSB0 was connected to your Mac."},
+                  {"Serial Port Connected", "Serial Port ttyUSB1 was connected to your Mac."},
+                  {"Serial Port Disconnected", "Serial Port ttyUSB0 was disconnected from your Mac."}}));
+    EXPECT_EQ(around.log.lines, (Texts{"Ports were connected: ttyUSB0, ttyUSB1", "Ports were disconnected: ttyUSB0"}));
+}
+
+}  // namespace
+}  // namespace corvane

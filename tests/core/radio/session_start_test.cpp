@@ -1,0 +1,120 @@
+#include <gmock/gmock.h>
+
+#include <optional>
+
+#include "tests/support/test_bench.h"
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::IsEmpty;
+
+const std::string slots = "VS1;MC002;MC;MW002;VM;VS0;MC001;MC;MW001;VM;";
+const std::string synchronisation =
+    "PS;AI1;AI;AG0;VS1;VS0;IF;OI;VS;SV;MD0;NB0;NR0;PC;FA;FB;VS0;BC0;BI;PA0;BP00;CO00;GT0;RA0;RF0;SF0;SF1;"
+    "SS00;SS01;SS02;SS03;SS04;SS05;SS06;MS;EX040101;SV;";
+
+// What stands at a moment: the writes since the last look, the page in front and the settings pages asked for.
+struct Moment {
+    Writes writes;
+    int page;
+    std::string settingsPages;
+
+    bool operator==(const Moment&) const = default;
+};
+
+Moment look(TestBench& bench) {
+    std::string pages;
+    for (int page = 0; page < 4; ++page)
+        if (bench.display.settingsTab.viewRequested(page)) pages += static_cast<char>('0' + page);
+    return {bench.takeWrites(), bench.display.mainTab.indexOfSelectedItem(), pages};
+}
+
+TEST(SessionStart, RunsItsStepsAtTheirTimesWithoutAnyAnswer) {
+    const struct {
+        Scheduler::Duration time;
+        Moment moment;
+    } timeline[] = {{0ms, {{}, 0, ""}},
+                    {4999ms, {{}, 0, ""}},
+                    {5000ms, {{"MR001;"}, 0, ""}},
+                    {6999ms, {{}, 0, ""}},
+                    {7000ms, {{slots}, 0, ""}},
+                    {7999ms, {{}, 0, ""}},
+                    {8000ms, {{synchronisation}, 1, ""}},
+                    {8999ms, {{}, 1, ""}},
+                    {9000ms, {{}, 1, "0"}},
+                    {10000ms, {{}, 1, "01"}},
+                    {11000ms, {{}, 1, "012"}},
+                    {12000ms, {{}, 1, "0123"}},
+                    {600s, {{}, 1, "0123"}}};
+    TestBench bench;
+    EXPECT_EQ(bench.display.vqMemAButton.title(), "");
+    Scheduler::Duration now{0};
+    for (const auto& [time, moment] : timeline) {
+        bench.advance(time - std::exchange(now, time));
+        EXPECT_EQ(look(bench), moment) << time.count() << " ms";
+    }
+}
+
+TEST(SessionStart, MemoryReadStartsAfresh) {
+    TestBench bench;
+    MemoryState& memories = bench.controller.memories;
+    memories.vqMemArray[41] = {"014250000", "2", "20M"};
+    memories.vqTagRead = "run";
+    memories.vqMemReadCnt = memories.vqTagReadCnt = 7;
+    bench.advance(5s);
+    EXPECT_THAT(memories.vqMemArray, testing::Each(MemoryChannel{" ", " ", " "}));
+    EXPECT_EQ(memories.vqMemRead, "run");
+    EXPECT_EQ(memories.vqTagRead, "0");
+    EXPECT_EQ(memories.vqMemReadCnt, 0);
+    EXPECT_EQ(memories.vqTagReadCnt, 0);
+    bench.display.readMemoriesButton.performClick();
+    EXPECT_EQ(bench.takeWrites(), (Writes{"MR001;", "MR001;"}));
+}
+
+TEST(SessionStart, APortThatClosesOrLeavesTakesItsPendingStepsWithIt) {
+    const auto close = [](TestBench& bench) { bench.display.openCloseButton.performClick(); };
+    const auto unplug = [](TestBench& bench) { bench.port->unplug(); };
+    const auto none = [](TestBench& bench) { bench.controller.setSerialPort(nullptr); };
+    for (const std::function<void(TestBench&)>& end : {std::function<void(TestBench&)>(close), {unplug}, {none}}) {
+        TestBench bench;
+        bench.advance(6s);
+        end(bench);
+        bench.forgetWhatHappened();
+        bench.advance(60s);
+        EXPECT_EQ(look(bench), (Moment{{}, 0, ""}));
+    }
+}
+
+TEST(SessionStart, ReopeningRunsTheStepsOnceFromTheStart) {
+    TestBench bench;
+    bench.advance(4s);
+    bench.display.openCloseButton.performClick();
+    bench.display.openCloseButton.performClick();
+    bench.forgetWhatHappened();
+    bench.advance(4999ms);
+    EXPECT_EQ(look(bench), (Moment{{}, 0, ""}));
+    bench.advance(60s);
+    EXPECT_EQ(look(bench), (Moment{{"MR001;", slots, synchronisation}, 1, "0123"}));
+}
+
+TEST(SessionStart, StepsLeftOverFromAClosedProgramDoNothing) {
+    Surroundings around;
+    const auto port = std::make_shared<FakeSerialPort>("ttyUSB0");
+    around.portManager.ports = {port};
+    around.portManager.suggested = port;
+    std::optional<SerialPortDemoController> controller(std::in_place, around.platform(), ServiceHosts{});
+    controller->awakeFromNib();
+    controller->display.openCloseButton.performClick();
+    ASSERT_TRUE(port->isOpen());
+    controller.reset();
+    EXPECT_FALSE(port->isOpen());
+    port->open();
+    port->receive("FA014250000;");
+    around.scheduler.advance(60s);
+    EXPECT_THAT(port->written, IsEmpty());
+}
+
+}  // namespace
+}  // namespace corvane

@@ -1,0 +1,31 @@
+// A clock that stands still until a test moves it.
+#pragma once
+
+#include <map>
+#include <utility>
+
+#include "platform/scheduler.h"
+
+namespace corvane {
+
+class ManualScheduler final : public Scheduler {
+public:
+    void after(Duration delay, std::function<void()> task) override { tasks_.emplace(now_ + delay, std::move(task)); }
+
+    // Runs what falls due within `time`, what those tasks plan included, in the order of time.
+    void advance(Duration time) {
+        const Duration end = now_ + time;
+        while (!tasks_.empty() && tasks_.begin()->first <= end) {
+            auto due = tasks_.extract(tasks_.begin());
+            now_ = due.key();
+            due.mapped()();
+        }
+        now_ = end;
+    }
+
+private:
+    Duration now_{0};
+    std::multimap<Duration, std::function<void()>> tasks_;  // equal times stay in the order given
+};
+
+}  // namespace corvane

@@ -1,0 +1,27 @@
+// Everything that the program expects of its platform, faked.
+#pragma once
+
+#include "platform/platform.h"
+#include "tests/support/fake_serial_port.h"
+#include "tests/support/fake_serial_port_manager.h"
+#include "tests/support/manual_scheduler.h"
+#include "tests/support/map_settings_store.h"
+#include "tests/support/recording_notification_center.h"
+#include "tests/support/recording_outputs.h"
+
+namespace corvane {
+
+struct Surroundings {
+    FakeSerialPortManager portManager;
+    RecordingNotificationCenter notices;
+    ManualScheduler scheduler;
+    MapSettingsStore settings;
+    RecordingSpeechSynthesizer speech;
+    RecordingSoundPlayer sounds;
+    RecordingWebBrowser browser;
+    RecordingLog log;
+
+    Platform platform() { return {portManager, notices, scheduler, settings, speech, sounds, browser, log}; }
+};
+
+}  // namespace corvane

@@ -1,0 +1,77 @@
+// The program on a test bench: the controller among fakes, its window made, connected to a port that is open.
+#pragma once
+
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "controller/serial_port_demo_controller.h"
+#include "tests/support/every_control.h"
+#include "tests/support/surroundings.h"
+
+namespace corvane {
+
+using Writes = std::vector<std::string>;
+using ControlNames = std::set<std::string>;  // "m20Button", "tag2007"
+
+class TestBench {
+    ControlNames changed_;
+    ChangeQueue changes_;
+
+public:
+    explicit TestBench(MapSettingsStore::Values stored = {})
+        : controller(platformWith(std::move(stored)), {.webSite = "https://site.example"}) {
+        controller.awakeFromNib();
+        controller.setSerialPort(port);
+        display.openCloseButton.performClick();
+        forEachControl(display, [this](Control& control) {
+            control.addView(changes_, [this, &control] { changed_.insert(control.objectName()); });
+        });
+        forgetWhatHappened();
+    }
+
+    void receive(std::string_view bytes) { port->receive(bytes); }
+    // Presses the key that had this tag at first.
+    void press(int firstTag) { display.key(firstTag).performClick(); }
+    void advance(Scheduler::Duration time) { around.scheduler.advance(time); }
+
+    // Each gives what has happened since it was asked last.
+    Writes takeWrites() { return std::exchange(port->written, {}); }
+    std::vector<std::string> takeSpoken() { return std::exchange(around.speech.spoken, {}); }
+    std::vector<std::string> takeSounds() { return std::exchange(around.sounds.played, {}); }
+    ControlNames takeChanges() {
+        changes_.refresh();
+        return std::exchange(changed_, {});
+    }
+    void forgetWhatHappened() {
+        takeWrites();
+        takeSpoken();
+        takeSounds();
+        takeChanges();
+    }
+
+    // The band keys that are marked; one unless something is wrong.
+    std::vector<int> markedBands() const {
+        std::vector<int> tags;
+        for (const Button* button : display.bandButtons)
+            if (button->bezelColor() != Color::none) tags.push_back(button->tag());
+        return tags;
+    }
+
+    Surroundings around;
+    const std::shared_ptr<FakeSerialPort> port = std::make_shared<FakeSerialPort>("ttyUSB0");
+    SerialPortDemoController controller;
+    Display& display = controller.display;
+    RadioState& radio = controller.radio;
+
+private:
+    Platform platformWith(MapSettingsStore::Values stored) {
+        around.settings.values = std::move(stored);
+        around.portManager.ports = {port};
+        return around.platform();
+    }
+};
+
+}  // namespace corvane
