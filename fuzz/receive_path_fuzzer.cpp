@@ -1,0 +1,31 @@
+// Bytes from the line, cut anywhere: whole responses through the assembler, raw chunks straight to the program.
+#include <cstdint>
+
+#include "radio/response_assembler.h"
+#include "tests/support/test_bench.h"
+
+#define INVARIANT(condition) \
+    if (!(condition)) __builtin_trap()
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace corvane;
+    TestBench bench;
+    ResponseAssembler assembler([&](std::string_view response) {
+        INVARIANT(!response.empty() && response.size() <= ResponseAssembler::limit);
+        bench.receive(response);
+    });
+    // A first byte says how long the next piece is, so that the input itself decides where it is cut.
+    for (std::string_view rest(reinterpret_cast<const char*>(data), size); !rest.empty();) {
+        const std::string_view chunk = rest.substr(0, static_cast<unsigned char>(rest[0]) % 32U + 1U);
+        rest.remove_prefix(chunk.size());
+        assembler.feed(chunk);
+        bench.receive(chunk);
+        if (chunk.size() == 32) assembler.expire();
+        for (const std::string& command : bench.takeWrites()) INVARIANT(command.size() > 1 && command.back() == ';');
+        INVARIANT(bench.radio.vqFreqA.find(';') == std::string::npos);
+        INVARIANT(bench.markedBands().size() <= 1);
+        INVARIANT(bench.radio.vqMuted == 0 || bench.display.muteButton.bezelColor() == Color::red);
+    }
+    bench.advance(std::chrono::seconds(15));
+    return 0;
+}
