@@ -23,11 +23,13 @@ public:
     virtual ~ORSSerialPortManager() = default;
 
     // In the order of the port list: adapters on USB first, then other ports, named extra ports, and last the simulated
-    // one. A port keeps its object for as long as it stays in the list.
-    virtual const SerialPorts& availablePorts() const = 0;
+    // one. A port keeps its object for as long as it stays in the list. The first call may take 15 ms to ask the
+    // system.
+    virtual const SerialPorts& availablePorts() = 0;
 
-    // The port to begin with while none is remembered: a named extra port, else an adapter on USB, else the simulated one.
-    virtual std::shared_ptr<ORSSerialPort> suggestedPort() const { return nullptr; }
+    // The port to begin with while none is remembered: a named extra port, else an adapter on USB, else the simulated
+    // one.
+    virtual std::shared_ptr<ORSSerialPort> suggestedPort() { return nullptr; }
 
     virtual void setObserver(SerialPortsObserver* observer) = 0;  // or nullptr; does not own it
 };

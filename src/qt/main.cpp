@@ -22,10 +22,11 @@ int main(int argc, char** argv) {
         platform.platform(), corvane::ServiceHosts::from(qEnvironmentVariable("CORVANE_SERVICES").toStdString()));
     corvane::MainWindow window(controller);
     corvane::reportStart(window);
-    // The icon costs a few milliseconds that the first paint need not wait for.
-    QObject::connect(&window, &corvane::MainWindow::firstPainted, &window,
-                     [&window] { window.setWindowIcon(QIcon::fromTheme("corvane", QIcon(":/icons/corvane.svg"))); });
-    controller.awakeFromNib();
+    // The list of ports and the icon cost some 20 ms that the first paint need not wait for.
+    QObject::connect(&window, &corvane::MainWindow::firstPainted, &window, [&window, &controller] {
+        controller.awakeFromNib();
+        window.setWindowIcon(QIcon::fromTheme("corvane", QIcon(":/icons/corvane.svg")));
+    });
     window.show();
     const int result = QApplication::exec();
     // The transceiver must not go on reporting to nobody.

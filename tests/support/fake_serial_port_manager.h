@@ -9,7 +9,7 @@ namespace corvane {
 
 class FakeSerialPortManager final : public ORSSerialPortManager {
 public:
-    const SerialPorts& availablePorts() const override { return ports; }
+    const SerialPorts& availablePorts() override { return ports; }
     std::shared_ptr<ORSSerialPort> suggestedPort() const override { return suggested; }
     void setObserver(SerialPortsObserver* observer) override { observer_ = observer; }
 

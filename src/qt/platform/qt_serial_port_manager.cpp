@@ -13,14 +13,23 @@ QtSerialPortManager::QtSerialPortManager(SerialPortSources sources) : sources_(s
     settled_.setSingleShot(true);
     settled_.setInterval(sources_.settle);
     QObject::connect(&settled_, &QTimer::timeout, &settled_, [this] { refresh(); });
-    if (sources_.watcher) {
-        sources_.watcher->watch([this] { settled_.start(); });
+    QObject::connect(&extraTimer_, &QTimer::timeout, &extraTimer_, [this] { lookAtExtras(); });
+}
+
+// Asking the system costs more than the window's first paint can wait for: it is done when the list is first wanted.
+const SerialPorts& QtSerialPortManager::availablePorts() {
+    if (!listed_) {
+        listed_ = true;
+        startWatching();
+        extras_ = presentExtras();
+        take(presentDevices());
     }
-    if (!sources_.extraPaths.empty()) {
-        QObject::connect(&extraTimer_, &QTimer::timeout, &extraTimer_, [this] { lookAtExtras(); });
-        extraTimer_.start(sources_.extraInterval);
-    }
-    refresh();
+    return ports_;
+}
+
+void QtSerialPortManager::startWatching() {
+    if (sources_.watcher) sources_.watcher->watch([this] { settled_.start(); });
+    if (!sources_.extraPaths.empty()) extraTimer_.start(sources_.extraInterval);
 }
 
 std::vector<SerialDevice> QtSerialPortManager::presentExtras() const {
@@ -66,7 +75,8 @@ SerialPorts QtSerialPortManager::take(const std::vector<SerialDevice>& devices) 
     return fresh;
 }
 
-std::shared_ptr<ORSSerialPort> QtSerialPortManager::suggestedPort() const {
+std::shared_ptr<ORSSerialPort> QtSerialPortManager::suggestedPort() {
+    availablePorts();
     const auto isExtra = [this](const Entry& entry) {
         return std::find(extras_.begin(), extras_.end(), entry.device) != extras_.end();
     };

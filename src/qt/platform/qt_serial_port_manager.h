@@ -32,8 +32,8 @@ class QtSerialPortManager final : public ORSSerialPortManager {
 public:
     explicit QtSerialPortManager(SerialPortSources sources);
 
-    const SerialPorts& availablePorts() const override { return ports_; }
-    std::shared_ptr<ORSSerialPort> suggestedPort() const override;
+    const SerialPorts& availablePorts() override;
+    std::shared_ptr<ORSSerialPort> suggestedPort() override;
     void setObserver(SerialPortsObserver* observer) override { observer_ = observer; }
 
 private:
@@ -47,8 +47,10 @@ private:
     SerialPorts take(const std::vector<SerialDevice>& devices);
     void refresh();
     void lookAtExtras();
+    void startWatching();
 
     SerialPortSources sources_;
+    bool listed_ = false;  // nobody is told of ports before somebody has asked for the list
     std::vector<Entry> entries_;
     std::vector<SerialDevice> extras_;  // present at the last look
     SerialPorts ports_;

@@ -55,13 +55,14 @@ struct ManagerTest : testing::Test, SerialPortsObserver {
         sources.settle = std::chrono::milliseconds(20);
         sources.extraInterval = std::chrono::milliseconds(10);
         manager = std::make_unique<QtSerialPortManager>(std::move(sources));
+        manager->availablePorts();
         manager->setObserver(this);
     }
 
     void serialPortsWereConnected(const SerialPorts& ports) override { connected.push_back(namesOf(ports)); }
     void serialPortsWereDisconnected(const SerialPorts& ports) override { disconnected.push_back(namesOf(ports)); }
 
-    Names names() const { return namesOf(manager->availablePorts()); }
+    Names names() { return namesOf(manager->availablePorts()); }
 };
 
 TEST_F(ManagerTest, ListsDevicesThenExtraPathsThenTheLastPort) {
@@ -144,11 +145,19 @@ TEST(SplitPathsTest, LeavesOutEmptyPiecesAndRepetitions) {
     EXPECT_EQ(splitPaths(":/dev/a::/dev/b:/dev/a:"), (Names{"/dev/a", "/dev/b"}));
 }
 
-TEST(SerialPortWatcherTest, PollingCallsAgainAndAgainAndTheMonitorOpens) {
-    PollingSerialPortWatcher polling(std::chrono::milliseconds(5));
+TEST(SerialPortWatcherTest, PollingTellsOfChangesOnlyAndTheMonitorOpens) {
+    Names attached{"ttyUSB0"};
+    int looks = 0;
+    PollingSerialPortWatcher polling(std::chrono::milliseconds(5), [&] {
+        ++looks;
+        return attached;
+    });
     int calls = 0;
     polling.watch([&] { ++calls; });
-    EXPECT_TRUE(eventually([&] { return calls >= 2; }));
+    EXPECT_TRUE(eventually([&] { return looks >= 3; }));
+    EXPECT_EQ(calls, 0);
+    attached.clear();
+    EXPECT_TRUE(eventually([&] { return calls == 1 && looks >= 6; }));
     EXPECT_TRUE(UdevSerialPortWatcher(UdevSerialPortWatcher::Source::udev).works());
     EXPECT_NE(makeSerialPortWatcher(), nullptr);
 }
