@@ -53,7 +53,8 @@ Traffic spin() {
 // The answers to everything that the program asks for after a port has opened.
 Traffic synchronisation() {
     Traffic traffic;
-    for (const std::string_view answer : {"AI1;",
+    for (const std::string_view answer : {"PS1;",
+                                          "AI1;",
                                           "AG0128;",
                                           "IF000014250000+000000200000;",
                                           "OI000007074000+000000200000;",

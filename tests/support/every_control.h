@@ -10,50 +10,22 @@ void forEachControl(Display& display, Each each) {
     for (const FrontPanelKey& row : frontPanelKeys) each(display.key(row.outlet.tag));
     for (auto* memories : {&display.cwMemoryButtons, &display.rttyMemoryButtons, &display.pskMemoryButtons})
         for (Button& memory : *memories) each(memory);
-    Control* const controls[] = {&display.mainTab,
-                                 &display.settingsTab,
-                                 &display.activeVfoField,
-                                 &display.sMeter,
-                                 &display.licenseClassButton,
-                                 &display.linkStatusField,
-                                 &display.linkMessageField,
-                                 &display.PortPopUpButton,
-                                 &display.BaudPopUpButton,
-                                 &display.portDetailsField,
-                                 &display.openCloseButton,
-                                 &display.readMemoriesButton,
-                                 &display.sendTextField,
-                                 &display.sendButton,
-                                 &display.freqTextField,
-                                 &display.modesPopUpButton,
-                                 &display.memPopUpButton,
-                                 &display.AGCPopUpButton,
-                                 &display.ATTPopUpButton,
-                                 &display.ampPopUpButton,
-                                 &display.RFILPopUpButton,
-                                 &display.DNRPopupButton,
-                                 &display.NBPopupButton,
-                                 &display.smeterPopUpButton,
-                                 &display.MPVDButton,
-                                 &display.FuncKnobButton,
-                                 &display.powerPopUpButton,
-                                 &display.APOPopUpButton,
-                                 &display.colorPopUpButton,
-                                 &display.spectrumModePopUpButton,
-                                 &display.scopeSpeedPopUpButton,
-                                 &display.scopePeakPopUpButton,
-                                 &display.scopeLevelPopUpButton,
-                                 &display.scopeSpanPopUpButton,
-                                 &display.afGainSlider,
-                                 &display.rfGainSlider,
-                                 &display.sendBox,
-                                 &display.textMemoryField,
-                                 &display.sendTextMemoryButton,
-                                 &display.clearTextMemoryButton,
-                                 &display.sentTextMemoryField,
-                                 &display.menuItemPreferencesVoice,
-                                 &display.menuItemPreferencesSounds,
-                                 &display.menuItemPreferencesIPO};
+    // clang-format off
+    Control* const controls[] = {
+        &display.mainTab, &display.settingsTab, &display.activeVfoField, &display.sMeter, &display.licenseClassButton,
+        &display.linkStatusField, &display.linkMessageField, &display.PortPopUpButton, &display.BaudPopUpButton,
+        &display.portDetailsField, &display.openCloseButton, &display.readMemoriesButton, &display.sendTextField,
+        &display.sendButton, &display.freqTextField, &display.modesPopUpButton, &display.memPopUpButton,
+        &display.AGCPopUpButton, &display.ATTPopUpButton, &display.ampPopUpButton, &display.RFILPopUpButton,
+        &display.DNRPopupButton, &display.NBPopupButton, &display.smeterPopUpButton, &display.MPVDButton,
+        &display.FuncKnobButton, &display.powerPopUpButton, &display.APOPopUpButton, &display.colorPopUpButton,
+        &display.spectrumModePopUpButton, &display.scopeSpeedPopUpButton, &display.scopePeakPopUpButton,
+        &display.scopeLevelPopUpButton, &display.scopeSpanPopUpButton, &display.afGainSlider, &display.rfGainSlider,
+        &display.sendBox, &display.textMemoryField, &display.sendTextMemoryButton, &display.clearTextMemoryButton,
+        &display.sentTextMemoryField, &display.menuItemPreferencesVoice, &display.menuItemPreferencesSounds,
+        &display.menuItemPreferencesIPO
+    };
+    // clang-format on
     for (Control* control : controls) each(*control);
 }
 

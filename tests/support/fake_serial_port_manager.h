@@ -10,7 +10,7 @@ namespace corvane {
 class FakeSerialPortManager final : public ORSSerialPortManager {
 public:
     const SerialPorts& availablePorts() override { return ports; }
-    std::shared_ptr<ORSSerialPort> suggestedPort() const override { return suggested; }
+    std::shared_ptr<ORSSerialPort> suggestedPort() override { return suggested; }
     void setObserver(SerialPortsObserver* observer) override { observer_ = observer; }
 
     void connect(const SerialPorts& added) {

@@ -6,7 +6,6 @@ namespace corvane {
 namespace {
 
 using testing::Contains;
-using testing::IsEmpty;
 using testing::Pair;
 
 using Values = MapSettingsStore::Values;
@@ -123,15 +122,6 @@ TEST(SettingsRestore, RunsOnceForTheWindowAndAgainWhenPortsAppear) {
     EXPECT_EQ(power.entries().front(), "5w");
     EXPECT_EQ(power.entries().back(), "100w");
     EXPECT_EQ(power.titleOfSelectedItem(), "50w") << "what the transceiver reported stays";
-}
-
-TEST(SettingsRestore, BeforeTheWindowIsMadeNothingIsHeard) {
-    Surroundings around;
-    SerialPortDemoController controller(around.platform(), {});
-    controller.speak("20 meters");
-    controller.playSound("Funk");
-    EXPECT_THAT(around.speech.spoken, IsEmpty());
-    EXPECT_THAT(around.sounds.played, IsEmpty());
 }
 
 }  // namespace

@@ -10,30 +10,18 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// What a frequency report shows of one side.
-struct Shown {
-    std::string stored;
-    std::string title;
-    std::string entry;
-    std::string spoken;
-    std::string activeVfo;
-    std::string operatorClass;
+using Texts = std::vector<std::string>;
 
-    bool operator==(const Shown&) const = default;
-    friend void PrintTo(const Shown& shown, std::ostream* out) {
-        for (const auto& text :
-             {shown.stored, shown.title, shown.entry, shown.spoken, shown.activeVfo, shown.operatorClass})
-            *out << '"' << text << "\" ";
-    }
-};
-
-Shown shownA(const TestBench& bench) {
-    return {bench.radio.vqFreqA, bench.display.vqFreqAButton.title(),        bench.display.freqTextField.stringValue(),
-            bench.radio.vqVFOA,  bench.display.activeVfoField.stringValue(), bench.display.licenseClassButton.title()};
-}
-Shown shownB(const TestBench& bench) {
-    return {bench.radio.vqFreqB, bench.display.vqFreqBButton.title(),        bench.display.freqTextField.stringValue(),
-            bench.radio.vqVFOB,  bench.display.activeVfoField.stringValue(), bench.display.licenseClassButton.title()};
+// What a frequency report leaves of its side: stored, title, entry field, spoken form, active VFO, operator class.
+Texts shown(const TestBench& bench, char side) {
+    const RadioState& radio = bench.radio;
+    const Display& display = bench.display;
+    return {side == 'A' ? radio.vqFreqA : radio.vqFreqB,
+            (side == 'A' ? display.vqFreqAButton : display.vqFreqBButton).title(),
+            display.freqTextField.stringValue(),
+            side == 'A' ? radio.vqVFOA : radio.vqVFOB,
+            display.activeVfoField.stringValue(),
+            display.licenseClassButton.title()};
 }
 
 TEST(FrequencyResponses, AFrequencyIsStoredShownSpokenAndAskedAfter) {
@@ -49,13 +37,13 @@ TEST(FrequencyResponses, AFrequencyIsStoredShownSpokenAndAskedAfter) {
                  {"12x456789", "0.456.789", "0.456", "0 dot 456 dot 789", "Out of Band", 161}};
     for (const auto& row : cases) {
         TestBench bench;
-        bench.receive("FA" + row.digits + ';');
-        EXPECT_EQ(shownA(bench), (Shown{row.digits, row.title, row.entry, row.spoken, "A", row.operatorClass}));
-        EXPECT_THAT(bench.markedBands(), ElementsAre(row.band));
-        EXPECT_EQ(bench.takeWrites(), (Writes{"GT0;", "RA0;", "RF0;"}));
-        bench.receive("FB" + row.digits + ';');
-        EXPECT_EQ(shownB(bench), (Shown{row.digits, row.title, row.entry, row.spoken, "B", row.operatorClass}));
-        EXPECT_EQ(bench.takeWrites(), (Writes{"GT0;", "RA0;", "RF0;"}));
+        for (const char side : {'A', 'B'}) {
+            bench.receive(std::string("F") + side + row.digits + ';');
+            EXPECT_EQ(shown(bench, side),
+                      (Texts{row.digits, row.title, row.entry, row.spoken, {side}, row.operatorClass}));
+            EXPECT_THAT(bench.markedBands(), ElementsAre(row.band));
+            EXPECT_EQ(bench.takeWrites(), (Writes{"GT0;", "RA0;", "RF0;"}));
+        }
         EXPECT_TRUE(bench.display.licenseClassButton.visible());
     }
 }
@@ -64,23 +52,22 @@ TEST(FrequencyResponses, AFrequencyOfAnotherLengthIsStoredAndNothingElse) {
     for (const std::string digits : {"", "0142500", "01425000", "0142500000"}) {
         TestBench bench;
         bench.receive("FA014250000;FB007074000;");
-        const Shown before = shownA(bench);
         bench.forgetWhatHappened();
         bench.receive("FA" + digits + ";FB" + digits + ';');
         EXPECT_EQ(bench.radio.vqFreqA, digits);
         EXPECT_EQ(bench.radio.vqFreqB, digits);
         EXPECT_EQ(bench.takeChanges(), ControlNames{}) << digits;
         EXPECT_THAT(bench.takeWrites(), IsEmpty());
-        EXPECT_EQ(bench.radio.vqAorB, before.activeVfo);
+        EXPECT_EQ(bench.radio.vqAorB, "B");
     }
 }
 
 TEST(FrequencyResponses, OnAMemoryChannelTheFrequencyButtonKeepsItsTitle) {
     TestBench bench;
     bench.receive("FA014250000;FB007074000;IF012;OI013;FA021285000;");
-    EXPECT_EQ(shownA(bench), (Shown{"021285000", "14.250.000", "21.285", "1 4 dot 250", "A", "General"}));
+    EXPECT_EQ(shown(bench, 'A'), (Texts{"021285000", "14.250.000", "21.285", "1 4 dot 250", "A", "General"}));
     bench.receive("FB014074000;");
-    EXPECT_EQ(shownB(bench), (Shown{"014074000", "7.074.000", "14.074", "7 dot 074", "B", "General CW"}));
+    EXPECT_EQ(shown(bench, 'B'), (Texts{"014074000", "7.074.000", "14.074", "7 dot 074", "B", "General CW"}));
     EXPECT_THAT(bench.markedBands(), ElementsAre(20));
 }
 
@@ -177,21 +164,20 @@ TEST(FrequencyResponses, AnInformationRecordTellsWhatItsSideIsTunedBy) {
 TEST(FrequencyResponses, AModeChoosesItsKeyerMemories) {
     const Writes none, cw{"KM1;", "KM2;", "KM3;", "KM4;", "KM5;"}, rtty{"EM01;", "EM02;", "EM03;", "EM04;", "EM05;"},
         psk{"EM11;", "EM12;", "EM13;", "EM14;", "EM15;"};
+    // clang-format off
     const struct {
         std::string response, mode;
         int item;
         Writes writes;
         std::string box;
-    } cases[] = {{"MD03", "CW-U", 2, cw, "Send CW"},
-                 {"MD02", "USB", 1, none, "Keyer / Encoder"},
-                 {"MD07", "CW-L", 6, cw, "Send CW"},
-                 {"MD0C", "DATA-U", 0, none, "Keyer / Encoder"},
-                 {"MD06", "RTTY-L", 5, rtty, "Send RTTY"},
-                 {"MD09", "RTTY-U", 8, rtty, "Send RTTY"},
-                 {"MD0E", "PSK", 0, psk, "Send PSK"},
-                 {"MD00", "PSK", -1, none, "Keyer / Encoder"},
-                 {"MD0F", "DATA-FM-N", 0, none, "Keyer / Encoder"},
-                 {"MD0x", "DATA-FM-N", 0, none, "Keyer / Encoder"}};
+    } cases[] = {
+        {"MD03", "CW-U", 2, cw, "Send CW"}, {"MD02", "USB", 1, none, "Keyer / Encoder"},
+        {"MD07", "CW-L", 6, cw, "Send CW"}, {"MD0C", "DATA-U", 0, none, "Keyer / Encoder"},
+        {"MD06", "RTTY-L", 5, rtty, "Send RTTY"}, {"MD09", "RTTY-U", 8, rtty, "Send RTTY"},
+        {"MD0E", "PSK", 0, psk, "Send PSK"}, {"MD00", "PSK", -1, none, "Keyer / Encoder"},
+        {"MD0F", "DATA-FM-N", 0, none, "Keyer / Encoder"}, {"MD0x", "DATA-FM-N", 0, none, "Keyer / Encoder"}
+    };
+    // clang-format on
     TestBench bench;
     Display& display = bench.display;
     for (const auto& row : cases) {

@@ -20,17 +20,11 @@ const struct {
                     {"FA0142\n50000;", {"FA014250000;"}},
                     {" FA;\r\n", {" FA;", "\r;"}}};
 
-TEST(SendPath, SendCommandWritesOneCommandAtATime) {
+TEST(SendPath, SendCommandAndTheCommandBoxWriteOneCommandAtATime) {
     TestBench bench;
     for (const auto& [text, commands] : commandTexts) {
         bench.controller.sendCommand(text);
         EXPECT_EQ(bench.takeWrites(), commands) << text;
-    }
-}
-
-TEST(SendPath, CommandBoxSendsWhatIsTypedByButtonAndByReturn) {
-    TestBench bench;
-    for (const auto& [text, commands] : commandTexts) {
         bench.display.sendTextField.setStringValue(text);
         bench.display.sendButton.performClick();
         EXPECT_EQ(bench.takeWrites(), commands) << text;

@@ -115,32 +115,24 @@ TEST_F(SerialPortsTest, ChoosingAnotherPortClosesAndDetachesTheOldOneFirst) {
 }
 
 TEST_F(SerialPortsTest, APortThatDoesNotOpenSaysWhyAndWhatToDo) {
-    const struct {
-        SerialPortError error;
-        std::string_view logged;
-        Texts hints;
-    } cases[] = {
-        {{SerialPortErrorKind::busy, "Device busy", "/dev/ttyUSB0", ""}, "Device busy", {"/dev/ttyUSB0", "in use"}},
-        {{SerialPortErrorKind::permission, "Permission denied", "/dev/ttyUSB0", "dialout"},
-         "Permission denied",
-         {"/dev/ttyUSB0", "\"dialout\"", "usermod -aG dialout"}},
-        {{SerialPortErrorKind::permission, "Permission denied", "/dev/ttyUSB0", ""},
-         "Permission denied",
-         {"/dev/ttyUSB0"}},
-        {{SerialPortErrorKind::notFound, "No such file", "/dev/ttyUSB0", ""}, "No such file", {"not exist", "Plug"}},
-        {{SerialPortErrorKind::gone, "No such device", "/dev/ttyUSB0", ""}, "No such device", {"ttyUSB0", "unplugged"}},
-        {{SerialPortErrorKind::other, "Input/output error", "", ""},
-         "Input/output error",
-         {"ttyUSB0", "Input/output"}}};
+    using enum SerialPortErrorKind;
+    const std::string device = "/dev/ttyUSB0";
+    const std::pair<SerialPortError, Texts> cases[] = {
+        {{busy, "Device busy", device, ""}, {device, "in use"}},
+        {{permission, "Permission denied", device, "dialout"}, {device, "usermod -aG dialout"}},
+        {{permission, "Permission denied", device, ""}, {"may not open " + device}},
+        {{notFound, "No such file", device, ""}, {device, "not exist", "Plug"}},
+        {{gone, "No such device", device, ""}, {"ttyUSB0", "unplugged"}},
+        {{other, "Input/output error", "", ""}, {"ttyUSB0", "Input/output"}}};
     start({first, second});
     display.PortPopUpButton.choose(0);
-    for (const auto& [error, logged, hints] : cases) {
+    for (const auto& [error, hints] : cases) {
         display.mainTab.selectItem(Display::radioPage);
         around.sounds.played.clear();
         around.log.lines.clear();
         first->openFailure = error;
         display.openCloseButton.performClick();
-        EXPECT_EQ(around.log.lines, Texts{"SerialPort ttyUSB0 encountered an error: " + std::string(logged)});
+        EXPECT_EQ(around.log.lines, Texts{"SerialPort ttyUSB0 encountered an error: " + error.text});
         EXPECT_EQ(around.sounds.played, Texts{"alert Frog"});
         EXPECT_EQ(display.mainTab.indexOfSelectedItem(), Display::stationPage);
         EXPECT_EQ(linkButtons(display), (LinkButtons{"Connect", Color::none, false}));
