@@ -1,0 +1,232 @@
+// The program and a transceiver on a real serial line, end to end: what is written when, and what the window shows.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <array>
+#include <map>
+#include <random>
+#include <utility>
+
+#include "station.h"
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(LinkTest, ASilentTransceiverGetsThreeTextsAtTheirTimesAndNothingElse) {
+    Station station;
+    station.radio.operate([](auto& radio) { radio.setFaults({.silent = true}); });
+    // The marks stand on the clock of the session itself, so that a slow machine delays both alike.
+    constexpr std::array marks{4500ms, 6000ms, 7500ms, 8700ms, 13000ms, 25000ms};
+    std::vector<std::string> received;
+    for (const auto mark : marks)
+        station.platform.scheduler.after(mark, [&] { received.push_back(station.radio.takeReceived()); });
+    station.open();
+    ASSERT_TRUE(eventually([&] { return received.size() == marks.size(); }, 20s));
+    EXPECT_EQ(received, (std::vector<std::string>{
+                            "", "MR001;", "VS1;MC002;MC;MW002;VM;VS0;MC001;MC;MW001;VM;",
+                            "PS;AI1;AI;AG0;VS1;VS0;IF;OI;VS;SV;MD0;NB0;NR0;PC;FA;FB;VS0;BC0;BI;PA0;BP00;CO00;GT0;RA0;"
+                            "RF0;SF0;SF1;SS00;SS01;SS02;SS03;SS04;SS05;SS06;MS;EX040101;SV;",
+                            "", ""}));
+    EXPECT_TRUE(station.find<QLabel>("linkStatusField")->text().endsWith("waiting for the transceiver"));
+}
+
+// What the window shows of the frequency of VFO A.
+struct Shown {
+    std::string title;
+    bool bandLit;
+    std::string operatorClass;
+    std::string entry;
+
+    bool operator==(const Shown&) const = default;
+    friend void PrintTo(const Shown& shown, std::ostream* out) {
+        *out << shown.title << ", band " << shown.bandLit << ", " << shown.operatorClass << ", " << shown.entry;
+    }
+};
+
+Shown shownInModels(Station& station, int bandTag) {
+    Display& display = station.display;
+    return {display.vqFreqAButton.title(), display.key(bandTag).bezelColor() == Color::blue,
+            display.licenseClassButton.title(), display.freqTextField.stringValue()};
+}
+
+Shown shownInWidgets(Station& station, const char* bandKey) {
+    return {station.find("vqFreqAButton")->text().toStdString(), station.find(bandKey)->isChecked(),
+            station.find("licenseClassButton")->text().toStdString(),
+            station.find<QLineEdit>("freqTextField")->text().toStdString()};
+}
+
+TEST(LinkTest, TurningTheKnobMovesModelsAndWidgets) {
+    Station station;
+    station.synchronise();
+    struct Case {
+        int hertz;
+        int bandTag;
+        const char* bandKey;
+        Shown shown;
+    };
+    const std::array cases{
+        Case{14'250'250, 20, "m20Button", {"14.250.250", true, "General", "14.250"}},
+        Case{7'005'010, 40, "m40Button", {"7.005.010", true, "Extra CW", "7.005"}},
+        Case{1'100'000, 162, "mmwButton", {"1.100.000", true, "Out of Band", "1.100"}},
+    };
+    for (const Case& turned : cases) {
+        station.radio.operate([&](auto& radio) { ASSERT_TRUE(radio.tune(turned.hertz)); });
+        EXPECT_TRUE(eventually([&] { return shownInWidgets(station, turned.bandKey).title == turned.shown.title; }));
+        EXPECT_EQ(shownInModels(station, turned.bandTag), turned.shown);
+        EXPECT_EQ(shownInWidgets(station, turned.bandKey), turned.shown);
+        EXPECT_EQ(station.find("vqFreqAButton")->accessibleName().toStdString(),
+                  "VFO A, " + turned.shown.title + " MHz, active");
+    }
+}
+
+TEST(LinkTest, KeysOfTheWindowOperateTheTransceiver) {
+    Station station;
+    station.synchronise();
+    const auto asked = [&](const char* command) { return station.radio.transceiver.ask(command); };
+    const auto becomes = [&](const char* command, const std::string& answer) {
+        return eventually([&] { return asked(command) == answer; });
+    };
+    station.radio.operate([](auto& radio) { radio.operate("AG0080;BI0;FA007074000;"); });
+    ASSERT_TRUE(eventually([&] { return station.find("vqFreqAButton")->text() == "7.074.000"; }));
+
+    station.click("m20Button");
+    EXPECT_TRUE(eventually([&] { return station.find("vqFreqAButton")->text().startsWith("14."); }));
+    EXPECT_EQ(station.radio.transceiver.state().activeTuning().frequency / 1'000'000, 14);
+    EXPECT_TRUE(station.find("m20Button")->isChecked());
+    EXPECT_FALSE(station.find("m40Button")->isChecked());
+
+    const int before = station.radio.transceiver.state().activeTuning().frequency;
+    station.click("tag450");
+    EXPECT_TRUE(eventually([&] { return station.radio.transceiver.state().activeTuning().frequency == before + 250; }));
+    EXPECT_TRUE(eventually([&] { return station.find("vqFreqAButton")->text().endsWith(".250"); }));
+
+    station.click("muteButton");
+    EXPECT_TRUE(becomes("AG0;", "AG0000;"));
+    EXPECT_TRUE(eventually([&] { return station.find("muteButton")->isChecked(); }));
+    station.click("muteButton");
+    EXPECT_TRUE(becomes("AG0;", "AG0080;"));
+    EXPECT_TRUE(eventually([&] { return !station.find("muteButton")->isChecked(); }));
+
+    // The mute key has switched break-in on, as every key does; the radio reports it.
+    EXPECT_TRUE(eventually([&] { return station.find("bkinButton")->isChecked(); }));
+    station.click("bkinButton");
+    EXPECT_TRUE(becomes("BI;", "BI0;"));
+    EXPECT_TRUE(eventually([&] { return !station.find("bkinButton")->isChecked(); }));
+    station.click("bkinButton");
+    EXPECT_TRUE(becomes("BI;", "BI1;"));
+}
+
+TEST(LinkTest, ClosingSwitchesTheReportsOffFirstAndSendsNothingMore) {
+    Station station;
+    station.synchronise();
+    ASSERT_TRUE(station.radio.transceiver.state().autoInformation);
+    station.display.mainTab.selectItem(Display::stationPage);
+    ASSERT_TRUE(eventually([&] { return station.find("openCloseButton")->isVisible(); }));
+    station.click("openCloseButton");
+    EXPECT_EQ(station.radio.takeReceived(), "AI0;");
+    EXPECT_FALSE(station.controller.link.serialPort->isOpen());
+    EXPECT_FALSE(station.radio.transceiver.state().autoInformation);
+    station.radio.operate([](auto& radio) { radio.sendRaw("FA007074000;"); });
+    runEventLoop(50ms);
+    EXPECT_EQ(station.radio.takeReceived(), "");
+    EXPECT_EQ(station.find<QLabel>("linkStatusField")->text(), "Not connected");
+    EXPECT_EQ(station.find("openCloseButton")->text(), "Connect");
+}
+
+TEST(LinkTest, PullingThePlugIsSaidAndShown) {
+    Station station;
+    station.synchronise();
+    const std::string path = station.radio.terminal->path();
+    auto* message = station.find<QLabel>("linkMessageField");
+    EXPECT_FALSE(message->isVisible());
+    station.radio.unplug();
+    ASSERT_TRUE(eventually([&] { return message->isVisible(); }));
+    EXPECT_EQ(message->text().toStdString(),
+              path + " was unplugged. Plug it in again, choose it in the list, then press Connect.");
+    EXPECT_EQ(message->accessibleName(), "Message, " + message->text());
+    EXPECT_EQ(station.find<QLabel>("linkStatusField")->text(), "Not connected");
+    EXPECT_EQ(station.find("openCloseButton")->text(), "Connect");
+    EXPECT_FALSE(station.find("readMemoriesButton")->isEnabled());
+    station.click("m20Button");  // goes nowhere, and does no harm
+    EXPECT_EQ(station.controller.link.serialPort, nullptr);
+}
+
+// Name and contents of every key, pop-up and field that stands in the window.
+std::map<std::string, std::string> snapshot(Station& station) {
+    std::map<std::string, std::string> shown;
+    for (auto* key : station.window.findChildren<QAbstractButton*>())
+        shown[key->objectName().toStdString()] = key->text().toStdString() + (key->isChecked() ? " lit" : "");
+    for (auto* popUp : station.window.findChildren<QComboBox*>())
+        shown[popUp->objectName().toStdString()] = popUp->currentText().toStdString();
+    for (auto* field : station.window.findChildren<QLineEdit*>())
+        shown[field->objectName().toStdString()] = field->text().toStdString();
+    shown.erase("PortPopUpButton");  // the name of the line
+    return shown;
+}
+
+TEST(LinkTest, AnswersCutInTwoAreStillWholeResponses) {
+    Station whole;
+    whole.synchronise();
+    const auto expected = snapshot(whole);
+    Station cut;
+    cut.radio.operate([](auto& radio) { radio.setFaults({.cutAnswers = true}); });
+    cut.synchronise();
+    EXPECT_TRUE(eventually([&] { return snapshot(cut) == expected; }));
+    EXPECT_EQ(snapshot(cut), expected);
+    for (int hertz = 14'000'000; hertz < 14'001'000; hertz += 50)
+        cut.radio.operate([&](auto& radio) { radio.tune(hertz); });
+    EXPECT_TRUE(eventually([&] { return cut.find("vqFreqAButton")->text() == "14.000.950"; }));
+}
+
+// Resident memory in bytes.
+long residentMemory() {
+    QFile statistics("/proc/self/statm");
+    if (!statistics.open(QIODevice::ReadOnly)) return 0;
+    return statistics.readAll().split(' ').value(1).toLong() * ::sysconf(_SC_PAGESIZE);
+}
+
+TEST(LinkTest, MegabytesOfGarbageNeitherFillTheMemoryNorStopTheProgram) {
+    constexpr std::size_t megabyte = 1 << 20;
+    Station station;
+    station.synchronise();
+    std::minstd_rand random(11);
+    std::string garbage(1024, ' ');
+    const auto feed = [&](std::size_t amount, unsigned kinds) {
+        std::size_t written = 0;
+        QTimer feeder;
+        QObject::connect(&feeder, &QTimer::timeout, &feeder, [&] {
+            for (char& byte : garbage) byte = static_cast<char>(random() >> 8 & kinds);
+            const auto count = ::write(station.radio.terminal->descriptor(), garbage.data(), garbage.size());
+            if (count > 0) written += static_cast<std::size_t>(count);
+        });
+        feeder.start(0ms);
+        return eventually([&] { return written >= amount; }, 60s);
+    };
+    ASSERT_TRUE(feed(megabyte, 0xff));
+    const long before = residentMemory();
+    QElapsedTimer sinceBeat;
+    qint64 longestPause = 0;
+    QTimer heartbeat;
+    QObject::connect(&heartbeat, &QTimer::timeout, &heartbeat,
+                     [&] { longestPause = std::max(longestPause, sinceBeat.restart()); });
+    heartbeat.start(10ms);
+    sinceBeat.start();
+    ASSERT_TRUE(feed(4 * megabyte, 0xff));  // with a ";" now and then
+    ASSERT_TRUE(feed(8 * megabyte, 0x1f));  // without one
+    EXPECT_LT(longestPause, 500);
+#ifndef __SANITIZE_ADDRESS__  // which keeps what is freed for a while
+    EXPECT_LT(residentMemory() - before, static_cast<long>(4 * megabyte));
+#endif
+    station.radio.operate([](auto& radio) { radio.sendRaw(";FA007123450;"); });
+    EXPECT_TRUE(eventually([&] { return station.find("vqFreqAButton")->text() == "7.123.450"; }));
+}
+
+}  // namespace
+}  // namespace corvane

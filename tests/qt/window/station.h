@@ -1,0 +1,81 @@
+// The whole program on no screen: its real platform and window, wired to the simulated transceiver by a real serial
+// port.
+#pragma once
+
+#include <QAbstractButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "controller/serial_port_demo_controller.h"
+#include "event_loop.h"
+#include "qt/platform/qt_platform.h"
+#include "qt/window/main_window.h"
+#include "radio_on_line.h"
+
+namespace corvane {
+
+class Station {
+public:
+    static constexpr double speed = 25;  // 5 s pass in 200 ms
+
+    Station() {
+        for (const char* preference : {"voice", "sounds"}) platform.settings.setText(preference, "0");
+        controller.awakeFromNib();
+        window.show();
+        QApplication::setActiveWindow(&window);
+    }
+    // The port goes while the window still shows it.
+    ~Station() { controller.setSerialPort(nullptr); }
+    Station(const Station&) = delete;
+    Station& operator=(const Station&) = delete;
+
+    template <class Widget = QAbstractButton>
+    Widget* find(const char* name) {
+        return window.findChild<Widget*>(name);
+    }
+    void click(const char* name) {
+        auto* button = find(name);
+        ASSERT_NE(button, nullptr) << name;
+        ASSERT_TRUE(button->isVisible()) << name;
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
+
+    void open() {
+        click("openCloseButton");
+        ASSERT_TRUE(controller.link.serialPort && controller.link.serialPort->isOpen());
+    }
+    // Opens the port and waits until everything that was asked has been answered and the line is quiet.
+    void synchronise() {
+        open();
+        ASSERT_TRUE(eventually([this] { return radio.transceiver.received().count("EX") > 0; }));
+        settle();
+    }
+    void settle() {
+        radio.takeReceived();
+        ASSERT_TRUE(eventually([this] {
+            runEventLoop(std::chrono::milliseconds(50));
+            return radio.takeReceived().empty();
+        }));
+    }
+
+    RadioOnLine radio;
+    const QTemporaryDir folder;
+    QtPlatform owner{options()};
+    Platform platform = owner.platform();
+    SerialPortDemoController controller{platform, {}};
+    Display& display = controller.display;
+    MainWindow window{controller};
+
+private:
+    QtPlatformOptions options() const {
+        QtPlatformOptions made;
+        made.settingsPath = folder.filePath("corvane.conf");
+        made.soundsFolder = folder.path().toStdString();
+        made.extraPorts = {radio.terminal->path()};
+        made.schedulerSpeed = speed;
+        made.simulatedPort = false;
+        return made;
+    }
+};
+
+}  // namespace corvane

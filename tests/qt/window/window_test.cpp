@@ -1,0 +1,266 @@
+// The window itself: names, focus, shortcuts, pages, repainting and room.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSlider>
+#include <QTabBar>
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "qt/window/shortcuts.h"
+#include "qt/window/theme.h"
+#include "station.h"
+
+namespace corvane {
+namespace {
+
+constexpr int helpPage = Display::settingsPage + 1;
+
+// Shows every page of the window, those of the settings included, one after the other.
+template <class Visit>
+void forEachPage(Station& station, Visit visit) {
+    const auto show = [&](TabView& pages, int index, const char* name) {
+        pages.selectItem(index);
+        ASSERT_TRUE(eventually([&] {
+            const auto* tabs = station.find<QTabWidget>(name);
+            return tabs && tabs->currentIndex() == index && tabs->currentWidget()->isVisible();
+        }));
+    };
+    for (int page = 0; page <= helpPage; ++page) {
+        show(station.display.mainTab, page, "mainTab");
+        if (page != Display::settingsPage) {
+            visit();
+            continue;
+        }
+        for (int group = 0; group < 4; ++group) {
+            show(station.display.settingsTab, group, "settingsTab");
+            visit();
+        }
+    }
+}
+
+// What can be operated or is read by name, as far as it is in sight.
+std::vector<QWidget*> controlsInSight(Station& station) {
+    std::vector<QWidget*> controls;
+    for (auto* widget : station.window.findChildren<QWidget*>()) {
+        const bool control = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QComboBox*>(widget) ||
+                             qobject_cast<QSlider*>(widget) || qobject_cast<QLineEdit*>(widget) ||
+                             qobject_cast<QPlainTextEdit*>(widget) || qobject_cast<QProgressBar*>(widget);
+        const bool named = qobject_cast<QLabel*>(widget) && !widget->objectName().isEmpty();
+        const bool partOfTabs = qobject_cast<QTabBar*>(widget->parentWidget()) != nullptr;
+        if ((control || named) && !partOfTabs && widget->isVisibleTo(&station.window)) controls.push_back(widget);
+    }
+    return controls;
+}
+
+std::string describe(const QWidget* widget) {
+    return std::string(widget->metaObject()->className()) + " \"" + widget->objectName().toStdString() + "\" \"" +
+           widget->accessibleName().toStdString() + '"';
+}
+
+TEST(WindowTest, EveryControlHasItsOwnNameAndExplainsItself) {
+    Station station;
+    station.controller.showOperatorClass("14.250000");
+    std::map<QString, QWidget*> byName;
+    forEachPage(station, [&] {
+        for (QWidget* control : controlsInSight(station)) {
+            EXPECT_FALSE(control->objectName().isEmpty()) << describe(control);
+            EXPECT_FALSE(control->accessibleName().isEmpty()) << describe(control);
+            EXPECT_FALSE(control->toolTip().isEmpty()) << describe(control);
+            // A control may be shown in two places; it then says the same of itself in both.
+            const QWidget* other = byName.try_emplace(control->objectName(), control).first->second;
+            EXPECT_EQ(other->toolTip(), control->toolTip()) << describe(control);
+            EXPECT_EQ(other->accessibleName(), control->accessibleName()) << describe(control);
+        }
+    });
+    for (const FrontPanelKey& key : frontPanelKeys) {
+        if (key.panel == KeyPanel::none) continue;
+        EXPECT_TRUE(byName.contains(QString::fromStdString(station.display.key(key.outlet.tag).objectName())))
+            << key.outlet.label;
+    }
+}
+
+TEST(WindowTest, TheTabKeyReachesEveryEnabledControlOfEveryPage) {
+    Station station;
+    station.controller.enableTextMemoryControls();
+    ASSERT_TRUE(eventually([&] { return QApplication::focusWidget() != nullptr; }));
+    forEachPage(station, [&] {
+        station.window.setFocus();
+        std::set<QWidget*> reached;
+        for (int presses = 0; presses < 300; ++presses) {
+            QWidget* focused = QApplication::focusWidget();
+            if (!focused) focused = &station.window;
+            if (focused != &station.window && !reached.insert(focused).second) break;
+            QTest::keyClick(focused, Qt::Key_Tab);
+        }
+        for (QWidget* control : controlsInSight(station)) {
+            const bool operable = !qobject_cast<QLabel*>(control) && !qobject_cast<QProgressBar*>(control);
+            EXPECT_TRUE(!operable || !control->isEnabled() || reached.contains(control)) << describe(control);
+        }
+    });
+}
+
+TEST(WindowTest, EveryShortcutOfTheHelpPageDoesWhatItSaysOnEveryPage) {
+    Station station;
+    std::map<std::string, std::string> listed;
+    for (const ShortcutText& text : shortcutTexts(station.display))
+        EXPECT_TRUE(listed.try_emplace(text.keys.toStdString(), text.meaning.toStdString()).second)
+            << text.keys.toStdString() << " stands for two things";
+    station.controller.enableTextMemoryControls();
+    int presses = 0;
+    std::vector<std::pair<QKeySequence, std::string>> shortcuts;
+    const auto watch = [&](Button& button) {
+        const Outlet& outlet = button.outlet();
+        button.action = [&presses](Button&) { ++presses; };
+        EXPECT_EQ(listed[std::string(outlet.shortcut)], outlet.label);
+        shortcuts.emplace_back(QString::fromUtf8(outlet.shortcut.data(), outlet.shortcut.size()), outlet.label);
+    };
+    for (const FrontPanelKey& key : frontPanelKeys)
+        if (!key.outlet.shortcut.empty()) watch(station.display.key(key.outlet.tag));
+    watch(station.display.openCloseButton);
+    EXPECT_GT(shortcuts.size(), 30U);
+
+    const auto pressAll = [&](QWidget* target, const QList<QKeySequence>& kept) {
+        for (const auto& [keys, label] : shortcuts) {
+            presses = 0;
+            QTest::keySequence(target, keys);
+            EXPECT_EQ(presses, kept.contains(keys) ? 0 : 1)
+                << keys.toString().toStdString() << ' ' << label << " in " << describe(target);
+        }
+    };
+    forEachPage(station, [&] { pressAll(&station.window, {}); });
+    for (QWidget* control : station.window.findChildren<QWidget*>()) {
+        const bool takesText = qobject_cast<QLineEdit*>(control) || qobject_cast<QPlainTextEdit*>(control);
+        if (!takesText && !qobject_cast<QComboBox*>(control)) continue;
+        // Where one types, the usual key still does again what was undone.
+        const auto* field = qobject_cast<QLineEdit*>(control);
+        const bool typing = field && !field->isReadOnly();
+        pressAll(control, typing ? QKeySequence::keyBindings(QKeySequence::Redo) : QList<QKeySequence>());
+    }
+}
+
+TEST(WindowTest, ShortcutsOfTheWindowGoWhereTheySay) {
+    Station station;
+    const auto page = [&] { return station.display.mainTab.indexOfSelectedItem(); };
+    for (int index = helpPage; index >= 0; --index) {
+        QTest::keySequence(&station.window, QKeySequence("Alt+" + QString::number(index + 1)));
+        EXPECT_EQ(page(), index);
+    }
+    QTest::keySequence(&station.window, QKeySequence("F1"));
+    EXPECT_EQ(page(), helpPage);
+    QTest::keySequence(&station.window, QKeySequence("Ctrl+R"));
+    EXPECT_EQ(page(), Display::stationPage);
+    EXPECT_TRUE(eventually([&] { return station.find<QLineEdit>("sendTextField")->hasFocus(); }));
+    QTest::keySequence(&station.window, QKeySequence("Ctrl+Q"));
+    EXPECT_FALSE(station.window.isVisible());
+}
+
+TEST(WindowTest, PagesAreMadeWhenTheyAreFirstShownOrAskedFor) {
+    Station station;
+    EXPECT_NE(station.find("openCloseButton"), nullptr);
+    EXPECT_EQ(station.find("m20Button"), nullptr);
+    EXPECT_EQ(station.find("tag606"), nullptr);
+    station.display.mainTab.requestView(Display::keyerPage);
+    EXPECT_TRUE(eventually([&] { return station.find("tag606") != nullptr; }));
+    EXPECT_FALSE(station.find("tag606")->isVisible());
+    EXPECT_EQ(station.find("m20Button"), nullptr);
+    station.display.mainTab.selectItem(Display::radioPage);
+    EXPECT_TRUE(eventually([&] { return station.find("m20Button") != nullptr; }));
+    QWidget* const made = station.find("m20Button");
+
+    station.display.settingsTab.requestView(2);  // before there is a page of settings at all
+    station.display.mainTab.selectItem(Display::settingsPage);
+    EXPECT_TRUE(eventually([&] { return station.find("tag2030100") != nullptr; }));
+    EXPECT_EQ(station.find("tag2040100"), nullptr);
+    station.display.mainTab.selectItem(Display::radioPage);
+    EXPECT_TRUE(eventually([&] { return made->isVisible(); }));
+    EXPECT_EQ(station.find("m20Button"), made);
+}
+
+// Counts the events of a kind that a widget gets.
+class EventCount : public QObject {
+public:
+    EventCount(QObject* watched, QEvent::Type type) : QObject(watched), type_(type) {
+        watched->installEventFilter(this);
+    }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == type_) ++count;
+        return false;
+    }
+
+private:
+    const QEvent::Type type_;
+};
+
+TEST(WindowTest, AThousandChangesInOneTurnAreShownOnce) {
+    Station station;
+    station.display.mainTab.selectItem(Display::radioPage);
+    ASSERT_TRUE(eventually([&] { return station.find("m20Button") && station.find("m20Button")->isVisible(); }));
+    runEventLoop(std::chrono::milliseconds(50));
+    const EventCount paints(station.find("vqFreqAButton"), QEvent::Paint);
+    const EventCount refreshes(&station.window, QEvent::MetaCall);
+    for (int hertz = 7'000'000; hertz < 7'001'000; ++hertz)
+        station.controller.interpretResponses("FA00" + std::to_string(hertz) + ';');
+    EXPECT_TRUE(eventually([&] { return paints.count > 0; }));
+    runEventLoop(std::chrono::milliseconds(50));
+    EXPECT_EQ(station.find("vqFreqAButton")->text(), "7.000.999");
+    EXPECT_EQ(refreshes.count, 1);
+    EXPECT_EQ(paints.count, 1);
+}
+
+TEST(WindowTest, AnotherThemeIsSeenAtOnceAndEverywhere) {
+    Station station;
+    EventCount paints(station.find("vqFreqAButton"), QEvent::Paint);
+    for (const auto& [text, kind] : {std::pair{"Light theme", ThemeKind::light},
+                                     {"Dark theme", ThemeKind::dark},
+                                     {"Light theme", ThemeKind::light}}) {
+        const auto actions = station.window.findChildren<QAction*>();
+        const auto action = std::ranges::find_if(actions, [&](const QAction* each) { return each->text() == text; });
+        ASSERT_NE(action, actions.end());
+        paints.count = 0;
+        (*action)->trigger();
+        EXPECT_EQ(Theme::currentKind(), kind);
+        EXPECT_TRUE(eventually([&] { return paints.count > 0; }));
+        EXPECT_EQ(station.window.palette().color(QPalette::Window), Theme::current().window);
+        const QImage picture = station.window.grab().toImage();
+        EXPECT_EQ(picture.pixelColor(2, picture.height() - 3), Theme::current().window);
+    }
+}
+
+TEST(WindowTest, EveryPageFitsIntoTwelveHundredAndEightyByEightHundred) {
+    Station station;
+    station.window.resize(1280, 800);
+    EXPECT_LE(station.window.minimumSizeHint().width(), 1280);
+    EXPECT_LE(station.window.minimumSizeHint().height(), 800);
+    station.display.vqMemAButton.setTitle("  M-12 FT8");
+    station.controller.interpretResponses("FA021200000;FB014074000;");
+    forEachPage(station, [&] {
+        for (const auto* area : station.window.findChildren<QScrollArea*>()) {
+            if (!area->isVisibleTo(&station.window) || !area->widget()) continue;
+            EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << describe(area->widget());
+        }
+        for (const QWidget* control : controlsInSight(station)) {
+            const auto* key = qobject_cast<const QAbstractButton*>(control);
+            if (key) {
+                EXPECT_LE(QFontMetrics(key->font()).horizontalAdvance(key->text()), key->width()) << describe(key);
+            }
+            EXPECT_GE(control->height(), std::min(control->minimumSizeHint().height(), 20)) << describe(control);
+        }
+    });
+}
+
+}  // namespace
+}  // namespace corvane
