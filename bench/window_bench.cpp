@@ -227,6 +227,7 @@ public:
         controller_.link.serialPort->setDelegate(&counting_);
         window_.show();
         application_.keysGoTo = &window_;
+        const StampedKey first;  // the keyboard it stands for is made on this thread
         vfoA_ = window_.findChild<QAbstractButton*>("vqFreqAButton");
         application_.watched = vfoA_;
     }
