@@ -68,6 +68,10 @@ public:
 
 private:
     QtPlatformOptions options() const {
+        // No sound server, speech service or session bus of this machine may answer.
+        qputenv("PULSE_SERVER", "unix:/no/such/socket");
+        qputenv("SPEECHD_ADDRESS", "unix_socket:/no/such/socket");
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/such/socket");
         QtPlatformOptions made;
         made.settingsPath = folder.filePath("corvane.conf");
         made.soundsFolder = folder.path().toStdString();
