@@ -6,8 +6,8 @@
 #include "app/service_hosts.h"
 #include "controller/serial_port_demo_controller.h"
 #include "qt/platform/qt_platform.h"
-#include "qt/start_report.h"
 #include "qt/window/main_window.h"
+#include "qt/window/start_report.h"
 
 int main(int argc, char** argv) {
     QApplication::setApplicationName("corvane");

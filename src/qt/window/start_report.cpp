@@ -1,4 +1,4 @@
-#include "qt/start_report.h"
+#include "qt/window/start_report.h"
 
 #include <unistd.h>
 
@@ -34,11 +34,15 @@ double residentMemory() {
 
 }  // namespace
 
+void printStart() {
+    std::printf("first paint %.0f ms, resident %.1f MiB\n", processAge(), residentMemory());
+    std::fflush(stdout);
+}
+
 void reportStart(MainWindow& window) {
     if (!qEnvironmentVariableIsSet("CORVANE_STOP_AFTER_FIRST_PAINT")) return;
     QObject::connect(&window, &MainWindow::firstPainted, &window, [] {
-        std::printf("first paint %.0f ms, resident %.1f MiB\n", processAge(), residentMemory());
-        std::fflush(stdout);
+        printStart();
         QApplication::quit();
     });
 }

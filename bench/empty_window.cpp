@@ -1,0 +1,29 @@
+// The floor under the program's start: an application with one empty window of the same size. Run it on the same screen
+// as CORVANE_STOP_AFTER_FIRST_PAINT=1 corvane.
+#include <QApplication>
+#include <QTimer>
+#include <QWidget>
+
+#include "qt/window/start_report.h"
+
+namespace {
+
+class EmptyWindow : public QWidget {
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QTimer::singleShot(0, [] {
+            corvane::printStart();
+            QApplication::quit();
+        });
+    }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    EmptyWindow window;
+    window.resize(1280, 800);
+    window.show();
+    return QApplication::exec();
+}
