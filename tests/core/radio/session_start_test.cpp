@@ -1,7 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <optional>
-
 #include "tests/support/test_bench.h"
 
 namespace corvane {
@@ -104,7 +102,7 @@ TEST(SessionStart, StepsLeftOverFromAClosedProgramDoNothing) {
     const auto port = std::make_shared<FakeSerialPort>("ttyUSB0");
     around.portManager.ports = {port};
     around.portManager.suggested = port;
-    std::optional<SerialPortDemoController> controller(std::in_place, around.platform(), ServiceHosts{});
+    auto controller = std::make_unique<SerialPortDemoController>(around.platform(), ServiceHosts{});
     controller->awakeFromNib();
     controller->display.openCloseButton.performClick();
     ASSERT_TRUE(port->isOpen());
