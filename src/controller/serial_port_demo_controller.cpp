@@ -25,7 +25,11 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
 
 SerialPortDemoController::~SerialPortDemoController() {
     serialPortManager.setObserver(nullptr);
-    setSerialPort(nullptr);
+    // The window may have gone before: nobody is left to show what the port says of its closing.
+    if (const auto port = std::exchange(link.serialPort, nullptr)) {
+        port->setDelegate(nullptr);
+        port->close();
+    }
 }
 
 void SerialPortDemoController::awakeFromNib() {

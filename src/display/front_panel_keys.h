@@ -92,7 +92,7 @@ inline constexpr std::array frontPanelKeys{
     FrontPanelKey{{"", 360, "10", "Scope color 10", "Scope display in color 10."}, KeyPanel::scopeColors},
     FrontPanelKey{{"", 361, "11", "Scope color 11", "Scope display in color 11."}, KeyPanel::scopeColors},
 
-    FrontPanelKey{{"", 379, "ZIN", "CW zero in", "Tune to zero beat with the CW signal that is heard.", "Ctrl+Shift+Z"}, KeyPanel::vfo},
+    FrontPanelKey{{"", 379, "ZIN", "CW zero in", "Tune to zero beat with the CW signal that is heard.", "Ctrl+Shift+E"}, KeyPanel::vfo},
     FrontPanelKey{{"", 380, "15 W", "Tune power", "Transmit power 15 W, for tuning.", "Ctrl+Shift+T"}, KeyPanel::power},
     FrontPanelKey{{"", 381, "100 W", "Full power", "Transmit power 100 W.", "Ctrl+Shift+F"}, KeyPanel::power},
     FrontPanelKey{{"", 382, "ATU TUNE", "Antenna tuner: tune", "Start the antenna tuner at 15 W. The transceiver transmits."}, KeyPanel::power},

@@ -75,7 +75,7 @@ HeaderBar::HeaderBar(Display& display, ChangeQueue& queue, QWidget* parent) : QW
     row->setSpacing(3 * gridStep);
     row->addWidget(new VfoButton(display.vqFreqAButton, display.activeVfoField, "A", queue), 4);
     row->addWidget(new VfoButton(display.vqFreqBButton, display.activeVfoField, "B", queue), 4);
-    row->addWidget(makeStatusBlock(display, queue), 3);
+    row->addWidget(makeStatusBlock(display, queue), 4);
     rows->addLayout(row);
     rows->addWidget(makeMessage(display, queue));
 }
@@ -91,8 +91,9 @@ QWidget* HeaderBar::makeStatusBlock(Display& display, ChangeQueue& queue) {
     grid->addWidget(new KeyButton(display.vqMemAButton, queue), 1, 2);
     grid->addWidget(new LinkLabel(display, queue), 2, 0, 1, 3);
     grid->setColumnMinimumWidth(0, 26 * gridStep);
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(2, 1);
+    // "Technician CW" and a channel with a tag of twelve characters fit.
+    grid->setColumnStretch(1, 3);
+    grid->setColumnStretch(2, 4);
     return block;
 }
 
@@ -100,11 +101,7 @@ QWidget* HeaderBar::makeStatusBlock(Display& display, ChangeQueue& queue) {
 QWidget* HeaderBar::makeMessage(Display& display, ChangeQueue& queue) {
     auto* message = new TextLabel(display.linkMessageField, queue);
     message->setContentsMargins(3 * gridStep, 2 * gridStep, 3 * gridStep, 2 * gridStep);
-    message->setAutoFillBackground(true);
     const auto show = [message, &field = display.linkMessageField] {
-        QPalette colors;
-        colors.setColor(QPalette::Window, Theme::current().warning);
-        message->setPalette(colors);
         message->setVisible(!field.stringValue().empty());
     };
     display.linkMessageField.addView(queue, show);

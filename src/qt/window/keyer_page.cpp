@@ -28,7 +28,7 @@ Panel* sendPanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel({});
     const auto show = [panel, &box = display.sendBox] {
         panel->setTitle(toQString(box.title()));
-        panel->setTitleColor(box.titleColor() == Color::none ? Theme::current().text : QColor());
+        panel->setTitleQuiet(box.titleColor() != Color::none);
     };
     display.sendBox.addView(queue, show);
     show();

@@ -10,7 +10,7 @@ namespace corvane {
 
 Panel::Panel(const QString& title, QWidget* parent) : QFrame(parent), title_(new QLabel(this)) {
     title_->setFont(typeface(TypeSize::small, QFont::DemiBold));
-    title_->setForegroundRole(QPalette::PlaceholderText);
+    setTitleQuiet(true);
     content_ = new QVBoxLayout(this);
     content_->setContentsMargins(3 * gridStep, 2 * gridStep, 3 * gridStep, 3 * gridStep);
     content_->setSpacing(2 * gridStep);
@@ -23,10 +23,8 @@ void Panel::setTitle(const QString& title) {
     setAccessibleName(title);
 }
 
-void Panel::setTitleColor(const QColor& color) {
-    QPalette colors = palette();
-    if (color.isValid()) colors.setColor(QPalette::PlaceholderText, color);
-    title_->setPalette(color.isValid() ? colors : QPalette());
+void Panel::setTitleQuiet(bool quiet) {
+    title_->setForegroundRole(quiet ? QPalette::PlaceholderText : QPalette::WindowText);
 }
 
 void Panel::paintEvent(QPaintEvent*) {

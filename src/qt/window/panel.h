@@ -16,7 +16,7 @@ public:
     explicit Panel(const QString& title, QWidget* parent = nullptr);
 
     void setTitle(const QString& title);
-    void setTitleColor(const QColor& color);  // an invalid colour is the ordinary one
+    void setTitleQuiet(bool quiet);  // quiet at first
     QVBoxLayout& content() { return *content_; }
 
 protected:

@@ -136,8 +136,10 @@ QString Theme::styleSheet() const {
                "24px; }"
                "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
                "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }"
+               "#linkMessageField { background: %8; }"
                "QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: 0; }")
-        .arg(line.name(), quietText.name(), text.name(), accent.name(), key.name(), panel.name(), window.name());
+        .arg(line.name(), quietText.name(), text.name(), accent.name(), key.name(), panel.name(), window.name(),
+             warning.name());
 }
 
 QColor readableOn(const QColor& background) {

@@ -24,11 +24,6 @@ public:
         window.show();
         QApplication::setActiveWindow(&window);
     }
-    // The port goes while the window still shows it.
-    ~Station() { controller.setSerialPort(nullptr); }
-    Station(const Station&) = delete;
-    Station& operator=(const Station&) = delete;
-
     template <class Widget = QAbstractButton>
     Widget* find(const char* name) {
         return window.findChild<Widget*>(name);

@@ -129,22 +129,18 @@ TEST(WindowTest, EveryShortcutOfTheHelpPageDoesWhatItSaysOnEveryPage) {
     watch(station.display.openCloseButton);
     EXPECT_GT(shortcuts.size(), 30U);
 
-    const auto pressAll = [&](QWidget* target, const QList<QKeySequence>& kept) {
+    const auto pressAll = [&](QWidget* target) {
         for (const auto& [keys, label] : shortcuts) {
             presses = 0;
             QTest::keySequence(target, keys);
-            EXPECT_EQ(presses, kept.contains(keys) ? 0 : 1)
-                << keys.toString().toStdString() << ' ' << label << " in " << describe(target);
+            EXPECT_EQ(presses, 1) << keys.toString().toStdString() << ' ' << label << " in " << describe(target);
         }
     };
-    forEachPage(station, [&] { pressAll(&station.window, {}); });
+    forEachPage(station, [&] { pressAll(&station.window); });
     for (QWidget* control : station.window.findChildren<QWidget*>()) {
-        const bool takesText = qobject_cast<QLineEdit*>(control) || qobject_cast<QPlainTextEdit*>(control);
-        if (!takesText && !qobject_cast<QComboBox*>(control)) continue;
-        // Where one types, the usual key still does again what was undone.
-        const auto* field = qobject_cast<QLineEdit*>(control);
-        const bool typing = field && !field->isReadOnly();
-        pressAll(control, typing ? QKeySequence::keyBindings(QKeySequence::Redo) : QList<QKeySequence>());
+        const bool takesKeys = qobject_cast<QLineEdit*>(control) || qobject_cast<QPlainTextEdit*>(control) ||
+                               qobject_cast<QComboBox*>(control);
+        if (takesKeys) pressAll(control);
     }
 }
 
@@ -223,6 +219,9 @@ TEST(WindowTest, AThousandChangesInOneTurnAreShownOnce) {
 
 TEST(WindowTest, AnotherThemeIsSeenAtOnceAndEverywhere) {
     Station station;
+    station.display.linkMessageField.setStringValue("The cable fell off.");
+    auto* message = station.find<QLabel>("linkMessageField");
+    ASSERT_TRUE(eventually([&] { return message->isVisible(); }));
     EventCount paints(station.find("vqFreqAButton"), QEvent::Paint);
     for (const auto& [text, kind] : {std::pair{"Light theme", ThemeKind::light},
                                      {"Dark theme", ThemeKind::dark},
@@ -237,6 +236,7 @@ TEST(WindowTest, AnotherThemeIsSeenAtOnceAndEverywhere) {
         EXPECT_EQ(station.window.palette().color(QPalette::Window), Theme::current().window);
         const QImage picture = station.window.grab().toImage();
         EXPECT_EQ(picture.pixelColor(2, picture.height() - 3), Theme::current().window);
+        EXPECT_EQ(message->grab().toImage().pixelColor(message->width() - 2, 2), Theme::current().warning) << text;
     }
 }
 
@@ -245,8 +245,8 @@ TEST(WindowTest, EveryPageFitsIntoTwelveHundredAndEightyByEightHundred) {
     station.window.resize(1280, 800);
     EXPECT_LE(station.window.minimumSizeHint().width(), 1280);
     EXPECT_LE(station.window.minimumSizeHint().height(), 800);
-    station.display.vqMemAButton.setTitle("  M-12 FT8");
-    station.controller.interpretResponses("FA021200000;FB014074000;");
+    station.display.vqMemAButton.setTitle("  M-12 40M FT8 QRP");
+    station.controller.interpretResponses("FA021200000;FB014074000;FA028100000;");
     forEachPage(station, [&] {
         for (const auto* area : station.window.findChildren<QScrollArea*>()) {
             if (!area->isVisibleTo(&station.window) || !area->widget()) continue;
