@@ -2,6 +2,7 @@
 #include <cstdint>
 
 #include "radio/response_assembler.h"
+#include "radio/utf8.h"
 #include "tests/support/test_bench.h"
 
 #define INVARIANT(condition) \
@@ -24,6 +25,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (const std::string& command : bench.takeWrites()) INVARIANT(command.size() > 1 && command.back() == ';');
         INVARIANT(bench.radio.vqFreqA.find(';') == std::string::npos);
         INVARIANT(bench.markedBands().size() <= 1);
+        for (const FrontPanelKey& row : frontPanelKeys) INVARIANT(isUtf8(bench.display.key(row.outlet.tag).title()));
+        INVARIANT(isUtf8(bench.display.freqTextField.stringValue()));
         INVARIANT(bench.radio.vqMuted == 0 || bench.display.muteButton.bezelColor() == Color::red);
     }
     bench.advance(std::chrono::seconds(15));

@@ -7,8 +7,8 @@
 
 namespace simulator {
 
-/// A tuning knob spun by hand: 879 reports in every 8 s, evenly spaced, of which 330 are frequencies, 272 meter
-/// readings, 243 information records and 34 tuning rates.
+// A tuning knob spun by hand: 879 reports in every 8 s, evenly spaced, of which 330 are frequencies, 272 meter
+// readings, 243 information records and 34 tuning rates.
 class KnobSpin {
 public:
     enum class Report { frequency, meter, information, rate };
@@ -16,10 +16,10 @@ public:
     void start(Time now, Time duration);
     void stop() { end_ = begin_; }
 
-    /// When the next report goes out; nothing when the knob stands still.
+    // When the next report goes out; nothing when the knob stands still.
     std::optional<Time> nextReport() const;
 
-    /// What that report is; moves on to the one after it.
+    // What that report is; moves on to the one after it.
     Report take();
 
 private:

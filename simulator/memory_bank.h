@@ -8,7 +8,7 @@
 
 namespace simulator {
 
-/// One memory channel. The tag has at most 12 characters and no blanks at its end.
+// One memory channel. The tag has at most 12 characters and no blanks at its end.
 struct MemoryChannel {
     Tuning tuning;
     std::string tag;
@@ -17,7 +17,7 @@ struct MemoryChannel {
     bool operator==(const MemoryChannel&) const = default;
 };
 
-/// The memory channels: 1 to 99, which can be written and emptied, and the fixed group 501 to 505 on 5 MHz.
+// The memory channels: 1 to 99, which can be written and emptied, and the fixed group 501 to 505 on 5 MHz.
 class MemoryBank {
 public:
     static constexpr int lastChannel = 99;
@@ -25,17 +25,17 @@ public:
 
     MemoryBank();
 
-    /// The channel, or null when it is empty or does not exist.
+    // The channel, or null when it is empty or does not exist.
     const MemoryChannel* find(int channel) const;
 
-    /// Writes frequency and mode and keeps the tag. Refused outside 1 to 99, for a frequency that the transceiver does
-    /// not cover and for an unknown mode.
+    // Writes frequency and mode and keeps the tag. Refused outside 1 to 99, for a frequency that the transceiver does
+    // not cover and for an unknown mode.
     bool write(int channel, Tuning tuning);
 
-    /// Gives a written channel its tag, cut to 12 characters, blanks at the end dropped. Refused for an empty channel.
+    // Gives a written channel its tag, cut to 12 characters, blanks at the end dropped. Refused for an empty channel.
     bool writeTag(int channel, std::string_view tag, bool shown = true);
 
-    /// Empties a channel, which may be empty already. Refused outside 1 to 99.
+    // Empties a channel, which may be empty already. Refused outside 1 to 99.
     bool clear(int channel);
 
 private:

@@ -6,7 +6,7 @@
 
 namespace simulator {
 
-/// The commands of memory channels and quick memories.
+// The commands of memory channels and quick memories.
 std::span<const CommandRow> memoryCommands();
 
 }  // namespace simulator

@@ -7,9 +7,9 @@ namespace simulator {
 
 enum class MenuForm { number, signedNumber, text };
 
-/// One item of the setup menu. `width` is the exact number of characters of its value on the line: item 010104 with
-/// width 4 is answered "EX0101040300;", item 010101 with width 3 and a sign "EX010101+00;", the text item 040101 with
-/// width 12 "EX040101N0CALL      ;". Lowest, highest and step are of no meaning for a text.
+// One item of the setup menu. `width` is the exact number of characters of its value on the line: item 010104 with
+// width 4 is answered "EX0101040300;", item 010101 with width 3 and a sign "EX010101+00;", the text item 040101 with
+// width 12 "EX040101N0CALL      ;". Lowest, highest and step are of no meaning for a text.
 struct MenuRow {
     std::string_view number;
     MenuForm form;
@@ -20,10 +20,10 @@ struct MenuRow {
     int initial;
 };
 
-/// All items, ordered by number.
+// All items, ordered by number.
 std::span<const MenuRow> menuRows();
 
-/// The item of a six-digit number, or null when there is none.
+// The item of a six-digit number, or null when there is none.
 const MenuRow* menuRow(std::string_view number);
 
 }  // namespace simulator

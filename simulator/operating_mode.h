@@ -5,8 +5,8 @@
 
 namespace simulator {
 
-/// An operating mode: its code on the line ("MD02;" is code 2), its name, and what the automatic AGC makes of it: the
-/// digit that "GT0;" is answered with (4 fast, 5 mid, 6 slow).
+// An operating mode: its code on the line ("MD02;" is code 2), its name, and what the automatic AGC makes of it: the
+// digit that "GT0;" is answered with (4 fast, 5 mid, 6 slow).
 struct OperatingMode {
     char code;
     std::string_view name;
@@ -21,14 +21,14 @@ inline constexpr std::array operatingModes{
     OperatingMode{'D', "AM-N", '5'},    OperatingMode{'E', "PSK", '5'},    OperatingMode{'F', "DATA-FM-N", '4'},
 };
 
-/// The mode of a code, or null.
+// The mode of a code, or null.
 constexpr const OperatingMode* modeOfCode(char code) {
     for (const OperatingMode& mode : operatingModes)
         if (mode.code == code) return &mode;
     return nullptr;
 }
 
-/// The mode of a name, exactly as written in the table, or null.
+// The mode of a name, exactly as written in the table, or null.
 constexpr const OperatingMode* modeOfName(std::string_view name) {
     for (const OperatingMode& mode : operatingModes)
         if (mode.name == name) return &mode;

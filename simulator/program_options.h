@@ -5,7 +5,7 @@
 
 namespace simulator {
 
-/// The command line of corvane-radio.
+// The command line of corvane-radio.
 struct ProgramOptions {
     std::string link = {};  ///< symbolic link to make to the port, or empty
     bool instant = false;
@@ -16,10 +16,10 @@ struct ProgramOptions {
     bool operator==(const ProgramOptions&) const = default;
 };
 
-/// Reads the arguments after the program's name: --link PATH, --instant, --silent, --help.
+// Reads the arguments after the program's name: --link PATH, --instant, --silent, --help.
 ProgramOptions parseOptions(std::span<const char* const> arguments);
 
-/// What --help prints: the options and the typed commands.
+// What --help prints: the options and the typed commands.
 std::string usageText();
 
 }  // namespace simulator

@@ -13,14 +13,14 @@
 
 namespace simulator {
 
-/// corvane-radio itself: the simulated transceiver between a pseudo-terminal and the typed commands of standard input.
-/// Prints "port /dev/pts/3" whenever it is plugged in and "unplugged" when it is not.
+// corvane-radio itself: the simulated transceiver between a pseudo-terminal and the typed commands of standard input.
+// Prints "port /dev/pts/3" whenever it is plugged in and "unplugged" when it is not.
 class RadioProgram {
 public:
     explicit RadioProgram(const ProgramOptions& options);
 
-    /// Runs until "quit", the end of a terminal's input or a signal. The end of input that is no terminal only ends the
-    /// typed commands. Throws std::system_error when the system gives no port or the link cannot be made.
+    // Runs until "quit", the end of a terminal's input or a signal. The end of input that is no terminal only ends the
+    // typed commands. Throws std::system_error when the system gives no port or the link cannot be made.
     void run();
 
 private:

@@ -16,8 +16,8 @@ namespace simulator {
 
 enum class Side { a, b };
 
-/// One of the two sides. On a memory channel it works with a copy of the channel, which can be tuned without changing
-/// the channel; its VFO waits underneath.
+// One of the two sides. On a memory channel it works with a copy of the channel, which can be tuned without changing
+// the channel; its VFO waits underneath.
 struct VfoSide {
     Tuning vfo;
     int channel = 1;
@@ -26,8 +26,8 @@ struct VfoSide {
     const Tuning& tuning() const { return recalled ? *recalled : vfo; }
 };
 
-/// Everything that the transceiver is set to. The operations are what its keys do; each returns false, and changes
-/// nothing, where the transceiver would refuse.
+// Everything that the transceiver is set to. The operations are what its keys do; each returns false, and changes
+// nothing, where the transceiver would refuse.
 struct RadioState {
     bool powered = true;
     bool awake = false;  ///< while switched off: the link has been woken by a first "PS1;"
@@ -65,13 +65,13 @@ struct RadioState {
     int meter() const { return transmitting ? 0 : signalLevel; }
 };
 
-/// The answer's text of a reading, without ";": "FA014250000".
+// The answer's text of a reading, without ";": "FA014250000".
 std::string frequencyReading(const RadioState& state, Side side);
 
-/// "IF000014250000+000000200000" for side A and "OI..." for side B: channel, frequency, clarifier, mode, kind.
+// "IF000014250000+000000200000" for side A and "OI..." for side B: channel, frequency, clarifier, mode, kind.
 std::string informationReading(const RadioState& state, Side side);
 
-/// The same layout for a memory channel: "MR001014250000+000000210000".
+// The same layout for a memory channel: "MR001014250000+000000210000".
 std::string channelReading(int number, const MemoryChannel& channel);
 
 std::string selectedChannelReading(const RadioState& state);

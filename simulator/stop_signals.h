@@ -2,17 +2,17 @@
 
 namespace simulator {
 
-/// Turns SIGINT, SIGTERM and SIGHUP into something that poll() sees, so that the program can clean up before it ends.
-/// One at a time.
+// Turns SIGINT, SIGTERM and SIGHUP into something that poll() sees, so that the program can clean up before it ends.
+// One at a time.
 class StopSignals {
 public:
-    /// Throws std::system_error when the system gives no pipe.
+    // Throws std::system_error when the system gives no pipe.
     StopSignals();
     ~StopSignals();
     StopSignals(const StopSignals&) = delete;
     StopSignals& operator=(const StopSignals&) = delete;
 
-    /// Readable from the first signal on.
+    // Readable from the first signal on.
     int descriptor() const { return readEnd_; }
 
 private:

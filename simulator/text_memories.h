@@ -8,18 +8,18 @@ namespace simulator {
 
 enum class TextFamily { cw, rtty, psk };
 
-/// The messages that the transceiver can send by itself: five each for CW ("KM1" to "KM5"), RTTY ("EM01" to "EM05") and
-/// PSK ("EM11" to "EM15"), up to 50 printable characters long.
+// The messages that the transceiver can send by itself: five each for CW ("KM1" to "KM5"), RTTY ("EM01" to "EM05") and
+// PSK ("EM11" to "EM15"), up to 50 printable characters long.
 class TextMemories {
 public:
     static constexpr int perFamily = 5;
     static constexpr std::size_t textLength = 50;
 
-    /// Null for a number outside 1 to 5.
+    // Null for a number outside 1 to 5.
     const std::string* find(TextFamily family, int number) const;
 
-    /// Stores a text; a "}" at its end only marks the end and is not stored. Refused for a number outside 1 to 5 and
-    /// for a text that is too long or not printable.
+    // Stores a text; a "}" at its end only marks the end and is not stored. Refused for a number outside 1 to 5 and
+    // for a text that is too long or not printable.
     bool store(TextFamily family, int number, std::string_view text);
 
 private:

@@ -9,24 +9,24 @@
 
 namespace simulator {
 
-/// The way out at 38400 baud: when each message has gone over the line. Messages never overtake one another. At most
-/// 4,000 wait; what comes while the line is that far behind is lost, as in a transceiver whose buffer is full.
+// The way out at 38400 baud: when each message has gone over the line. Messages never overtake one another. At most
+// 4,000 wait; what comes while the line is that far behind is lost, as in a transceiver whose buffer is full.
 class TransmitLine {
 public:
-    /// Everything at once, without waiting for the line. Late answers stay late.
+    // Everything at once, without waiting for the line. Late answers stay late.
     void setInstant(bool instant) { instant_ = instant; }
-    /// Every message one second after its time.
+    // Every message one second after its time.
     void setLate(bool late) { late_ = late; }
-    /// Every message of two characters or more in two pieces, 5 ms apart, cut at a place that varies.
+    // Every message of two characters or more in two pieces, 5 ms apart, cut at a place that varies.
     void setCut(bool cut) { cut_ = cut; }
 
-    /// Puts a message on the line that is ready to go at `ready`; it has arrived when it is ready and the line has
-    /// carried it, 3840 characters a second, after the ones before it.
+    // Puts a message on the line that is ready to go at `ready`; it has arrived when it is ready and the line has
+    // carried it, 3840 characters a second, after the ones before it.
     void queue(std::string message, Time now, Time ready);
 
     std::optional<Time> nextDue() const;
 
-    /// The next piece that has arrived by `now`, in order, or nothing.
+    // The next piece that has arrived by `now`, in order, or nothing.
     std::optional<std::string> takeDue(Time now);
 
     void clear() { waiting_.clear(); }

@@ -6,7 +6,7 @@
 
 namespace simulator {
 
-/// The commands of frequency, mode, VFO and band.
+// The commands of frequency, mode, VFO and band.
 std::span<const CommandRow> vfoCommands();
 
 }  // namespace simulator

@@ -16,13 +16,15 @@ struct Preferences {
     int vqPortChecked = 0;     // 1 once the settings have been restored
 };
 
+inline constexpr int offTagOffset = 1000;
+
 // One row per switch: where it is shown, kept and stored.
 struct PreferenceSwitch {
     MenuItem Display::*item;
     std::string Preferences::*value;
     std::string_view key;           // in the settings store
     std::string_view defaultValue;  // when nothing is stored
-    int onTag;                      // the item's tag while on; 1000 more while off
+    int onTag;                      // the item's tag while on; offTagOffset more while off
 };
 
 inline constexpr std::array preferenceSwitches{

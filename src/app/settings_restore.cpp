@@ -18,7 +18,7 @@ void SerialPortDemoController::restoreSettings() {
         value = userDefaults.text(row.key).value_or(std::string(row.defaultValue));
         MenuItem& item = display.*row.item;
         item.setChecked(value == "1");
-        item.setTag(value == "1" ? row.onTag : row.onTag + 1000);
+        item.setTag(value == "1" ? row.onTag : row.onTag + offTagOffset);
     }
     preferences.vqPortChecked = 1;
     display.vqMemAButton.setTitle("  M-01");
@@ -30,11 +30,11 @@ void SerialPortDemoController::restoreSettings() {
 void SerialPortDemoController::goMainMenu(MenuItem& sender) {
     for (const PreferenceSwitch& row : preferenceSwitches) {
         const bool wasOn = sender.tag() == row.onTag;
-        if (!wasOn && sender.tag() != row.onTag + 1000) continue;
+        if (!wasOn && sender.tag() != row.onTag + offTagOffset) continue;
         const std::string_view value = wasOn ? "0" : "1";
         preferences.*row.value = value;
         userDefaults.setText(row.key, value);
-        sender.setTag(wasOn ? row.onTag + 1000 : row.onTag);
+        sender.setTag(wasOn ? row.onTag + offTagOffset : row.onTag);
         (display.*row.item).setChecked(!wasOn);
         return;
     }

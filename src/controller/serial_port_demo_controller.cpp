@@ -36,14 +36,15 @@ void SerialPortDemoController::awakeFromNib() {
     if (preferences.vqPortChecked == 1) return;
     fillPortPopUp();
     restoreSettings();
-    if (!link.serialPort) setSerialPort(serialPortManager.suggestedPort());
+    const bool remembered = !userDefaults.text("defaultPort").value_or("").empty();
+    if (!link.serialPort && !remembered) setSerialPort(serialPortManager.suggestedPort());
 }
 
 void SerialPortDemoController::bindControls() {
     for (const FrontPanelKey& row : frontPanelKeys) {
         Button& key = display.key(row.outlet.tag);
         key.action = [this](Button& sender) { go(sender); };
-        // Keys of lists that the window does not show cannot be pressed.
+        // There is nothing yet that the keys of the on-line lists could refresh.
         if (row.panel == KeyPanel::lists) key.setEnabled(false);
     }
     display.sendButton.action = [this](Button& sender) { sendBox(sender); };

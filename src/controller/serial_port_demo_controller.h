@@ -147,13 +147,9 @@ private:
     void showLinkMessage(std::string_view message);
     void deliverNotice(std::string_view title, std::string_view portName, std::string_view what);
     void listPortsInLog(std::string_view what, const SerialPorts& ports);
-    void afterOpening(Scheduler::Duration delay, void (SerialPortDemoController::*step)());
+    void afterOpening(Scheduler::Duration delay, std::function<void()> step);
     void setUpMemorySlots();
     void synchronise();
-    template <int page>
-    void requestSettingsPage() {
-        display.settingsTab.requestView(page);
-    }
 
     struct Side;  // the fields and controls of VFO A or B
     Side side(char vfo);

@@ -1,4 +1,6 @@
 // The keys of the main window. A key is known by its tag; its kind builds a command, and the common tail sends it.
+#include <algorithm>
+
 #include "controller/serial_port_demo_controller.h"
 #include "controls/front_panel_actions.h"
 #include "interpret/menu_groups.h"
@@ -124,7 +126,8 @@ bool SerialPortDemoController::pressStepKey(Button& sender) {
 void SerialPortDemoController::stepFrequency(std::string_view direction, int step) {
     const long long frequency = decimalOrZero(radio.vqAorB == "A" ? radio.vqFreqA : radio.vqFreqB);
     const long long stepped = direction == "up" ? frequency + step : frequency - step;
-    link.cmd = 'F' + radio.vqAorB + zeroPadded(stepped, 9) + ';';
+    // Below nothing there is no frequency that nine digits could say.
+    link.cmd = 'F' + radio.vqAorB + zeroPadded(std::max(stepped, 0LL), 9) + ';';
     sendCommand(link.cmd);
 }
 
@@ -140,8 +143,9 @@ bool SerialPortDemoController::pressPowerOnKey(Button& sender) {
     link.cmd = "PS1;";
     sendCommand(link.cmd);
     sender.setEnabled(false);
-    later(1250ms, [this, &sender] {
+    later(1250ms, [this, &sender, session = link.session] {
         sender.setEnabled(true);
+        if (session != link.session) return;  // another link by now
         link.cmd = "PS1;";
         sendCommand(link.cmd);
         finishGo();
@@ -208,29 +212,18 @@ bool SerialPortDemoController::pressProductPageKey(Button&) {
 }
 
 bool SerialPortDemoController::pressReadMenuKey(Button& sender) {
-    switch (sender.tag()) {
-        case 2010100:
-            sendCommand("AI0;");
-            for (const int number : {101, 102, 103, 104, 105, 106, 107}) sendCommand(subMenuRequest(number));
-            link.cmd = "AI1;";
-            return true;
-        case 2020100:
-            sendCommand(subMenuRequest(201));
-            link.cmd = subMenuRequest(202);
-            sendCommand(link.cmd);
-            return true;
-        case 2030100:
-            for (const int number : {301, 302, 303, 304}) sendCommand(subMenuRequest(number));
-            link.cmd = subMenuRequest(305);
-            return true;
-        case 2040100:
-            for (const int number : {401, 402, 403}) sendCommand(subMenuRequest(number));
-            link.cmd = subMenuRequest(404);
-            sendCommand(link.cmd);
-            return true;
-        default:
-            return false;
+    const auto group = std::ranges::find(menuGroups, sender.tag(), &MenuGroup::keyTag);
+    if (group == menuGroups.end()) return false;
+    sendCommand(group->before);
+    for (int subMenu = group->firstSubMenu; subMenu < group->lastSubMenu; ++subMenu)
+        sendCommand(subMenuRequest(subMenu));
+    link.cmd = subMenuRequest(group->lastSubMenu);
+    if (!group->after.empty()) {
+        sendCommand(link.cmd);
+        link.cmd = group->after;
     }
+    if (group->lastTwice) sendCommand(link.cmd);
+    return true;
 }
 
 }  // namespace corvane

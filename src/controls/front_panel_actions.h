@@ -45,7 +45,6 @@ struct ToggleKey {
     std::string_view offTitle = {};
 };
 
-inline constexpr int onTagOffset = 1000;
 inline constexpr int muteTag = 610;  // switches a picture and a flag besides, and sends the volume as it was
 
 inline constexpr std::array toggleKeys{

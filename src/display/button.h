@@ -8,6 +8,8 @@ namespace corvane {
 
 enum class Image { none, audioOutputMute, audioOutputVolumeHigh };
 
+inline constexpr int onTagOffset = 1000;
+
 class Button : public Control {
 public:
     explicit Button(const Outlet& outlet) : Control(outlet), title_(outlet.title) {}

@@ -23,12 +23,13 @@ struct Display {
     static constexpr int radioPage = 1;
     static constexpr int keyerPage = 2;
     static constexpr int settingsPage = 3;
-    static constexpr int memories = 5;  // of each family of keyer and text memories
+    static constexpr int settingsPages = 4;  // of the settings tab, one a menu group
+    static constexpr int memories = 5;       // of each family of keyer and text memories
 
     Display();
 
     // The key that had this tag at first, e.g. key(20) is m20Button; there must be one.
-    Button& key(int firstTag) { return keys[frontPanelKeyIndex(firstTag)]; }
+    Button& key(int firstTag) { return keys.at(frontPanelKeyIndex(firstTag)); }
 
 private:
     std::deque<Button> keys;  // in the order of frontPanelKeys
@@ -43,6 +44,7 @@ public:
     Button& vqFreqBButton = key(501);
     Button& vqMemAButton = key(502);
     TextField activeVfoField{{"activeVfoField", 0, "", "Active VFO", "The VFO that receives and transmits."}};
+    TextField modeField{{"modeField", 0, "", "Mode", "Operating mode, as the transceiver reports it."}};
     LevelIndicator sMeter{{"sMeter", 0, "S", "S-meter", "Strength of the received signal in S units."}, 10};
     Button licenseClassButton{
         {"licenseClassButton", 0, "", "Operator class", "Operator class allowed on this frequency."}};
@@ -57,7 +59,7 @@ public:
     Button openCloseButton{
         {"openCloseButton", 0, "Connect", "Connect or disconnect", "Open the chosen port, or close it.", "Ctrl+O"}};
     Button readMemoriesButton{{"readMemoriesButton", 0, "Read memories", "Read the memory channels",
-                               "Read the 99 memory channels from the transceiver."}};
+                               "Ask the transceiver for its memory channels. This version does not show them yet."}};
     TextField sendTextField{{"sendTextField", 0, "Command", "Command to send",
                              "CAT commands, for example FA; or MD02;FA014250000; \u2014 Return sends them.", "Ctrl+R"}};
     Button sendButton{{"sendButton", 0, "Send", "Send the command", "Send the typed commands to the transceiver."}};
@@ -92,7 +94,7 @@ public:
     PopUpButton ATTPopUpButton{{"ATTPopUpButton", 0, "ATT", "Attenuator", "Attenuator before the receiver."}};
     PopUpButton ampPopUpButton{{"ampPopUpButton", 0, "IPO / AMP", "Pre-amplifier", "Pre-amplifier; IPO is none."}};
     PopUpButton RFILPopUpButton{
-        {"RFILPopUpButton", 0, "Roofing", "Roofing filter", "Roofing filter. The transceiver does not report it."}};
+        {"RFILPopUpButton", 0, "Roofing", "Roofing filter", "Roofing filter before the receiver."}};
     PopUpButton DNRPopupButton{
         {"DNRPopupButton", 0, "DNR", "Noise reduction level", "Digital noise reduction, OFF or level 1 to 15."}};
     PopUpButton NBPopupButton{
@@ -128,8 +130,8 @@ public:
     std::deque<Button> pskMemoryButtons;   // pskMemory1Button to pskMemory5Button
 
     // --- menu bar
-    MenuItem menuItemPreferencesVoice{
-        {"menuItemPreferencesVoice", 900, "Voice guide", "Voice guide", "Speak bands, modes and stations."}};
+    MenuItem menuItemPreferencesVoice{{"menuItemPreferencesVoice", 900, "Voice guide", "Voice guide",
+                                       "Speak bands, frequencies and power as they are chosen."}};
     MenuItem menuItemPreferencesSounds{
         {"menuItemPreferencesSounds", 901, "Sounds", "Sounds", "Play Corvane's own sounds."}};
     MenuItem menuItemPreferencesIPO{{"menuItemPreferencesIPO", 902, "Memory IPO", "Memory IPO",

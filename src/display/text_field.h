@@ -12,6 +12,9 @@ public:
     const std::string& stringValue() const { return text_; }
     void setStringValue(std::string_view text) { assign(text_, text); }
 
+    Color textColor() const { return textColor_; }  // none is the ordinary colour
+    void setTextColor(Color color) { assign(textColor_, color); }
+
     // What the Return key does. A field without an action only shows its text.
     std::function<void(TextField&)> action;
     void performReturn() {
@@ -20,6 +23,7 @@ public:
 
 private:
     std::string text_;
+    Color textColor_ = Color::none;
 };
 
 }  // namespace corvane

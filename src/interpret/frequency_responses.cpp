@@ -35,7 +35,7 @@ void SerialPortDemoController::readFrequency(std::string_view response, char vfo
     const Side reported = side(vfo);
     reported.frequency = without(response, reported.commandName);
     const std::string_view digits = reported.frequency;
-    if (digits.size() != 9) return;
+    if (digits.size() != 9 || !isAscii(digits)) return;
     highlightBand(decimalOrZero(digits));
 
     const std::string_view kilohertz = digits.substr(3, 3);
@@ -56,7 +56,7 @@ void SerialPortDemoController::readFrequency(std::string_view response, char vfo
 }
 
 void SerialPortDemoController::readMemoryChannel(std::string_view response) {
-    if (response.size() < 5) return;
+    if (response.size() < 5 || !isAscii(lastOf(response, 3))) return;
     radio.vqMemCh = radio.vqMemChA = radio.vqMemChB = lastOf(response, 3);
     if (radio.vqAorB != "A") return;
     display.vqMemAButton.setTitle("  M-" + radio.vqMemCh.substr(1) + ' ' + radio.vqMemATag);
@@ -69,7 +69,7 @@ void SerialPortDemoController::readOppositeInformation(std::string_view response
 
 void SerialPortDemoController::readSideInformation(std::string_view response, char vfo) {
     const std::string_view channel = positions(response, 3, 3);
-    if (channel.size() != 3) return;
+    if (channel.size() != 3 || !isAscii(channel)) return;
     const Side reported = side(vfo);
     Button& memory = display.vqMemAButton;
     if (channel == "000") {
@@ -98,6 +98,7 @@ void SerialPortDemoController::readSideInformation(std::string_view response, ch
 void SerialPortDemoController::readMode(std::string_view response) {
     const char code = response.back();
     if (const auto name = modeName(code)) radio.vqMode = *name;
+    display.modeField.setStringValue(radio.vqMode);
     display.modesPopUpButton.selectItem(modePopUpIndex(code));
     const ModeGroup* group = modeGroup(code);
     display.sendBox.setTitle(group ? group->boxTitle : noModeGroupBoxTitle);
@@ -141,7 +142,7 @@ void SerialPortDemoController::disableTextMemoryControls() {
     display.sendTextMemoryButton.setEnabled(false);
     display.sendTextMemoryButton.setBezelColor(Color::darkGray);
     display.clearTextMemoryButton.setEnabled(false);
-    display.sendBox.setTitleColor(Color::darkGray);
+    display.sendBox.setTitleColor(Color::gray);
 }
 
 }  // namespace corvane

@@ -180,7 +180,7 @@ void SerialPortDemoController::readSwitch(std::string_view response) {
     const bool on = response.ends_with('1');
     for (const Switch& row : switches) {
         if (!response.starts_with(row.name)) continue;
-        row.button.setTag(row.button.outlet().tag + (on ? 1000 : 0));
+        row.button.setTag(row.button.outlet().tag + (on ? onTagOffset : 0));
         row.button.setBezelColor(on ? Color::blue : Color::none);
     }
 }

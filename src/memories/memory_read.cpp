@@ -1,4 +1,4 @@
-// Reading the memory channels: each reply asks for the next channel.
+// Reading the memory channels begins with a request for the first one.
 #include "controller/serial_port_demo_controller.h"
 
 namespace corvane {

@@ -7,7 +7,7 @@
 namespace corvane {
 
 struct UserNotification {
-    std::string title;            // e.g. "Serial Port Connected"
+    std::string title;            // e.g. "Serial Port Connected"; shown in the user's language where it is translated
     std::string informativeText;  // one or two sentences
     bool hasSound = false;
 

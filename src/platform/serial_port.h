@@ -52,8 +52,7 @@ public:
 
     virtual const std::string& name() const = 0;         // as listed, e.g. "ttyUSB0"; unique in the list
     virtual const std::string& description() const = 0;  // as listed and as remembered; the same text as the name
-    virtual const std::string& details()
-        const = 0;  // what hangs on it, for the eye: "USB serial adapter, /dev/ttyUSB0"
+    virtual const std::string& details() const = 0;      // for the eye: "USB serial adapter, /dev/ttyUSB0"
 
     virtual int baudRate() const = 0;  // bits a second
     virtual void setBaudRate(int baudRate) = 0;

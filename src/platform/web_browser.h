@@ -8,8 +8,8 @@ namespace corvane {
 class WebBrowser {
 public:
     virtual ~WebBrowser() = default;
-    virtual void open(
-        std::string_view url) = 0;  // e.g. "https://example.org/corvane/"; without a browser nothing happens
+    // Opens e.g. "https://example.org/corvane/"; without a browser nothing happens.
+    virtual void open(std::string_view url) = 0;
 };
 
 }  // namespace corvane

@@ -1,4 +1,4 @@
-// What the window says of the link: its state, and what to do when a port fails.
+// What the window says when a port fails, and what to do about it.
 #pragma once
 
 #include <string>
@@ -7,8 +7,8 @@
 
 namespace corvane {
 
-// A sentence on what went wrong and one on what to do, e.g. "You may not open /dev/ttyUSB0. Run "sudo usermod -aG
-// dialout $USER", log out and in again, then press Connect."
+// A sentence on what went wrong and one on what to do, e.g. "/dev/ttyUSB0 is in use by another program. Close that
+// program, then press Connect."
 std::string linkMessage(const std::string& portName, const SerialPortError& error);
 
 // What to do after the device of an open port has gone.

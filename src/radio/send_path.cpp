@@ -10,7 +10,8 @@ void SerialPortDemoController::sendCommand(std::string_view commands) {
     // A callback of the port may replace it.
     const std::shared_ptr<ORSSerialPort> port = link.serialPort;
     if (!port) return;
-    forEachCommand(commands, [&port](std::string_view command) {
+    const std::string text(commands);  // often the action's buffer, which a callback may fill anew
+    forEachCommand(text, [&port](std::string_view command) {
         if (isUtf8(command)) port->sendData(command);
     });
 }

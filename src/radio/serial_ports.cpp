@@ -25,7 +25,7 @@ void SerialPortDemoController::setSerialPort(std::shared_ptr<ORSSerialPort> port
 void SerialPortDemoController::choosePort(PopUpButton& sender) {
     const SerialPorts& ports = serialPortManager.availablePorts();
     const auto index = static_cast<std::size_t>(sender.indexOfSelectedItem());
-    if (index >= ports.size()) return;
+    if (index >= ports.size() || ports[index] == link.serialPort) return;
     showLinkMessage({});
     setSerialPort(ports[index]);
 }
@@ -150,6 +150,7 @@ void SerialPortDemoController::fillPortPopUp() {
 
 void SerialPortDemoController::showLinkStatus() {
     const bool open = link.serialPort && link.serialPort->isOpen();
+    display.linkStatusField.setTextColor(open ? Color::green : Color::none);
     if (!open)
         display.linkStatusField.setStringValue("Not connected");
     else

@@ -37,6 +37,13 @@ constexpr std::string_view positions(std::string_view text, std::size_t first, s
     return first > text.size() ? std::string_view{} : text.substr(first - 1, count);
 }
 
+// Whether every byte is ASCII: what noise makes of a field may be well-formed UTF-8, and must not be cut in the middle.
+constexpr bool isAscii(std::string_view text) {
+    for (const char c : text)
+        if (static_cast<unsigned char>(c) >= 0x80) return false;
+    return true;
+}
+
 // The text without white space at both ends.
 constexpr std::string_view trimmed(std::string_view text) {
     constexpr std::string_view whiteSpace = " \t\r\n\v\f";

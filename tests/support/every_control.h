@@ -12,7 +12,7 @@ void forEachControl(Display& display, Each each) {
         for (Button& memory : *memories) each(memory);
     // clang-format off
     Control* const controls[] = {
-        &display.mainTab, &display.settingsTab, &display.activeVfoField, &display.sMeter, &display.licenseClassButton,
+        &display.mainTab, &display.settingsTab, &display.activeVfoField, &display.modeField, &display.sMeter, &display.licenseClassButton,
         &display.linkStatusField, &display.linkMessageField, &display.PortPopUpButton, &display.BaudPopUpButton,
         &display.portDetailsField, &display.openCloseButton, &display.readMemoriesButton, &display.sendTextField,
         &display.sendButton, &display.freqTextField, &display.modesPopUpButton, &display.memPopUpButton,

@@ -1,5 +1,6 @@
 #include "qt/platform/desktop_notification_center.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -25,7 +26,7 @@ QDBusMessage notify(const UserNotification& notification) {
     if (!notification.hasSound) hints.insert(QStringLiteral("suppress-sound"), true);
     QDBusMessage message = call("Notify");
     message << QStringLiteral("Corvane") << uint{0} << QStringLiteral("corvane")
-            << QString::fromStdString(notification.title)
+            << QCoreApplication::translate("Notifications", notification.title.c_str())
             << QString::fromStdString(notification.informativeText).toHtmlEscaped()  // the body is markup
             << QStringList() << hints << serviceDecides;
     return message;

@@ -18,8 +18,6 @@ public:
     QtSerialPort(std::string name, std::string details, std::string location);
     ~QtSerialPort() override;
 
-    const std::string& location() const { return location_; }
-
     bool isOpen() const override { return open_; }
     void open() override;
     void close() override;

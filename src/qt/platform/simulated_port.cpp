@@ -1,6 +1,7 @@
 #include "qt/platform/simulated_port.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "simulator/simulated_transceiver.h"
 
@@ -21,6 +22,7 @@ SimulatedPort::SimulatedPort() : ListedPort("Simulated transceiver", "Built into
     QObject::connect(&next_, &QTimer::timeout, &next_, [this] {
         const KeepAlive alive(*this);
         transceiver_->advanceTo(now());
+        deliver();
         arm();
     });
 }
@@ -74,11 +76,18 @@ void SimulatedPort::makeTransceiver() {
     if (transceiver_) return;
     transceiver_ = std::make_unique<simulator::SimulatedTransceiver>();
     transceiver_->transmit = [this](std::string_view bytes) {
-        if (open_) receive(bytes);
+        if (open_) arrived_ += bytes;
     };
 }
 
+// Never from inside a write: an answer must not come in between two commands of one action.
+void SimulatedPort::deliver() {
+    const std::string bytes = std::exchange(arrived_, {});
+    if (!bytes.empty()) receive(bytes);
+}
+
 void SimulatedPort::arm() {
+    if (!arrived_.empty()) return next_.start(0);
     const auto next = transceiver_->nextEvent();
     if (!next) return next_.stop();
     const auto wait = std::chrono::ceil<milliseconds>(*next - now());
@@ -87,6 +96,7 @@ void SimulatedPort::arm() {
 
 void SimulatedPort::shut() {
     open_ = false;
+    arrived_.clear();
     forgetTail();
 }
 

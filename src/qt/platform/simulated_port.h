@@ -34,6 +34,7 @@ public:
 private:
     std::chrono::microseconds now() const;
     void makeTransceiver();
+    void deliver();
     void arm();
     void shut();
 
@@ -42,6 +43,7 @@ private:
     QTimer opening_;
     QTimer next_;
     bool open_ = false;
+    std::string arrived_;  // what the transceiver has said and the program not yet heard
 };
 
 }  // namespace corvane

@@ -2,6 +2,8 @@
 
 #include <libspeechd.h>
 
+#include <QLocale>
+
 #include <cstdlib>
 #include <optional>
 #include <string>
@@ -26,7 +28,7 @@ SPDConnection* openConnection() {
 // The connection to the service. Used by one thread at a time.
 class SpeechDispatcher::Line {
 public:
-    explicit Line(std::chrono::milliseconds retry) : retry_(retry) {}
+    Line(std::chrono::milliseconds retry, std::string language) : retry_(retry), language_(std::move(language)) {}
 
     void say(const std::string& text, const std::string& voice) {
         // A service that was restarted answers a second time.
@@ -52,6 +54,8 @@ private:
         }
         lastFailure_.reset();
         voice_ = voice;
+        // The service's own default is not the user's: it speaks the language that it is told.
+        spd_set_language(connection_.get(), language_.c_str());
         if (!voice_.empty()) spd_set_synthesis_voice(connection_.get(), voice_.c_str());
         return true;
     }
@@ -64,13 +68,15 @@ private:
     }
 
     std::chrono::milliseconds retry_;
+    std::string language_;
     std::unique_ptr<SPDConnection, CloseConnection> connection_;
     std::string voice_;
     std::optional<Clock::time_point> lastFailure_;
 };
 
 SpeechDispatcher::SpeechDispatcher(std::chrono::milliseconds retry)
-    : line_(std::make_shared<Line>(retry)), worker_(queueLength, farewell) {}
+    : line_(std::make_shared<Line>(retry, QLocale::system().name().section('_', 0, 0).toStdString())),
+      worker_(queueLength, farewell) {}
 
 SpeechDispatcher::~SpeechDispatcher() = default;
 

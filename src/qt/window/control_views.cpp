@@ -16,11 +16,11 @@ PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent) : 
     setProperty("shown", !model.action);
     setFocusPolicy(model.action ? Qt::StrongFocus : Qt::TabFocus);
     connect(this, &QComboBox::activated, this, [this](int index) { model_.choose(index); });
-    model.addView(queue, [this] { show_(); });
-    show_();
+    model.addView(queue, [this] { showModel(); });
+    showModel();
 }
 
-void PopUpView::show_() {
+void PopUpView::showModel() {
     if (shownEntries_ != model_.entriesVersion()) {
         shownEntries_ = model_.entriesVersion();
         clear();

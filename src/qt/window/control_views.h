@@ -26,7 +26,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void show_();
+    void showModel();
 
     PopUpButton& model_;
     int shownEntries_ = -1;

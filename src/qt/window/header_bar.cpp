@@ -1,5 +1,6 @@
 #include "qt/window/header_bar.h"
 
+#include <QAccessible>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -15,52 +16,53 @@ namespace corvane {
 
 namespace {
 
-// The link in words, behind a lamp in the colour of the connection.
+// The link in words, behind a lamp: filled while connected, a ring while not.
 class LinkLabel : public QLabel {
 public:
-    LinkLabel(Display& display, ChangeQueue& queue) : button_(display.openCloseButton) {
-        describe(*this, display.linkStatusField);
-        setContentsMargins(5 * gridStep, 0, 0, 0);
-        setMinimumWidth(60 * gridStep);
+    LinkLabel(TextField& link, ChangeQueue& queue) : link_(link) {
+        describe(*this, link);
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        const auto show = [this, &field = display.linkStatusField] {
-            setText(QString::fromStdString(field.stringValue()));
-            setAccessibleName(spokenWithValue(field, field.stringValue()));
-            connected_ = field.stringValue() != "Not connected";
-            update();
-        };
-        display.linkStatusField.addView(queue, show);
-        show();
+        link.addView(queue, [this] { showModel(); });
+        showModel();
     }
 
 protected:
-    void paintEvent(QPaintEvent* event) override {
-        QLabel::paintEvent(event);
+    void paintEvent(QPaintEvent*) override {
         const Theme& theme = Theme::current();
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(connected_ ? theme.green : theme.quietText);
-        painter.drawEllipse(QPointF(8, height() / 2.0), 5, 5);
+        const QColor lamp = theme.of(link_.textColor(), theme.quietText);
+        painter.setPen(QPen(lamp, 2));
+        painter.setBrush(link_.textColor() == Color::none ? Qt::NoBrush : QBrush(lamp));
+        painter.drawEllipse(QPointF(8, height() / 2.0), 4, 4);
+        const QRect words = rect().adjusted(5 * gridStep, 0, 0, 0);
+        painter.setPen(theme.text);
+        painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter,
+                         fontMetrics().elidedText(text(), Qt::ElideMiddle, words.width()));
     }
 
 private:
-    Button& button_;
-    bool connected_ = false;
+    void showModel() {
+        setText(QString::fromStdString(link_.stringValue()));
+        setToolTip(text());
+        setAccessibleName(spokenWithValue(link_, link_.stringValue()));
+        update();
+    }
+
+    TextField& link_;
 };
 
 // The mode's name in the size of a value.
-QLabel* modeLabel(PopUpButton& modes, ChangeQueue& queue) {
+QLabel* modeLabel(TextField& mode, ChangeQueue& queue) {
     auto* label = new QLabel;
-    label->setObjectName("modeLabel");
+    describe(*label, mode);
     label->setFont(typeface(TypeSize::value, QFont::DemiBold));
-    label->setToolTip(toQString(modes.outlet().help));
-    const auto show = [label, &modes] {
-        const std::string_view mode = modes.titleOfSelectedItem();
-        label->setText(mode.empty() ? QStringLiteral("\u2013") : toQString(mode));
-        label->setAccessibleName(spokenWithValue(modes, mode));
+    const auto show = [label, &mode] {
+        const std::string& name = mode.stringValue();
+        label->setText(name.empty() ? QStringLiteral("\u2013") : QString::fromStdString(name));
+        label->setAccessibleName(spokenWithValue(mode, name));
     };
-    modes.addView(queue, show);
+    mode.addView(queue, show);
     show();
     return label;
 }
@@ -86,10 +88,10 @@ QWidget* HeaderBar::makeStatusBlock(Display& display, ChangeQueue& queue) {
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(2 * gridStep);
     grid->addWidget(new SMeterView(display.sMeter, queue), 0, 0, 1, 3);
-    grid->addWidget(modeLabel(display.modesPopUpButton, queue), 1, 0);
+    grid->addWidget(modeLabel(display.modeField, queue), 1, 0);
     grid->addWidget(new KeyButton(display.licenseClassButton, queue), 1, 1);
     grid->addWidget(new KeyButton(display.vqMemAButton, queue), 1, 2);
-    grid->addWidget(new LinkLabel(display, queue), 2, 0, 1, 3);
+    grid->addWidget(new LinkLabel(display.linkStatusField, queue), 2, 0, 1, 3);
     grid->setColumnMinimumWidth(0, 26 * gridStep);
     // "Technician CW" and a channel with a tag of twelve characters fit.
     grid->setColumnStretch(1, 3);
@@ -100,9 +102,12 @@ QWidget* HeaderBar::makeStatusBlock(Display& display, ChangeQueue& queue) {
 // Stands in the window only while there is something to say.
 QWidget* HeaderBar::makeMessage(Display& display, ChangeQueue& queue) {
     auto* message = new TextLabel(display.linkMessageField, queue);
+    message->setFocusPolicy(Qt::StrongFocus);  // what it says to type can be copied
     message->setContentsMargins(3 * gridStep, 2 * gridStep, 3 * gridStep, 2 * gridStep);
     const auto show = [message, &field = display.linkMessageField] {
         message->setVisible(!field.stringValue().empty());
+        QAccessibleEvent alert(message, QAccessible::Alert);
+        if (!field.stringValue().empty()) QAccessible::updateAccessibility(&alert);
     };
     display.linkMessageField.addView(queue, show);
     show();

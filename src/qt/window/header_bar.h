@@ -5,8 +5,6 @@
 
 #include "display/display.h"
 
-class QLabel;
-
 namespace corvane {
 
 class HeaderBar : public QWidget {

@@ -1,8 +1,10 @@
 #include "qt/window/key_button.h"
 
 #include <QPainter>
-#include <QPainterPath>
+#include <algorithm>
 
+#include "controls/front_panel_actions.h"
+#include "display/front_panel_keys.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
 
@@ -30,6 +32,15 @@ void paintLoudspeaker(QPainter& painter, const QRectF& square, bool mute, const 
     painter.restore();
 }
 
+// Whether the key has a state that its colour tells: to a screen reader such a key is pressed or not.
+bool lights(const Button& model) {
+    const int tag = model.outlet().tag;
+    const std::size_t index = frontPanelKeyIndex(tag);
+    if (index >= frontPanelKeys.size()) return false;
+    const KeyPanel panel = frontPanelKeys[index].panel;
+    return panel == KeyPanel::bands || panel == KeyPanel::modes || tag == muteTag || toggleKey(tag) != nullptr;
+}
+
 }  // namespace
 
 KeyButton::KeyButton(Button& model, ChangeQueue& queue, QWidget* parent)
@@ -41,7 +52,7 @@ KeyButton::KeyButton(Button& model, ChangeQueue& queue, const QFont& font, QWidg
     setFont(font);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(model.action ? Qt::StrongFocus : Qt::TabFocus);
-    setCheckable(true);
+    setCheckable(lights(model));
     connect(this, &QPushButton::clicked, this, [this] { model_.performClick(); });
     // A screen reader toggles a checkable button; that is a press.
     connect(this, &QPushButton::toggled, this, [this](bool on) {
@@ -51,13 +62,13 @@ KeyButton::KeyButton(Button& model, ChangeQueue& queue, const QFont& font, QWidg
         showing_ = false;
         model_.performClick();
     });
-    model.addView(queue, [this] { show_(); });
-    show_();
+    model.addView(queue, [this] { showModel(); });
+    showModel();
 }
 
-void KeyButton::show_() {
+void KeyButton::showModel() {
     showing_ = true;
-    setChecked(model_.bezelColor() != Color::none);
+    if (isCheckable()) setChecked(model_.bezelColor() != Color::none);
     showing_ = false;
     if (isEnabled() != model_.enabled()) setEnabled(model_.enabled());
     if (shown_ != model_.visible()) {
@@ -66,6 +77,8 @@ void KeyButton::show_() {
     }
     const QString title = QString::fromStdString(model_.title());
     if (text() != title) setText(title);
+    // A title from the transceiver may be longer than its key.
+    if (model_.outlet().title.empty() && !title.isEmpty()) setToolTip(title.trimmed() + "\n" + toolTipOf(model_));
     const QString name = spokenName();
     if (accessibleName() != name) setAccessibleName(name);
     update();
@@ -80,7 +93,11 @@ QSize KeyButton::sizeHint() const {
     return {metrics.horizontalAdvance(text()) + 5 * gridStep, metrics.height() + 4 * gridStep};
 }
 
-QSize KeyButton::minimumSizeHint() const { return {7 * gridStep, sizeHint().height()}; }
+// What always stands on a key is never cut.
+QSize KeyButton::minimumSizeHint() const {
+    const int wanted = QFontMetrics(font()).horizontalAdvance(toQString(model_.outlet().title)) + 2 * gridStep;
+    return {std::max(wanted, 7 * gridStep), sizeHint().height()};
+}
 
 void KeyButton::paintEvent(QPaintEvent*) {
     const Theme& theme = Theme::current();
@@ -90,7 +107,7 @@ void KeyButton::paintEvent(QPaintEvent*) {
     QColor fill = theme.of(model_.bezelColor(), underMouse() && model_.action ? theme.keyHover : theme.key);
     if (!model_.action && !lit) fill = theme.panel;
     if (isDown()) fill = fill.darker(120);
-    if (!isEnabled() && !lit) fill = theme.panel;
+    if (!isEnabled()) fill = theme.panel;
     paintCap(painter, fill);
     QColor ink = lit ? readableOn(fill) : theme.text;
     if (!isEnabled()) ink = palette().color(QPalette::Disabled, QPalette::ButtonText);

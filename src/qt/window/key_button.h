@@ -32,7 +32,7 @@ protected:
     virtual QString spokenName() const;
 
 private:
-    void show_();
+    void showModel();
     void paintCap(QPainter& painter, const QColor& fill);
 
     Button& model_;

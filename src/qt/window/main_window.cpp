@@ -73,14 +73,15 @@ void MainWindow::makePages() {
 void MainWindow::makeMenus() {
     Display& display = controller_.display;
     auto* program = menuBar()->addMenu("&Corvane");
-    program->addAction("&Connect or disconnect", this, [&display] { display.openCloseButton.performClick(); });
+    program->addAction("&Connect or disconnect\t" + toQString(display.openCloseButton.outlet().shortcut), this,
+                       [&display] { display.openCloseButton.performClick(); });
     program->addSeparator();
     program->addAction("&Quit", QKeySequence("Ctrl+Q"), this, &QWidget::close);
 
     auto* preferences = menuBar()->addMenu("&Preferences");
+    preferences->setToolTipsVisible(true);
     addPreference(*preferences, display.menuItemPreferencesVoice);
     addPreference(*preferences, display.menuItemPreferencesSounds);
-    addPreference(*preferences, display.menuItemPreferencesIPO);
     preferences->addSeparator();
     auto* themes = new QActionGroup(this);
     for (const char* name : {"dark", "light"}) {

@@ -66,9 +66,9 @@ Panel* receiverPanel(Display& display, ChangeQueue& queue) {
 
 Panel* transmitterPanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel("Transmitter and knobs");
-    panel->content().addLayout(popUpGrid({&display.powerPopUpButton, &display.smeterPopUpButton, &display.MPVDButton,
-                                          &display.FuncKnobButton, &display.APOPopUpButton},
-                                         queue, 1));
+    panel->content().addLayout(
+        popUpGrid({&display.powerPopUpButton, &display.smeterPopUpButton, &display.MPVDButton, &display.FuncKnobButton},
+                  queue, 1));
     panel->content().addStretch();
     return panel;
 }

@@ -13,7 +13,7 @@ namespace corvane {
 
 namespace {
 
-QLabel* plainText(const QString& text) {
+QLabel* richText(const QString& text) {
     auto* label = new QLabel(text);
     label->setWordWrap(true);
     label->setTextFormat(Qt::RichText);
@@ -42,7 +42,7 @@ Panel* linkPanel(Display& display, ChangeQueue& queue) {
 
 Panel* firstStepsPanel() {
     auto* panel = new Panel("First steps");
-    panel->content().addWidget(plainText(
+    panel->content().addWidget(richText(
         "<p>1. Connect the transceiver with a USB cable and switch it on.</p>"
         "<p>2. Choose its port and press <b>Connect</b>. Of the two ports that the transceiver shows, it is usually "
         "the first."
@@ -67,8 +67,8 @@ Panel* commandPanel(Display& display, ChangeQueue& queue) {
     row->addWidget(send);
     panel->content().addLayout(row);
     panel->content().addWidget(
-        plainText("Any CAT command, with or without its last semicolon; several one after the other."
-                  " What the transceiver answers shows where it belongs."));
+        richText("Any CAT command, with or without its last semicolon; several one after the other."
+                 " What the transceiver answers shows where it belongs."));
     return panel;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <array>
+#include <cmath>
 
 namespace corvane {
 
@@ -12,17 +13,18 @@ const Theme darkTheme{
     .panel = QColor(0x1a, 0x1f, 0x25),
     .key = QColor(0x27, 0x2e, 0x36),
     .keyHover = QColor(0x31, 0x3a, 0x44),
-    .line = QColor(0x39, 0x43, 0x4e),
+    .line = QColor(0x46, 0x52, 0x5f),
     .text = QColor(0xe9, 0xed, 0xf1),
     .quietText = QColor(0x9d, 0xaa, 0xb7),
     .accent = QColor(0xf5, 0xb9, 0x4f),
     .warning = QColor(0x5c, 0x2a, 0x22),
-    .blue = QColor(0x2f, 0x7d, 0xd1),
-    .green = QColor(0x2e, 0x9e, 0x5b),
-    .red = QColor(0xd1, 0x45, 0x3b),
-    .purple = QColor(0x93, 0x5c, 0xc9),
-    .pink = QColor(0xd1, 0x5c, 0x8e),
-    .brown = QColor(0x9b, 0x75, 0x4f),
+    .blue = QColor(0x2a, 0x72, 0xc4),
+    .green = QColor(0x22, 0x80, 0x48),
+    .red = QColor(0xc9, 0x3d, 0x33),
+    .purple = QColor(0x8d, 0x56, 0xc4),
+    .pink = QColor(0xc0, 0x43, 0x7a),
+    .brown = QColor(0x8a, 0x64, 0x3e),
+    .gray = QColor(0x7c, 0x86, 0x91),
     .darkGray = QColor(0x45, 0x4d, 0x56),
 };
 
@@ -31,10 +33,10 @@ const Theme lightTheme{
     .panel = QColor(0xf9, 0xf8, 0xf5),
     .key = QColor(0xff, 0xff, 0xff),
     .keyHover = QColor(0xf1, 0xee, 0xe6),
-    .line = QColor(0xc9, 0xc4, 0xb8),
+    .line = QColor(0xb4, 0xae, 0xa0),
     .text = QColor(0x1d, 0x21, 0x26),
     .quietText = QColor(0x5a, 0x61, 0x69),
-    .accent = QColor(0xa8, 0x5d, 0x00),
+    .accent = QColor(0x95, 0x52, 0x00),
     .warning = QColor(0xf6, 0xd9, 0xd2),
     .blue = QColor(0x1f, 0x6f, 0xc4),
     .green = QColor(0x1f, 0x85, 0x49),
@@ -42,6 +44,7 @@ const Theme lightTheme{
     .purple = QColor(0x80, 0x49, 0xb6),
     .pink = QColor(0xb9, 0x3d, 0x73),
     .brown = QColor(0x86, 0x60, 0x3a),
+    .gray = QColor(0x9d, 0xa1, 0xa6),
     .darkGray = QColor(0x8a, 0x8f, 0x95),
 };
 
@@ -70,6 +73,8 @@ QColor Theme::of(Color color, const QColor& none) const {
             return pink;
         case Color::brown:
             return brown;
+        case Color::gray:
+            return gray;
         case Color::darkGray:
             return darkGray;
     }
@@ -115,7 +120,7 @@ QString Theme::styleSheet() const {
                " border-bottom: 3px solid transparent; }"
                "QTabBar::tab:hover { color: %3; }"
                "QTabBar::tab:selected { color: %3; border-bottom-color: %4; }"
-               "QTabBar::tab:focus { color: %4; }"
+               "QTabBar::tab:focus { color: %3; background: %5; }"
                "QComboBox, QLineEdit { background: %5; color: %3; border: 1px solid %1; border-radius: 5px;"
                " padding: 3px 8px; min-height: 22px; }"
                "QComboBox:focus, QLineEdit:focus, QPlainTextEdit:focus { border: 1px solid %4; }"
@@ -126,9 +131,9 @@ QString Theme::styleSheet() const {
                " border: 1px solid %1; }"
                "QPlainTextEdit { background: %5; color: %3; border: 1px solid %1; border-radius: 5px; padding: 4px; }"
                "QMenuBar { background: %7; } QMenuBar::item { padding: 5px 10px; background: transparent; }"
-               "QMenuBar::item:selected { background: %5; border-radius: 4px; }"
+               "QMenuBar::item:selected { background: %4; color: %9; border-radius: 4px; }"
                "QMenu { background: %6; border: 1px solid %1; padding: 4px; }"
-               "QMenu::item { padding: 5px 26px 5px 22px; } QMenu::item:selected { background: %5; }"
+               "QMenu::item { padding: 5px 26px 5px 22px; } QMenu::item:selected { background: %4; color: %9; }"
                "QToolTip { background: %6; color: %3; border: 1px solid %1; padding: 4px; }"
                "QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }"
                "QScrollBar:horizontal { background: transparent; height: 10px; margin: 0; }"
@@ -139,18 +144,31 @@ QString Theme::styleSheet() const {
                "#linkMessageField { background: %8; }"
                "QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: 0; }")
         .arg(line.name(), quietText.name(), text.name(), accent.name(), key.name(), panel.name(), window.name(),
-             warning.name());
+             warning.name(), readableOn(accent).name());
 }
 
 QColor readableOn(const QColor& background) {
-    const double brightness = 0.299 * background.redF() + 0.587 * background.greenF() + 0.114 * background.blueF();
-    return brightness > 0.6 ? QColor(0x16, 0x19, 0x1d) : QColor(Qt::white);
+    // The relative luminance of the sRGB colour space; contrast is the ratio of two of them, each plus 0.05.
+    const auto linear = [](double share) {
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    const auto luminance = [&linear](const QColor& color) {
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+    };
+    const QColor dark(0x10, 0x13, 0x16);
+    const double withWhite = 1.05 / (luminance(background) + 0.05);
+    const double withDark = (luminance(background) + 0.05) / (luminance(dark) + 0.05);
+    return withWhite >= withDark ? QColor(Qt::white) : dark;
 }
 
 QFont typeface(TypeSize size, QFont::Weight weight) {
     constexpr std::array steps{0.88, 1.0, 1.05, 1.35, 3.7};
     QFont font = QApplication::font();
-    font.setPointSizeF(font.pointSizeF() * steps[static_cast<std::size_t>(size)]);
+    const double step = steps[static_cast<std::size_t>(size)];
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * step);
+    else
+        font.setPixelSize(static_cast<int>(font.pixelSize() * step));
     font.setWeight(weight);
     return font;
 }

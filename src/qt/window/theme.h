@@ -23,7 +23,7 @@ struct Theme {
     QColor accent;     // the one accent: focus, the active digits, the meter
     QColor warning;    // behind a message that something went wrong
     // What the named colours of the controls are here; white or black text is readable on each.
-    QColor blue, green, red, purple, pink, brown, darkGray;
+    QColor blue, green, red, purple, pink, brown, gray, darkGray;
 
     // The colour of a control, or `none` for a control without one.
     QColor of(Color color, const QColor& none) const;
@@ -44,7 +44,7 @@ QColor readableOn(const QColor& background);
 enum class TypeSize { small, body, key, value, digits };
 QFont typeface(TypeSize size, QFont::Weight weight = QFont::Normal);
 
-// The grid: every distance is a multiple of this many device-independent pixels.
+// The grid: distances between controls are multiples of this many device-independent pixels.
 inline constexpr int gridStep = 4;
 
 }  // namespace corvane

@@ -10,7 +10,8 @@ namespace corvane {
 
 namespace {
 
-constexpr int labelHeight = 5 * gridStep;
+// The line above the digits.
+int labelHeight() { return QFontMetrics(typeface(TypeSize::small)).height() + gridStep + 2; }
 const QString emptyDisplay = QStringLiteral("--.---.---");
 
 }  // namespace
@@ -32,7 +33,7 @@ QString VfoButton::spokenName() const {
 
 QSize VfoButton::sizeHint() const {
     const QFontMetrics metrics(font());
-    return {metrics.horizontalAdvance(QStringLiteral("50.000.000")) + 8 * gridStep, metrics.height() + labelHeight};
+    return {metrics.horizontalAdvance(QStringLiteral("50.000.000")) + 8 * gridStep, metrics.height() + labelHeight()};
 }
 
 void VfoButton::paintEvent(QPaintEvent*) {
@@ -51,13 +52,13 @@ void VfoButton::paintEvent(QPaintEvent*) {
 
     painter.setPen(active() ? theme.text : theme.quietText);
     painter.setFont(typeface(TypeSize::small, QFont::DemiBold));
-    painter.drawText(QRect(20, 6, width() - 32, labelHeight), Qt::AlignLeft | Qt::AlignVCenter, labelOf(model()));
+    painter.drawText(QRect(20, 6, width() - 32, labelHeight()), Qt::AlignLeft | Qt::AlignVCenter, labelOf(model()));
     painter.setPen(theme.quietText);
-    painter.drawText(QRect(20, 6, width() - 32, labelHeight), Qt::AlignRight | Qt::AlignVCenter,
+    painter.drawText(QRect(20, 6, width() - 32, labelHeight()), Qt::AlignRight | Qt::AlignVCenter,
                      active() ? QStringLiteral("ACTIVE \u00b7 MHz") : QStringLiteral("MHz"));
 
     const QString title = model().title().empty() ? emptyDisplay : QString::fromStdString(model().title());
-    const QRect digits(16, labelHeight, width() - 28, height() - labelHeight);
+    const QRect digits(16, labelHeight(), width() - 28, height() - labelHeight());
     // The hertz are read last: they stand back a little.
     const qsizetype hertzAt = title.lastIndexOf('.');
     const QFontMetrics metrics(font());
@@ -67,7 +68,7 @@ void VfoButton::paintEvent(QPaintEvent*) {
     painter.setPen(active() && known ? theme.accent : theme.quietText);
     painter.drawText(digits.adjusted(0, 0, -hertzWidth, 0), Qt::AlignRight | Qt::AlignVCenter, title.left(hertzAt));
     QColor dim = painter.pen().color();
-    dim.setAlphaF(0.72F);
+    dim.setAlphaF(0.85F);
     painter.setPen(dim);
     painter.drawText(digits, Qt::AlignRight | Qt::AlignVCenter, title.mid(hertzAt));
 }

@@ -37,7 +37,7 @@ TEST(ReceivePath, EachResponseTouchesTheControlsOfItsOwnHandlerOnly) {
         {"FA014250000", {"vqFreqAButton", "freqTextField", "m20Button", "licenseClassButton", "activeVfoField"}},
         {"FB007074000", {"vqFreqBButton", "freqTextField", "m40Button", "licenseClassButton"}},
         {"GT02", {"AGCPopUpButton"}}, {"IF000014250000+000000200000", {"vqFreqAButton"}},
-        {"KM3CQ", {"textMemory3Button", "cwMemory3Button"}}, {"MC005", {}}, {"MD02", {"modesPopUpButton"}},
+        {"KM3CQ", {"textMemory3Button", "cwMemory3Button"}}, {"MC005", {}}, {"MD02", {"modeField", "modesPopUpButton"}},
         {"MS50", {"smeterPopUpButton"}}, {"NB00", {"NBPopupButton"}}, {"NL0005", {"NBPopupButton"}},
         {"NR00", {"DNRPopupButton"}}, {"OI000007074000+000000200000", {"vqFreqBButton"}},
         {"PA01", {"ampPopUpButton"}}, {"PC050", {"tag2007"}}, {"PS0", {}}, {"RA01", {"ATTPopUpButton"}},
