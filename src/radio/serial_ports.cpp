@@ -77,12 +77,12 @@ void SerialPortDemoController::serialPortWasClosed(ORSSerialPort&) {
 }
 
 void SerialPortDemoController::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
-    const std::string name = port.name();
+    const std::string message = linkLostMessage(port.name());
     ++link.session;
     setSerialPort(nullptr);
     display.openCloseButton.setTitle("Connect");
     display.readMemoriesButton.setEnabled(false);
-    showLinkMessage(linkLostMessage(name));
+    showLinkMessage(message);
 }
 
 void SerialPortDemoController::serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error) {

@@ -35,7 +35,7 @@ void SMeterView::paintEvent(QPaintEvent*) {
         const bool aboveS9 = i == segments - 1;
         const QRectF segment(i * step + 1, textHeight + 2, step - 3, height() - textHeight - 4);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(!lit ? theme.line : aboveS9 ? theme.red : theme.accent);
+        painter.setBrush(!lit ? theme.unlit : aboveS9 ? theme.red : theme.accent);
         painter.drawRoundedRect(segment, 2, 2);
         if (i % 2 == 1 && !aboveS9) continue;
         painter.setPen(lit ? theme.text : theme.quietText);

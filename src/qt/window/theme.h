@@ -18,6 +18,7 @@ struct Theme {
     QColor key;        // a key at rest
     QColor keyHover;   // under the pointer
     QColor line;       // edges
+    QColor unlit;      // segments of the meter at rest
     QColor text;       // what is read
     QColor quietText;  // labels, units, what is not active; still readable on panel and window
     QColor accent;     // the one accent: focus, the active digits, the meter
