@@ -16,6 +16,7 @@
 #include <map>
 #include <set>
 
+#include "qt/window/control_texts.h"
 #include "qt/window/shortcuts.h"
 #include "qt/window/theme.h"
 #include "station.h"
@@ -122,7 +123,7 @@ TEST(WindowTest, EveryShortcutOfTheHelpPageDoesWhatItSaysOnEveryPage) {
         const Outlet& outlet = button.outlet();
         button.action = [&presses](Button&) { ++presses; };
         EXPECT_EQ(listed[std::string(outlet.shortcut)], outlet.label);
-        shortcuts.emplace_back(QString::fromUtf8(outlet.shortcut.data(), outlet.shortcut.size()), outlet.label);
+        shortcuts.emplace_back(toQString(outlet.shortcut), outlet.label);
     };
     for (const FrontPanelKey& key : frontPanelKeys)
         if (!key.outlet.shortcut.empty()) watch(station.display.key(key.outlet.tag));
@@ -227,7 +228,8 @@ TEST(WindowTest, AnotherThemeIsSeenAtOnceAndEverywhere) {
                                      {"Dark theme", ThemeKind::dark},
                                      {"Light theme", ThemeKind::light}}) {
         const auto actions = station.window.findChildren<QAction*>();
-        const auto action = std::ranges::find_if(actions, [&](const QAction* each) { return each->text() == text; });
+        const auto action =
+            std::ranges::find_if(actions, [name = text](const QAction* each) { return each->text() == name; });
         ASSERT_NE(action, actions.end());
         paints.count = 0;
         (*action)->trigger();
