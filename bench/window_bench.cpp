@@ -307,6 +307,7 @@ public:
             };
             wish('f');
             runUntil([&] { return painted; }, 2s);
+            if (!painted) break;  // a window that is not seen is not painted
             runFor(Microseconds(pause(random)));
         }
         application_.onPainted = {};
