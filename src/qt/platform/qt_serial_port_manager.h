@@ -59,7 +59,7 @@ private:
     QTimer extraTimer_;
 };
 
-// "/dev/pts/5:/tmp/radio" as {"/dev/pts/5", "/tmp/radio"}; empty pieces and repetitions are left out.
+// "/dev/pts/5:/dev/radio" as {"/dev/pts/5", "/dev/radio"}; empty pieces and repetitions are left out.
 std::vector<std::string> splitPaths(std::string_view paths);
 
 }  // namespace corvane
