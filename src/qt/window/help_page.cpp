@@ -13,7 +13,7 @@ namespace corvane {
 QWidget* makeHelpPage(Display& display) {
     auto* page = new QWidget;
     auto* rows = new QVBoxLayout(page);
-    rows->setContentsMargins(4 * gridStep, 4 * gridStep, 4 * gridStep, 4 * gridStep);
+    rows->setContentsMargins(pageMargins);
     auto* panel = new Panel("Shortcuts");
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(4 * gridStep);

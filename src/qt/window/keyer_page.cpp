@@ -55,7 +55,7 @@ Panel* familyPanel(const QString& title, std::deque<Button>& memories, ChangeQue
 QWidget* makeKeyerPage(Display& display, ChangeQueue& queue) {
     auto* page = new QWidget;
     auto* grid = new QGridLayout(page);
-    grid->setContentsMargins(4 * gridStep, 4 * gridStep, 4 * gridStep, 4 * gridStep);
+    grid->setContentsMargins(pageMargins);
     grid->setSpacing(4 * gridStep);
     grid->addWidget(sendPanel(display, queue), 0, 0, 1, 3);
     grid->addWidget(familyPanel("CW memories", display.cwMemoryButtons, queue), 1, 0);

@@ -29,7 +29,7 @@ constexpr std::array menuGroupPages{
 QWidget* makeGroupPage(Display& display, ChangeQueue& queue, int readKeyTag) {
     auto* page = new QWidget;
     auto* rows = new QVBoxLayout(page);
-    rows->setContentsMargins(4 * gridStep, 4 * gridStep, 4 * gridStep, 4 * gridStep);
+    rows->setContentsMargins(pageMargins);
     auto* read = new KeyButton(display.key(readKeyTag), queue);
     read->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     rows->addWidget(read);

@@ -77,7 +77,7 @@ Panel* commandPanel(Display& display, ChangeQueue& queue) {
 QWidget* makeStationPage(Display& display, ChangeQueue& queue) {
     auto* page = new QWidget;
     auto* grid = new QGridLayout(page);
-    grid->setContentsMargins(4 * gridStep, 4 * gridStep, 4 * gridStep, 4 * gridStep);
+    grid->setContentsMargins(pageMargins);
     grid->setSpacing(4 * gridStep);
     grid->addWidget(linkPanel(display, queue), 0, 0);
     grid->addWidget(firstStepsPanel(), 0, 1);

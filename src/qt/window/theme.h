@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QMargins>
 #include <QPalette>
 #include <QString>
 
@@ -47,5 +48,8 @@ QFont typeface(TypeSize size, QFont::Weight weight = QFont::Normal);
 
 // The grid: distances between controls are multiples of this many device-independent pixels.
 inline constexpr int gridStep = 4;
+
+// Around the contents of a page.
+inline constexpr QMargins pageMargins{4 * gridStep, 4 * gridStep, 4 * gridStep, 4 * gridStep};
 
 }  // namespace corvane
