@@ -326,6 +326,7 @@ private:
     QtPlatformOptions options(std::string port) const {
         QtPlatformOptions made;
         made.settingsPath = folder_.filePath("corvane.conf");
+        made.dataPath = folder_.filePath("data");
         made.soundsFolder = folder_.path().toStdString();
         made.extraPorts = {std::move(port)};
         made.schedulerSpeed = 10;  // the steps of the session are no part of this

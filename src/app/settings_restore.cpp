@@ -13,12 +13,14 @@ void SerialPortDemoController::restoreSettings() {
         choosePort(display.PortPopUpButton);
     }
 
+    for (const PreferenceSwitch& row : preferenceSwitches)
+        preferences.*row.value = userDefaults.text(row.key).value_or(std::string(row.defaultValue));
+    applyAutoMemSquelch(userDefaults.integer("autosquelch"));
     for (const PreferenceSwitch& row : preferenceSwitches) {
-        std::string& value = preferences.*row.value;
-        value = userDefaults.text(row.key).value_or(std::string(row.defaultValue));
+        const bool on = preferences.*row.value == "1";
         MenuItem& item = display.*row.item;
-        item.setChecked(value == "1");
-        item.setTag(value == "1" ? row.onTag : row.onTag + offTagOffset);
+        item.setChecked(on);
+        item.setTag(on ? row.onTag : row.onTag + offTagOffset);
     }
     preferences.vqPortChecked = 1;
     display.vqMemAButton.setTitle("  M-01");

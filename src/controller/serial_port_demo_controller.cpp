@@ -1,6 +1,10 @@
 #include "controller/serial_port_demo_controller.h"
 
+#include <array>
 #include <utility>
+
+#include "display/table_columns.h"
+#include "memories/table_cells.h"
 
 namespace corvane {
 
@@ -9,13 +13,21 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       userDefaults(platform.settings),
       synth(platform.speech),
       platform_(platform),
-      hosts_(std::move(hosts)) {
+      hosts_(std::move(hosts)),
+      afGainPacer_([this](std::string command) { sendBuilt(std::move(command)); },
+                   [this](auto delay, auto task) { later(delay, std::move(task)); }),
+      rfGainPacer_([this](std::string command) { sendBuilt(std::move(command)); },
+                   [this](auto delay, auto task) { later(delay, std::move(task)); }) {
     bindControls();
-    std::vector<std::string> memoryTitles;
-    for (int row = 0; row < memoryChannels; ++row)
-        memoryTitles.push_back(memoryPopUpTitle(row, memories.vqMemArray[static_cast<std::size_t>(row)]));
-    display.memPopUpButton.setEntries(std::move(memoryTitles));
-    display.readMemoriesButton.setEnabled(false);
+    bindPopUps();
+    bindEntries();
+    bindTables();
+    fillPresetPopUp();
+    showMemoryChannels();
+    setMemoryKeysEnabled(false);
+    display.memoryReadField.setStringValue("Not read yet");
+    display.memoryBackupField.setStringValue("Before a write, the channels as last read are saved in " +
+                                             platform_.dataFolder.path() + "/memory-channels");
     display.licenseClassButton.setVisible(false);
     disableTextMemoryControls();
     setActiveVfo(radio.vqAorB);
@@ -38,13 +50,14 @@ void SerialPortDemoController::awakeFromNib() {
     restoreSettings();
     const bool remembered = !userDefaults.text("defaultPort").value_or("").empty();
     if (!link.serialPort && !remembered) setSerialPort(serialPortManager.suggestedPort());
+    autoMemorySample();
 }
 
 void SerialPortDemoController::bindControls() {
     for (const FrontPanelKey& row : frontPanelKeys) {
         Button& key = display.key(row.outlet.tag);
         key.action = [this](Button& sender) { go(sender); };
-        // There is nothing yet that the keys of the on-line lists could refresh.
+        // There is nothing yet that these keys could refresh.
         if (row.panel == KeyPanel::lists) key.setEnabled(false);
     }
     display.sendButton.action = [this](Button& sender) { sendBox(sender); };
@@ -53,8 +66,91 @@ void SerialPortDemoController::bindControls() {
     display.PortPopUpButton.action = [this](PopUpButton& sender) { choosePort(sender); };
     display.BaudPopUpButton.action = [this](PopUpButton& sender) { chooseBaudRate(sender); };
     display.readMemoriesButton.action = [this](Button& sender) { getMemoriesFromRadio(sender); };
+    display.writeMemoriesButton.action = [this](Button& sender) { askBeforeWriting(sender); };
+    display.autoMemoryNowButton.action = [this](Button& sender) { autoMemoryNow(sender); };
+    display.autoMemsTableTuneButton.action = [this](Button& sender) { goAutoMemsTune(sender); };
+    display.autoMemsTableClearButton.action = [this](Button& sender) { goAutoMemsClear(sender); };
     for (const PreferenceSwitch& row : preferenceSwitches)
         (display.*row.item).action = [this](MenuItem& sender) { goMainMenu(sender); };
+}
+
+void SerialPortDemoController::bindPopUps() {
+    using Controller = SerialPortDemoController;
+    struct Row {
+        PopUpButton Display::*popUp;
+        void (Controller::*action)(PopUpButton& sender);
+    };
+    static constexpr std::array rows{
+        Row{&Display::presetPopUpButton, &Controller::goMacro},
+        Row{&Display::modesPopUpButton, &Controller::goMode},
+        Row{&Display::memPopUpButton, &Controller::goMemory},
+        Row{&Display::colorPopUpButton, &Controller::goColor},
+        Row{&Display::spectrumModePopUpButton, &Controller::goSpectrumMode},
+        Row{&Display::smeterPopUpButton, &Controller::goSmeter},
+        Row{&Display::ampPopUpButton, &Controller::goAmp},
+        Row{&Display::AGCPopUpButton, &Controller::goAGC},
+        Row{&Display::ATTPopUpButton, &Controller::goATT},
+        Row{&Display::RFILPopUpButton, &Controller::goRFIL},
+        Row{&Display::DNRPopupButton, &Controller::goDNR},
+        Row{&Display::NBPopupButton, &Controller::goNB},
+        Row{&Display::FuncKnobButton, &Controller::goFunctionKnob},
+        Row{&Display::MPVDButton, &Controller::goMPVD},
+        Row{&Display::scopeSpeedPopUpButton, &Controller::goSuperPopUp},
+        Row{&Display::scopePeakPopUpButton, &Controller::goSuperPopUp},
+        Row{&Display::scopeLevelPopUpButton, &Controller::goSuperPopUp},
+        Row{&Display::scopeSpanPopUpButton, &Controller::goSuperPopUp},
+        Row{&Display::APOPopUpButton, &Controller::goSuperPopUp},
+        Row{&Display::powerPopUpButton, &Controller::goSuperPopUp},
+    };
+    for (const Row& row : rows)
+        (display.*row.popUp).action = [this, act = row.action](PopUpButton& sender) { (this->*act)(sender); };
+    display.afGainSlider.action = [this](Slider& sender) { goAF(sender); };
+    display.rfGainSlider.action = [this](Slider& sender) { goRF(sender); };
+    display.autoMemSquelchSlider.action = [this](Slider& sender) { goAutoMemSquelch(sender); };
+}
+
+void SerialPortDemoController::bindEntries() {
+    display.tuneButton.action = [this](Button& sender) { doTune(sender); };
+    display.freqTextField.action = [this](TextField& sender) { returnPressedInFreqField(sender); };
+
+    // A text that the transceiver cannot hold is refused while it is typed, and is not sent.
+    const auto refuseIn = [this](TextField& typed, TextField& notice) {
+        typed.onEdit = [this, &notice](TextField& field) { acceptsText(field, notice); };
+    };
+    refuseIn(display.callTextField, display.callNoticeField);
+    display.callTextField.action = [this](TextField& sender) { returnPressedInCallField(sender); };
+    display.saveCallButton.action = [this](Button& sender) {
+        if (acceptsText(display.callTextField, display.callNoticeField)) doCall(sender);
+    };
+    refuseIn(display.textMemoryField, display.textMemoryNoticeField);
+    display.textMemoryField.action = [this](TextField& sender) { returnPressedInTextMessageField(sender); };
+    display.sendTextMemoryButton.action = [this](Button& sender) {
+        if (acceptsText(display.textMemoryField, display.textMemoryNoticeField)) sendTextMessage(sender);
+    };
+    display.clearTextMemoryButton.action = [this](Button&) { clearTextMessage(); };
+    for (const auto& [popUp, text] : {std::pair{&display.cwMemoryPopUpButton, &display.cwMemoryField},
+                                      std::pair{&display.rttyMemoryPopUpButton, &display.rttyMemoryField},
+                                      std::pair{&display.pskMemoryPopUpButton, &display.pskMemoryField}}) {
+        refuseIn(*text, display.memoryTextNoticeField);
+        popUp->action = [this, text = text](PopUpButton& sender) {
+            if (acceptsText(*text, display.memoryTextNoticeField)) goSuperPopUp(sender);
+        };
+    }
+}
+
+void SerialPortDemoController::bindTables() {
+    display.memoriesTable.rowCount = [] { return memoryChannels; };
+    display.memoriesTable.text = [this](int row, int column) {
+        return memoriesTableCell(memories.vqMemArray, row, column);
+    };
+    display.autoMemTable.rowCount = [this] { return static_cast<int>(autoMemories.vqAutoMemoryArray.size()); };
+    display.autoMemTable.text = [this](int row, int column) { return autoMemTableCell(autoMemories, row, column); };
+    display.autoMemTable.onPress = [this](int row, int column) {
+        Button& cell =
+            column == autoMemTableTuneColumn ? display.autoMemsTableTuneButton : display.autoMemsTableClearButton;
+        cell.setTag(row);
+        cell.performClick();
+    };
 }
 
 void SerialPortDemoController::later(Scheduler::Duration delay, std::function<void()> task) {

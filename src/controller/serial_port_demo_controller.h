@@ -9,8 +9,14 @@
 //   frequency and mode   FA FB MC IF OI MD VS                     interpret/frequency_responses.cpp
 //   operating state      meters, gains, switches, texts           interpret/operating_state_responses.cpp
 //   front panel          the keys                                 controls/front_panel.cpp
+//   entry fields         a typed frequency, the call sign         controls/entry_fields.cpp
+//   presets              frequencies in one step                  controls/preset_pop_up.cpp
+//   functions            the function pop-ups and sliders         controls/function_pop_ups.cpp
+//   power-off            switching off after a while              controls/automatic_power_off.cpp
+//   keyer                texts on the air                         controls/keyer.cpp
 //   operator class       what may be done on a frequency          controls/operator_class.cpp
-//   memories             reading the memory channels              memories/memory_read.cpp
+//   memories             the memory channels                      memories/memory_read.cpp, memory_write.cpp
+//   auto memories        frequencies where a signal was heard     memories/auto_memories.cpp
 //   settings             what is kept between runs                app/settings_restore.cpp
 //   voice and sounds     what is heard, and the help page         app/voice_and_sounds.cpp
 #pragma once
@@ -21,13 +27,18 @@
 
 #include "app/preferences.h"
 #include "app/service_hosts.h"
+#include "controls/command_pacer.h"
+#include "controls/power_off_state.h"
 #include "display/display.h"
 #include "interpret/radio_state.h"
+#include "memories/auto_memory_state.h"
 #include "memories/memory_state.h"
 #include "platform/platform.h"
 #include "radio/link_state.h"
 
 namespace corvane {
+
+struct ModeGroup;
 
 class SerialPortDemoController final : public ORSSerialPortDelegate, public SerialPortsObserver {
 public:
@@ -108,12 +119,58 @@ public:
     void go(Button& sender);                                   // dispatches on the sender's tag
     void stepFrequency(std::string_view direction, int step);  // "up" or "down", hertz
 
+    // --- entry fields: controls/entry_fields.cpp
+    void doTune(Button& sender);  // tunes the active VFO to the typed frequency
+    void doCall(Button& sender);  // writes the typed call sign into the transceiver's menu
+    void returnPressedInFreqField(TextField& sender);
+    void returnPressedInCallField(TextField& sender);
+
+    // --- presets: controls/preset_pop_up.cpp
+    void goMacro(PopUpButton& sender);
+
+    // --- functions: controls/function_pop_ups.cpp
+    void goMode(PopUpButton& sender);
+    void goMemory(PopUpButton& sender);
+    void goColor(PopUpButton& sender);
+    void goSpectrumMode(PopUpButton& sender);
+    void goSmeter(PopUpButton& sender);
+    void goAmp(PopUpButton& sender);
+    void goAGC(PopUpButton& sender);
+    void goATT(PopUpButton& sender);
+    void goRFIL(PopUpButton& sender);
+    void goDNR(PopUpButton& sender);
+    void goNB(PopUpButton& sender);
+    void goFunctionKnob(PopUpButton& sender);
+    void goMPVD(PopUpButton& sender);
+    void goAF(Slider& sender);
+    void goRF(Slider& sender);
+    void goSuperPopUp(PopUpButton& sender);  // scope, power, power-off and memory editors, by the sender's tag
+
+    // --- power-off: controls/automatic_power_off.cpp
+    void autoPowerOff();
+
+    // --- keyer: controls/keyer.cpp
+    void sendTextMessage(Button& sender);  // transmits the typed text through memory 5
+    void returnPressedInTextMessageField(TextField& sender);
+
     // --- operator class: controls/operator_class.cpp
     void showOperatorClass(std::string_view megahertz);  // "14.250000"
 
-    // --- memories: memories/memory_read.cpp
+    // --- memories: memories/memory_read.cpp, memories/memory_write.cpp
     void getMemoriesFromRadio(Button& sender);
     void startMemoryRead();
+    void readMemoryReply(std::string_view response);  // "MR001014250000+000000210000"
+    void readTagReply(std::string_view response);     // "MT0011CALLING     "
+    void askBeforeWriting(Button& sender);
+    void writeMemoriesToRadio(Button& sender);
+
+    // --- auto memories: memories/auto_memories.cpp
+    void autoMemorySample();
+    void autoMemoryNow(Button& sender);
+    void goAutoMemsTune(Button& sender);   // the sender's tag is the row
+    void goAutoMemsClear(Button& sender);  // the sender's tag is the row
+    void goAutoMemSquelch(Slider& sender);
+    void applyAutoMemSquelch(int index);
 
     // --- settings: app/settings_restore.cpp
     void restoreSettings();
@@ -136,10 +193,15 @@ public:
     LinkState link;
     RadioState radio;
     MemoryState memories;
+    AutoMemoryState autoMemories;
+    PowerOffState powerOff;
     Preferences preferences;
 
 private:
     void bindControls();
+    void bindPopUps();
+    void bindEntries();
+    void bindTables();
     void later(Scheduler::Duration delay, std::function<void()> task);  // unless the controller has gone by then
 
     void fillPortPopUp();
@@ -156,6 +218,31 @@ private:
     void readFrequency(std::string_view response, char vfo);
     void readSideInformation(std::string_view response, char vfo);
     void showMemoryText(int slot, std::string_view text, std::deque<Button>& familyButtons);
+
+    void sendBuilt(std::string command);  // nothing for an empty one
+    void fillPresetPopUp();
+    void planPowerOff(int entry);
+    void showActiveFrequency();
+    bool acceptsText(const TextField& typed, TextField& notice);
+    void showWarning(std::string_view message, std::string_view detail);
+
+    struct MemoryEditor;
+    static const MemoryEditor* memoryEditor(int tag);
+    void writeMemoryText(PopUpButton& sender);
+    void rememberScratchMemory(const ModeGroup& family);
+    void clearTextMessage();
+
+    void requestMemory(std::string_view name, int channel);
+    void readMemoryInUse(std::string_view response);
+    void showMemoryChannels();
+    void showMemoryReadProgress(std::string_view problem = {});
+    void watchMemoryRead();
+    void memoryReadLostLink();
+    bool saveMemoriesAsRead();
+    void setMemoryKeysEnabled(bool enabled);
+    bool recordAutoMemory();
+    void clearAutoMemories();
+    void setAutoMemSquelch(int index);
 
     // The kinds of keys; each says whether it built a command, which the common tail then sends.
     bool pressBandKey(Button& sender);
@@ -175,11 +262,14 @@ private:
     bool pressClearLogKey(Button& sender);
     bool pressProductPageKey(Button& sender);
     bool pressReadMenuKey(Button& sender);
+    bool pressClearAutoMemoriesKey(Button& sender);
     void finishGo();  // the tail of every key: break-in on, then send what the key built
 
     Platform platform_;
     ServiceHosts hosts_;
     std::shared_ptr<const int> alive_ = std::make_shared<const int>(0);  // delayed tasks hold it weakly
+    CommandPacer afGainPacer_;
+    CommandPacer rfGainPacer_;
 };
 
 }  // namespace corvane

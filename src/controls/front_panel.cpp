@@ -39,6 +39,7 @@ void SerialPortDemoController::go(Button& sender) {
         Kind{606, 606, &Controller::pressClearLogKey},
         Kind{muteTag, muteTag, &Controller::pressMuteKey},
         Kind{805, 805, &Controller::pressProductPageKey},
+        Kind{815, 815, &Controller::pressClearAutoMemoriesKey},
         Kind{1225, 1234, &Controller::pressToggleKey},
         Kind{1351, 1351, &Controller::pressScopeColorKey},
         Kind{1383, 1384, &Controller::pressToggleKey},
@@ -166,10 +167,8 @@ bool SerialPortDemoController::pressVfoKey(Button& sender) {
     else
         sendCommand(radio.vqAorB == "A" ? "VS1;VS1;" : "VS0;");
     setActiveVfo(toA ? "A" : "B");
-
-    // The title reads "14.250.000"; without its hertz it fits the entry field.
+    showActiveFrequency();
     const std::string& title = (toA ? display.vqFreqAButton : display.vqFreqBButton).title();
-    display.freqTextField.setStringValue(std::string_view(title).substr(0, title.size() > 4 ? title.size() - 4 : 0));
     highlightBand(decimalOrZero(without(title, ".")));
     link.cmd = toA ? "VS1;ST0;MD0;VS0;IF;" : "VS0;ST0;MD0;VS1;OI;";
     (toA ? radio.vqModeA : radio.vqModeB) = "vfo";
@@ -208,6 +207,11 @@ bool SerialPortDemoController::pressClearLogKey(Button&) {
 
 bool SerialPortDemoController::pressProductPageKey(Button&) {
     platform_.browser.open(hosts_.productPage());
+    return false;
+}
+
+bool SerialPortDemoController::pressClearAutoMemoriesKey(Button&) {
+    clearAutoMemories();
     return false;
 }
 

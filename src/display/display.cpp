@@ -1,6 +1,7 @@
 #include "display/display.h"
 
 #include "display/pop_up_entries.h"
+#include "display/table_columns.h"
 
 namespace corvane {
 
@@ -25,6 +26,15 @@ constexpr MemoryOutlets pskMemories{{{"pskMemory1Button", 0, "", "PSK memory 1",
                                      {"pskMemory4Button", 0, "", "PSK memory 4", memoryHelp},
                                      {"pskMemory5Button", 0, "", "PSK memory 5", memoryHelp}}};
 
+constexpr Outlet memoriesTableOutlet{"memoriesTable", 0, "", "Memory channels",
+                                     "The 99 memory channels, as read from the transceiver."};
+constexpr Outlet autoMemTableOutlet{"autoMemTable", 0, "", "Auto memories",
+                                    "Frequencies at which a signal was heard, newest first."};
+constexpr Outlet memoryReadProgressOutlet{"memoryReadProgress", 0, "", "Reading memory channels",
+                                          "How much of the memory channels has been read."};
+
+constexpr std::string_view editorMemories = "|1|2|3|4|5";  // a blank one, then their numbers
+
 std::deque<Button> makeKeys() {
     std::deque<Button> keys;
     for (const FrontPanelKey& key : frontPanelKeys) keys.emplace_back(key.outlet);
@@ -37,7 +47,13 @@ Display::Display()
     : keys(makeKeys()),
       cwMemoryButtons(cwMemories.begin(), cwMemories.end()),
       rttyMemoryButtons(rttyMemories.begin(), rttyMemories.end()),
-      pskMemoryButtons(pskMemories.begin(), pskMemories.end()) {
+      pskMemoryButtons(pskMemories.begin(), pskMemories.end()),
+      memoriesTable(memoriesTableOutlet, memoriesTableColumns),
+      memoryReadProgress(memoryReadProgressOutlet, memoryReadSteps),
+      autoMemTable(autoMemTableOutlet, autoMemTableColumns) {
+    for (PopUpButton* popUp : {&cwMemoryPopUpButton, &rttyMemoryPopUpButton, &pskMemoryPopUpButton})
+        popUp->setEntries(entryList(editorMemories));
+    memoryReadProgress.setVisible(false);
     modesPopUpButton.setEntries(entryList(modeEntries));
     AGCPopUpButton.setEntries(entryList(agcEntries));
     ATTPopUpButton.setEntries(entryList(attenuatorEntries));

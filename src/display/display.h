@@ -14,6 +14,7 @@
 #include "display/pop_up_button.h"
 #include "display/slider.h"
 #include "display/tab_view.h"
+#include "display/table_view.h"
 #include "display/text_field.h"
 
 namespace corvane {
@@ -22,7 +23,8 @@ struct Display {
     static constexpr int stationPage = 0;
     static constexpr int radioPage = 1;
     static constexpr int keyerPage = 2;
-    static constexpr int settingsPage = 3;
+    static constexpr int memoriesPage = 3;
+    static constexpr int settingsPage = 4;
     static constexpr int settingsPages = 4;  // of the settings tab, one a menu group
     static constexpr int memories = 5;       // of each family of keyer and text memories
 
@@ -58,8 +60,11 @@ public:
     TextField portDetailsField{{"portDetailsField", 0, "", "Port details", "What hangs on the chosen port."}};
     Button openCloseButton{
         {"openCloseButton", 0, "Connect", "Connect or disconnect", "Open the chosen port, or close it.", "Ctrl+O"}};
-    Button readMemoriesButton{{"readMemoriesButton", 0, "Read memories", "Read the memory channels",
-                               "Ask the transceiver for its memory channels. This version does not show them yet."}};
+    TextField callTextField{
+        {"callTextField", 0, "Call sign", "Call sign", "Your call sign, up to 12 characters \u2014 Return saves it."}};
+    Button saveCallButton{
+        {"saveCallButton", 0, "Save", "Save the call sign", "Write the call sign into the transceiver's menu."}};
+    TextField callNoticeField{{"callNoticeField", 0, "", "Call sign refused", "Why the call sign cannot be sent."}};
     TextField sendTextField{{"sendTextField", 0, "Command", "Command to send",
                              "CAT commands, for example FA; or MD02;FA014250000; \u2014 Return sends them.", "Ctrl+R"}};
     Button sendButton{{"sendButton", 0, "Send", "Send the command", "Send the typed commands to the transceiver."}};
@@ -83,8 +88,12 @@ public:
     Button& notchButton = key(233);
     Button& contButton = key(234);
     Button& muteButton = key(610);
-    TextField freqTextField{
-        {"freqTextField", 0, "MHz", "Frequency in megahertz", "Frequency of the active VFO in MHz."}};
+    TextField freqTextField{{"freqTextField", 0, "MHz", "Frequency in megahertz",
+                             "Frequency of the active VFO in MHz, 0.03 to 75 \u2014 Return tunes to it.", "Ctrl+F"}};
+    Button tuneButton{{"tuneButton", 0, "Tune", "Tune to the frequency",
+                       "Tune the active VFO to the typed frequency, in USB from 10 MHz on and in LSB below."}};
+    PopUpButton presetPopUpButton{
+        {"presetPopUpButton", 0, "Presets", "Preset", "Go to a preset frequency with its mode and scope settings."}};
 
     // --- radio page: pop-ups and sliders
     PopUpButton modesPopUpButton{{"modesPopUpButton", 0, "Mode", "Mode", "Operating mode."}};
@@ -120,7 +129,9 @@ public:
     // --- keyer page
     Box sendBox{{"sendBox", 0, "Keyer / Encoder", "Keyer"}};
     std::array<Button*, memories> textMemoryButtons{&key(601), &key(602), &key(603), &key(604), &key(605)};
-    TextField textMemoryField{{"textMemoryField", 0, "Text", "Text to send", "Text to transmit in the present mode."}};
+    TextField textMemoryField{{"textMemoryField", 0, "Text", "Text to send",
+                               "Text to transmit in the present mode \u2014 Return sends it.", "Ctrl+T"}};
+    TextField textMemoryNoticeField{{"textMemoryNoticeField", 0, "", "Text refused", "Why the text cannot be sent."}};
     Button sendTextMemoryButton{{"sendTextMemoryButton", 0, "Send", "Send the text", "Transmit the typed text."}};
     Button clearTextMemoryButton{{"clearTextMemoryButton", 0, "Clear", "Clear the text", "Empty the text to send."}};
     TextField sentTextMemoryField{
@@ -128,6 +139,45 @@ public:
     std::deque<Button> cwMemoryButtons;    // cwMemory1Button to cwMemory5Button
     std::deque<Button> rttyMemoryButtons;  // rttyMemory1Button to rttyMemory5Button
     std::deque<Button> pskMemoryButtons;   // pskMemory1Button to pskMemory5Button
+    TextField cwMemoryField{{"cwMemoryField", 0, "New text", "New CW memory text",
+                             "Text for a CW memory, up to 49 characters; then choose the memory."}};
+    TextField rttyMemoryField{{"rttyMemoryField", 0, "New text", "New RTTY memory text",
+                               "Text for an RTTY memory, up to 49 characters; then choose the memory."}};
+    TextField pskMemoryField{{"pskMemoryField", 0, "New text", "New PSK memory text",
+                              "Text for a PSK memory, up to 49 characters; then choose the memory."}};
+    PopUpButton cwMemoryPopUpButton{
+        {"", 3001, "into", "CW memory to write", "Writes the text into this CW memory of the transceiver."}};
+    PopUpButton rttyMemoryPopUpButton{
+        {"", 3002, "into", "RTTY memory to write", "Writes the text into this RTTY memory of the transceiver."}};
+    PopUpButton pskMemoryPopUpButton{
+        {"", 3003, "into", "PSK memory to write", "Writes the text into this PSK memory of the transceiver."}};
+    TextField memoryTextNoticeField{
+        {"memoryTextNoticeField", 0, "", "Memory text refused", "Why the text cannot be stored."}};
+
+    // --- memories page
+    TableView memoriesTable;
+    Button readMemoriesButton{{"readMemoriesButton", 0, "Read memories", "Read the memory channels",
+                               "Read the 99 memory channels and their tags from the transceiver."}};
+    Button writeMemoriesButton{{"writeMemoriesButton", 0, "Write memories\u2026", "Write the memory channels",
+                                "Write all 99 memory channels into the transceiver; empty rows erase theirs."}};
+    TextField memoryReadField{{"memoryReadField", 0, "", "Memory channels", "How far reading the channels has come."}};
+    LevelIndicator memoryReadProgress;
+    TextField memoryBackupField{{"memoryBackupField", 0, "", "Saved channels",
+                                 "Where the channels as last read are saved before they are written over."}};
+    TableView autoMemTable;
+    Button autoMemoryNowButton{{"autoMemoryNowButton", 0, "Keep frequency", "Keep the frequency",
+                                "Record the present frequency and mode as an auto memory.", "Ctrl+Shift+M"}};
+    Slider autoMemSquelchSlider{{"autoMemSquelchSlider", 0, "Squelch", "Auto-memory squelch",
+                                 "How strong a signal must be for its frequency to be recorded."},
+                                0,
+                                15};
+    TextField autoMemSquelchTextField{
+        {"autoMemSquelchTextField", 0, "", "Squelch level", "The squelch as the S-meter reads."}};
+    // What the button cells of a row press: before it is pressed, a button's tag becomes the row's index.
+    Button autoMemsTableTuneButton{
+        {"autoMemsTableTuneButton", 0, "Tune", "Tune to this frequency", "Tune to this auto memory."}};
+    Button autoMemsTableClearButton{
+        {"autoMemsTableClearButton", 0, "Clear", "Clear this auto memory", "Remove this auto memory."}};
 
     // --- menu bar
     MenuItem menuItemPreferencesVoice{{"menuItemPreferencesVoice", 900, "Voice guide", "Voice guide",

@@ -23,6 +23,7 @@ enum class KeyPanel {
     textMemories,
     keyer,
     lists,
+    autoMemories,
     menuGroups,
     none
 };
@@ -125,7 +126,7 @@ inline constexpr std::array frontPanelKeys{
     FrontPanelKey{{"", 812, "NetLogger", "Refresh NetLogger nets", "Fetches the active nets. This version does not show them yet."}, KeyPanel::lists},
     FrontPanelKey{{"", 813, "SOTA", "Refresh SOTA spots", "Fetches the SOTA spots. This version does not show them yet."}, KeyPanel::lists},
     FrontPanelKey{{"", 814, "Nets", "Refresh the nets directory", "Fetches the directory of nets. This version does not show it yet."}, KeyPanel::lists},
-    FrontPanelKey{{"", 815, "Clear auto memories", "Clear all auto memories", "Empties the auto memories. This version does not keep any yet."}, KeyPanel::lists},
+    FrontPanelKey{{"", 815, "Clear all", "Clear all auto memories", "Remove all auto memories and their notes."}, KeyPanel::autoMemories},
 
     FrontPanelKey{{"", 2010100, "Read from transceiver", "Read the radio setting menu", "Read the items of this menu group from the transceiver."}, KeyPanel::menuGroups},
     FrontPanelKey{{"", 2020100, "Read from transceiver", "Read the CW setting menu", "Read the items of this menu group from the transceiver."}, KeyPanel::menuGroups},

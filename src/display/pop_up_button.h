@@ -13,11 +13,21 @@ public:
 
     using Control::Control;
 
+    // Entries that belong together, from `first` to the next group.
+    struct Group {
+        std::string title;
+        int first;
+
+        bool operator==(const Group&) const = default;
+    };
+
     const std::vector<std::string>& entries() const { return entries_; }
+    const std::vector<Group>& groups() const { return groups_; }  // none: the entries are one plain list
     // Replaces the entries; nothing is selected afterwards.
-    void setEntries(std::vector<std::string> entries) {
+    void setEntries(std::vector<std::string> entries, std::vector<Group> groups = {}) {
         selected_ = noSelection;
         entries_ = std::move(entries);
+        groups_ = std::move(groups);
         ++entriesVersion_;
         markChanged();
     }
@@ -51,6 +61,7 @@ public:
 
 private:
     std::vector<std::string> entries_;
+    std::vector<Group> groups_;
     int entriesVersion_ = 0;
     int selected_ = noSelection;
 };

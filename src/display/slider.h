@@ -18,6 +18,15 @@ public:
     // A value beyond an end stands at that end.
     void setIntegerValue(int value) { assign(value_, std::clamp(value, minimum_, maximum_)); }
 
+    // What a move does. A slider without an action only shows its value.
+    std::function<void(Slider&)> action;
+    // The operator moves the knob.
+    void drag(int value) {
+        if (!enabled() || !action) return;
+        setIntegerValue(value);
+        action(*this);
+    }
+
 private:
     const int minimum_;
     const int maximum_;

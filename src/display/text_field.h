@@ -1,6 +1,8 @@
 // A text: one that the operator types, or one that the program shows.
 #pragma once
 
+#include <optional>
+
 #include "display/control.h"
 
 namespace corvane {
@@ -10,10 +12,45 @@ public:
     using Control::Control;
 
     const std::string& stringValue() const { return text_; }
-    void setStringValue(std::string_view text) { assign(text_, text); }
+    // The program's text. While the operator types it waits, so that a report of the transceiver takes nobody's word
+    // out of the mouth.
+    void setStringValue(std::string_view text) {
+        if (editing_)
+            waiting_ = text;
+        else
+            assign(text_, text);
+    }
 
     Color textColor() const { return textColor_; }  // none is the ordinary colour
     void setTextColor(Color color) { assign(textColor_, color); }
+
+    // What the operator types: the field is being edited from the first character on.
+    std::function<void(TextField&)> onEdit;
+    void edit(std::string_view text) {
+        if (!editing_) waiting_ = text_;
+        editing_ = true;
+        assign(text_, text);
+        if (onEdit) onEdit(*this);
+    }
+    bool editing() const { return editing_; }
+    // What was typed stands, until the program has something else to show.
+    void endEditing() {
+        editing_ = false;
+        waiting_.reset();
+    }
+    // What was typed goes; the program's text of last comes back.
+    void cancelEditing() {
+        if (!std::exchange(editing_, false)) return;
+        assign(text_, *std::exchange(waiting_, std::nullopt));
+        if (onEdit) onEdit(*this);
+    }
+
+    // Asks the shell to take the keyboard away from the field.
+    void resignFirstResponder() {
+        endEditing();
+        assign(resignations_, resignations_ + 1);
+    }
+    int resignations() const { return resignations_; }  // how often that was asked
 
     // What the Return key does. A field without an action only shows its text.
     std::function<void(TextField&)> action;
@@ -23,6 +60,9 @@ public:
 
 private:
     std::string text_;
+    std::optional<std::string> waiting_;  // the program's text while the operator types
+    bool editing_ = false;
+    int resignations_ = 0;
     Color textColor_ = Color::none;
 };
 

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "controller/serial_port_demo_controller.h"
+#include "interpret/setting_codes.h"
 #include "radio/utf8.h"
 #include "radio/wire_text.h"
 
@@ -11,12 +12,7 @@ namespace corvane {
 
 namespace {
 
-// Positions of a knob assignment's code character are its entries' indexes.
-constexpr std::string_view multiKnobCodes = "13489";
-constexpr std::string_view functionKnobCodes = "014569CDEFGHIJKMN";
-
 constexpr int lowestAudibleLevel = 5;
-constexpr int lowestPower = 5;  // watts; the first entry of the power pop-up
 constexpr std::size_t textMemoryLength = 50;
 
 // The number of a scope value: '0' to '9', then 'A' for 10 and 'B' for 11 as far as the pop-up has them. Anything else

@@ -16,7 +16,9 @@ struct RadioState {
     std::string vqMemCh = "001";    // the memory channel reported last, three digits
     std::string vqMemChA = "001";   // the memory channel of side A
     std::string vqMemChB = "002";   // the memory channel of side B
+    std::string vqMemFreq;          // the frequency of the channel in use, nine digits
     std::string vqMemATag;          // the tag of side A's channel
+    std::string vqMemBTag;          // the tag of side B's channel
     std::string vqVFOA;             // VFO A as it is spoken: "1 4 dot 250"
     std::string vqVFOB;             // VFO B
     std::string vqAFLevel = "000";  // the last AF gain of 5 or more, three digits

@@ -1,7 +1,26 @@
-// Reading the memory channels begins with a request for the first one.
+// Reading the memory channels: a chain of request and reply, first frequencies and modes, then tags. The pace is the
+// transceiver's; nothing is sent on a timer.
 #include "controller/serial_port_demo_controller.h"
+#include "memories/memory_commands.h"
+#include "radio/wire_text.h"
 
 namespace corvane {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto patience = 3s;  // longer than any transceiver takes for one answer
+
+// Noise may still be text, but it is no channel: it moves the chain on and changes nothing.
+bool describesRow(int channel, std::string_view reply) { return channel != 0 && isAscii(reply); }
+
+}  // namespace
+
+void SerialPortDemoController::setMemoryKeysEnabled(bool enabled) {
+    display.readMemoriesButton.setEnabled(enabled);
+    display.writeMemoriesButton.setEnabled(enabled);
+}
 
 void SerialPortDemoController::getMemoriesFromRadio(Button&) { startMemoryRead(); }
 
@@ -11,8 +30,95 @@ void SerialPortDemoController::startMemoryRead() {
     memories.vqTagRead = "0";
     memories.vqMemReadCnt = 0;
     memories.vqTagReadCnt = 0;
-    link.cmd = "MR001;";
+    ++memories.readNumber;
+    display.memoriesTable.reloadData();
+    requestMemory("MR", 1);
+    watchMemoryRead();
+}
+
+void SerialPortDemoController::requestMemory(std::string_view name, int channel) {
+    link.cmd = memoryRequest(name, channel);
     sendCommand(link.cmd);
+    showMemoryReadProgress();
+}
+
+void SerialPortDemoController::readMemoryReply(std::string_view response) {
+    if (memories.vqMemRead != "run") return readMemoryInUse(response);
+    const MemoryReply reply = memoryReply(response);
+    if (describesRow(reply.channel, response))
+        memories.vqMemArray[static_cast<std::size_t>(reply.channel - 1)] = {std::string(reply.frequency),
+                                                                            std::string(reply.mode), ""};
+    const int handled = ++memories.vqMemReadCnt;
+    if (handled <= memoryChannels) return requestMemory("MR", handled);
+    memories.vqMemRead = "0";
+    memories.vqTagRead = "run";
+    requestMemory("MT", 1);
+}
+
+void SerialPortDemoController::readTagReply(std::string_view response) {
+    const TagReply reply = tagReply(response);
+    const bool describes = describesRow(reply.channel, response);
+    if (describes) memories.vqMemArray[static_cast<std::size_t>(reply.channel - 1)].tag = reply.tag;
+    if (memories.vqTagRead != "run") {
+        if (describes) showMemoryChannels();
+        return;
+    }
+    const int handled = ++memories.vqTagReadCnt;
+    if (handled <= memoryChannels) return requestMemory("MT", handled);
+    memories.vqTagRead = "0";
+    memories.lastRead = memories.vqMemArray;
+    showMemoryChannels();
+    showMemoryReadProgress();
+    playSound("Funk");
+}
+
+void SerialPortDemoController::readMemoryInUse(std::string_view response) {
+    if (!isAscii(response)) return;
+    radio.vqMemFreq = positions(response, 6, 9);
+    std::string_view tag = lastOf(response, 12);
+    while (!tag.empty() && trimmed(tag.substr(tag.size() - 1)).empty()) tag.remove_suffix(1);
+    if (radio.vqAorB == "A") {
+        radio.vqMemATag = tag;
+        display.vqMemAButton.setTitle("  M-" + std::string(lastOf(radio.vqMemChA, 2)) + ' ' + radio.vqMemATag);
+        radio.vqModeA = radio.vqMemFreq == radio.vqFreqA ? "memory" : "vfo";
+    } else if (radio.vqAorB == "B") {
+        radio.vqMemBTag = tag;
+        radio.vqModeB = radio.vqMemFreq == radio.vqFreqB ? "memory" : "vfo";
+    }
+}
+
+// Shows the channels in the table and in the memory pop-up, whose choice stays.
+void SerialPortDemoController::showMemoryChannels() {
+    display.memoriesTable.reloadData();
+    std::vector<std::string> titles;
+    for (int row = 0; row < memoryChannels; ++row)
+        titles.push_back(memoryPopUpTitle(row, memories.vqMemArray[static_cast<std::size_t>(row)]));
+    const int chosen = display.memPopUpButton.indexOfSelectedItem();
+    display.memPopUpButton.setEntries(std::move(titles));
+    display.memPopUpButton.selectItem(chosen);
+}
+
+void SerialPortDemoController::showMemoryReadProgress(std::string_view problem) {
+    const MemoryReadProgress progress = memoryReadProgress(memories);
+    display.memoryReadProgress.setVisible(progress.running);
+    display.memoryReadProgress.setIntegerValue(progress.handled);
+    display.memoryReadField.setStringValue(progress.text + std::string(problem));
+}
+
+// A chain that has stopped says so; it goes on by itself should the answer still come.
+void SerialPortDemoController::watchMemoryRead() {
+    const int handled = memories.vqMemReadCnt + memories.vqTagReadCnt;
+    later(patience, [this, handled, read = memories.readNumber] {
+        if (read != memories.readNumber || !memoryReadProgress(memories).running) return;
+        if (handled == memories.vqMemReadCnt + memories.vqTagReadCnt)
+            showMemoryReadProgress(": no answer. Press Read memories to start again.");
+        watchMemoryRead();
+    });
+}
+
+void SerialPortDemoController::memoryReadLostLink() {
+    ++memories.readNumber;
+    if (memoryReadProgress(memories).running) showMemoryReadProgress(": stopped, the link is closed.");
 }
 
 }  // namespace corvane

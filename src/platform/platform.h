@@ -1,6 +1,8 @@
 // What the program expects of its surroundings, in one hand. Everything referred to must outlive the controller.
 #pragma once
 
+#include "platform/alerts.h"
+#include "platform/data_folder.h"
 #include "platform/log.h"
 #include "platform/notification_center.h"
 #include "platform/scheduler.h"
@@ -20,6 +22,8 @@ struct Platform {
     SpeechSynthesizer& speech;
     SoundPlayer& sounds;
     WebBrowser& browser;
+    Alerts& alerts;
+    DataFolder& dataFolder;
     Log& log;
 };
 

@@ -1,4 +1,4 @@
-// Work for later, on the user-interface thread.
+// The time, and work for later on the user-interface thread.
 #pragma once
 
 #include <chrono>
@@ -11,6 +11,9 @@ public:
     using Duration = std::chrono::milliseconds;
 
     virtual ~Scheduler() = default;
+
+    // The time of day.
+    virtual std::chrono::system_clock::time_point now() const = 0;
 
     // Runs `task` once, `delay` from now, from the event loop. Tasks due at the same time run in the order given.
     virtual void after(Duration delay, std::function<void()> task) = 0;

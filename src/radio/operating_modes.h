@@ -23,18 +23,20 @@ inline constexpr std::array operatingModes{
 
 static_assert(std::ranges::is_sorted(operatingModes, {}, &OperatingMode::code), "the pop-ups list them in code order");
 
-// The modes that share their keyer memories: how these are read, and what the keyer is called meanwhile.
+// The modes that share their keyer memories: how these are read, stored and played, and what the keyer is called
+// meanwhile.
 struct ModeGroup {
     std::string_view codes;           // e.g. "37"
     std::string_view memoryRequests;  // reads the five memories, e.g. "KM1;KM2;KM3;KM4;KM5;"
+    std::string_view storeCommand;    // in front of a memory's number and its text, e.g. "EM0"
     std::string_view boxTitle;        // e.g. "Send CW"
     std::array<std::string_view, 5> playCommands;
 };
 
 inline constexpr std::array modeGroups{
-    ModeGroup{"37", "KM1;KM2;KM3;KM4;KM5;", "Send CW", {"KY6;", "KY7;", "KY8;", "KY9;", "KYA;"}},
-    ModeGroup{"69", "EM01;EM02;EM03;EM04;EM05;", "Send RTTY", {"EN01;", "EN02;", "EN03;", "EN04;", "EN05;"}},
-    ModeGroup{"E", "EM11;EM12;EM13;EM14;EM15;", "Send PSK", {"EN11;", "EN12;", "EN13;", "EN14;", "EN15;"}},
+    ModeGroup{"37", "KM1;KM2;KM3;KM4;KM5;", "KM", "Send CW", {"KY6;", "KY7;", "KY8;", "KY9;", "KYA;"}},
+    ModeGroup{"69", "EM01;EM02;EM03;EM04;EM05;", "EM0", "Send RTTY", {"EN01;", "EN02;", "EN03;", "EN04;", "EN05;"}},
+    ModeGroup{"E", "EM11;EM12;EM13;EM14;EM15;", "EM1", "Send PSK", {"EN11;", "EN12;", "EN13;", "EN14;", "EN15;"}},
 };
 inline constexpr std::string_view noModeGroupBoxTitle = "Keyer / Encoder";
 

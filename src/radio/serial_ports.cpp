@@ -42,7 +42,7 @@ void SerialPortDemoController::openOrClosePort(Button&) {
     if (port->isOpen()) {
         sendCommand("AI0;");
         port->close();
-        display.readMemoriesButton.setEnabled(false);
+        setMemoryKeysEnabled(false);
         return;
     }
     showLinkMessage({});
@@ -51,13 +51,13 @@ void SerialPortDemoController::openOrClosePort(Button&) {
     port->setNumberOfStopBits(1);
     port->setUsesRTSCTSFlowControl(true);
     port->open();
-    display.readMemoriesButton.setEnabled(port->isOpen());
+    setMemoryKeysEnabled(port->isOpen());
 }
 
 void SerialPortDemoController::serialPortWasOpened(ORSSerialPort& port) {
     display.openCloseButton.setTitle("Connected");
     display.openCloseButton.setBezelColor(Color::green);
-    display.readMemoriesButton.setEnabled(true);
+    setMemoryKeysEnabled(true);
     userDefaults.setText("defaultPort", port.description());
     userDefaults.setText("defaultBaud", std::to_string(port.baudRate()));
     playSound("Seatbelts");
@@ -71,7 +71,8 @@ void SerialPortDemoController::serialPortWasClosed(ORSSerialPort&) {
     ++link.session;
     display.openCloseButton.setTitle("Connect");
     display.openCloseButton.setBezelColor(Color::red);
-    display.readMemoriesButton.setEnabled(false);
+    setMemoryKeysEnabled(false);
+    memoryReadLostLink();
     playSystemSound("Bottle");
     showLinkStatus();
 }
@@ -81,7 +82,8 @@ void SerialPortDemoController::serialPortWasRemovedFromSystem(ORSSerialPort& por
     ++link.session;
     setSerialPort(nullptr);
     display.openCloseButton.setTitle("Connect");
-    display.readMemoriesButton.setEnabled(false);
+    setMemoryKeysEnabled(false);
+    memoryReadLostLink();
     showLinkMessage(message);
 }
 
@@ -89,7 +91,7 @@ void SerialPortDemoController::serialPortDidEncounterError(ORSSerialPort& port, 
     platform_.log.line("SerialPort " + port.description() + " encountered an error: " + error.text);
     playSystemSound("Frog");
     display.mainTab.selectItem(Display::stationPage);
-    display.readMemoriesButton.setEnabled(port.isOpen());
+    setMemoryKeysEnabled(port.isOpen());
     showLinkMessage(linkMessage(port.name(), error));
     showLinkStatus();
 }

@@ -23,7 +23,14 @@ void forEachControl(Display& display, Each each) {
         &display.scopeLevelPopUpButton, &display.scopeSpanPopUpButton, &display.afGainSlider, &display.rfGainSlider,
         &display.sendBox, &display.textMemoryField, &display.sendTextMemoryButton, &display.clearTextMemoryButton,
         &display.sentTextMemoryField, &display.menuItemPreferencesVoice, &display.menuItemPreferencesSounds,
-        &display.menuItemPreferencesIPO
+        &display.menuItemPreferencesIPO, &display.callTextField, &display.saveCallButton, &display.callNoticeField,
+        &display.tuneButton, &display.presetPopUpButton, &display.textMemoryNoticeField, &display.cwMemoryField,
+        &display.rttyMemoryField, &display.pskMemoryField, &display.cwMemoryPopUpButton,
+        &display.rttyMemoryPopUpButton, &display.pskMemoryPopUpButton, &display.memoryTextNoticeField,
+        &display.memoriesTable, &display.writeMemoriesButton, &display.memoryReadField, &display.memoryReadProgress,
+        &display.memoryBackupField, &display.autoMemTable, &display.autoMemoryNowButton,
+        &display.autoMemSquelchSlider, &display.autoMemSquelchTextField, &display.autoMemsTableTuneButton,
+        &display.autoMemsTableClearButton
     };
     // clang-format on
     for (Control* control : controls) each(*control);

@@ -10,6 +10,10 @@ namespace corvane {
 
 class ManualScheduler final : public Scheduler {
 public:
+    // Starts at the beginning of 2026-11-23 UTC.
+    std::chrono::system_clock::time_point now() const override {
+        return std::chrono::sys_days{std::chrono::year{2026} / 11 / 23} + now_;
+    }
     void after(Duration delay, std::function<void()> task) override { tasks_.emplace(now_ + delay, std::move(task)); }
 
     // Runs what falls due within `time`, what those tasks plan included, in the order of time.

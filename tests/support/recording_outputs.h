@@ -1,9 +1,12 @@
 // What is said, heard, opened and logged, each as a list of texts.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
+#include "platform/alerts.h"
+#include "platform/data_folder.h"
 #include "platform/log.h"
 #include "platform/sound_player.h"
 #include "platform/speech_synthesizer.h"
@@ -25,6 +28,28 @@ struct RecordingSoundPlayer final : SoundPlayer {
 struct RecordingWebBrowser final : WebBrowser {
     void open(std::string_view url) override { opened.emplace_back(url); }
     std::vector<std::string> opened;
+};
+
+// Boxes, each answered at once: questions with their verb while `agree` is set.
+struct RecordingAlerts final : Alerts {
+    void warn(std::string_view text) override { shown.emplace_back(text); }
+    void confirm(std::string_view text, std::string_view verb, std::function<void()> confirmed) override {
+        shown.push_back(std::string(text).append(" [").append(verb).append("]"));
+        if (agree) confirmed();
+    }
+    std::vector<std::string> shown;
+    bool agree = true;
+};
+
+struct RecordingDataFolder final : DataFolder {
+    SavedFile save(std::string_view name, std::string_view contents) override {
+        const std::string where = path().append("/").append(name);
+        if (failure.empty()) files[where] = contents;
+        return {where, failure};
+    }
+    std::string path() const override { return "/data"; }
+    std::map<std::string, std::string> files;  // contents by path
+    std::string failure;                       // what every save comes to
 };
 
 struct RecordingLog final : Log {

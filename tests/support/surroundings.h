@@ -19,9 +19,13 @@ struct Surroundings {
     RecordingSpeechSynthesizer speech;
     RecordingSoundPlayer sounds;
     RecordingWebBrowser browser;
+    RecordingAlerts alerts;
+    RecordingDataFolder dataFolder;
     RecordingLog log;
 
-    Platform platform() { return {portManager, notices, scheduler, settings, speech, sounds, browser, log}; }
+    Platform platform() {
+        return {portManager, notices, scheduler, settings, speech, sounds, browser, alerts, dataFolder, log};
+    }
 };
 
 }  // namespace corvane

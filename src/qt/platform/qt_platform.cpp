@@ -6,7 +6,9 @@
 
 #include "qt/platform/desktop_notification_center.h"
 #include "qt/platform/desktop_web_browser.h"
+#include "qt/platform/home_data_folder.h"
 #include "qt/platform/ini_settings_store.h"
+#include "qt/platform/message_box_alerts.h"
 #include "qt/platform/pulse_sound_player.h"
 #include "qt/platform/qt_scheduler.h"
 #include "qt/platform/qt_serial_port_manager.h"
@@ -33,7 +35,8 @@ struct QtPlatform::Parts {
         : serialPortManager(sourcesOf(options)),
           scheduler(options.schedulerSpeed),
           settings(options.settingsPath),
-          sounds(options.soundsFolder) {}
+          sounds(options.soundsFolder),
+          dataFolder(options.dataPath) {}
 
     QtSerialPortManager serialPortManager;
     DesktopNotificationCenter notificationCenter;
@@ -42,12 +45,15 @@ struct QtPlatform::Parts {
     SpeechDispatcher speech;
     PulseSoundPlayer sounds;
     DesktopWebBrowser browser;
+    MessageBoxAlerts alerts;
+    HomeDataFolder dataFolder;
     StandardLog log;
 };
 
 QtPlatformOptions defaultOptions() {
     QtPlatformOptions options;
     options.settingsPath = IniSettingsStore::defaultPath();
+    options.dataPath = HomeDataFolder::defaultPath();
     const QDir beside(QCoreApplication::applicationDirPath() + QLatin1String("/../share/corvane/Sounds"));
     options.soundsFolder = QDir::cleanPath(beside.path()).toStdString();
     options.extraPorts = splitPaths(qEnvironmentVariable("CORVANE_EXTRA_PORTS").toStdString());
@@ -66,6 +72,8 @@ Platform QtPlatform::platform() {
             parts_->speech,
             parts_->sounds,
             parts_->browser,
+            parts_->alerts,
+            parts_->dataFolder,
             parts_->log};
 }
 

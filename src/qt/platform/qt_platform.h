@@ -14,14 +14,16 @@ namespace corvane {
 
 struct QtPlatformOptions {
     QString settingsPath;                 // the ini file
+    QString dataPath;                     // the folder of what is kept for people to read
     std::filesystem::path soundsFolder;   // holds Seatbelts.aiff, Funk.aiff and alerts/
     std::vector<std::string> extraPorts;  // paths of devices to list besides the system's own
     double schedulerSpeed = 1;            // 100 lets 5 s pass in 50 ms
     bool simulatedPort = true;            // end the list of ports with "Simulated transceiver"
 };
 
-// The user's own settings file, the sounds beside the installed program (<bin>/../share/corvane/Sounds), the extra
-// ports of CORVANE_EXTRA_PORTS (paths, ":" between them). Needs the application object.
+// The user's own settings file and data folder, the sounds beside the installed program
+// (<bin>/../share/corvane/Sounds), the extra ports of CORVANE_EXTRA_PORTS (paths, ":" between them). Needs the
+// application object.
 QtPlatformOptions defaultOptions();
 
 // Lives on the thread of the application object, and no longer than it.

@@ -18,6 +18,7 @@ class QtScheduler final : public Scheduler {
 public:
     explicit QtScheduler(double speed = 1);
 
+    std::chrono::system_clock::time_point now() const override { return std::chrono::system_clock::now(); }
     void after(Duration delay, std::function<void()> task) override;
 
 private:

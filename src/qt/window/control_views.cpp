@@ -1,6 +1,11 @@
 #include "qt/window/control_views.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <utility>
 
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
@@ -48,29 +53,52 @@ void PopUpView::keyPressEvent(QKeyEvent* event) {
 SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent) : QSlider(Qt::Horizontal, parent) {
     describe(*this, model);
     setRange(model.minimum(), model.maximum());
-    setEnabled(false);  // shows the transceiver's gain
+    setPageStep(std::max(1, (model.maximum() - model.minimum()) / 16));
     const auto show = [this, &model] {
-        setValue(model.integerValue());
+        setEnabled(model.enabled() && model.action);
+        if (!isSliderDown() && value() != model.integerValue()) {
+            const QSignalBlocker quiet(this);
+            setValue(model.integerValue());
+        }
         setAccessibleName(spokenWithValue(model, std::to_string(model.integerValue())));
     };
+    connect(this, &QSlider::valueChanged, this, [&model](int value) { model.drag(value); });
     model.addView(queue, show);
     show();
 }
 
-TextFieldView::TextFieldView(TextField& model, ChangeQueue& queue, QWidget* parent) : QLineEdit(parent) {
+void SliderView::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+TextFieldView::TextFieldView(TextField& model, ChangeQueue& queue, QWidget* parent)
+    : QLineEdit(parent), model_(model), resignations_(model.resignations()) {
     describe(*this, model);
-    setReadOnly(!model.action);
-    setProperty("shown", !model.action);
-    connect(this, &QLineEdit::textEdited, this,
-            [&model](const QString& text) { model.setStringValue(text.toStdString()); });
-    connect(this, &QLineEdit::returnPressed, this, [&model] { model.performReturn(); });
-    const auto show = [this, &model] {
-        const QString shown = QString::fromStdString(model.stringValue());
-        if (text() != shown) setText(shown);
-        setEnabled(model.enabled());
-    };
-    model.addView(queue, show);
-    show();
+    const bool shown = !model.action && !model.onEdit;
+    setReadOnly(shown);
+    setProperty("shown", shown);
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { model_.edit(text.toStdString()); });
+    connect(this, &QLineEdit::returnPressed, this, [this] { model_.performReturn(); });
+    model.addView(queue, [this] { showModel(); });
+    showModel();
+}
+
+void TextFieldView::showModel() {
+    const QString shown = QString::fromStdString(model_.stringValue());
+    if (text() != shown) setText(shown);
+    setEnabled(model_.enabled());
+    if (std::exchange(resignations_, model_.resignations()) != model_.resignations()) clearFocus();
+}
+
+void TextFieldView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape || !model_.editing()) return QLineEdit::keyPressEvent(event);
+    model_.cancelEditing();
+    showModel();
+}
+
+void TextFieldView::focusOutEvent(QFocusEvent* event) {
+    // A menu or another window takes the keyboard for a moment only.
+    const bool leaves = event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
+    if (leaves) model_.endEditing();
+    QLineEdit::focusOutEvent(event);
 }
 
 TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : QLabel(parent) {
@@ -83,6 +111,54 @@ TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : QL
     };
     model.addView(queue, show);
     show();
+}
+
+NoticeLabel::NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : TextLabel(model, queue, parent) {
+    setFocusPolicy(Qt::StrongFocus);  // what it says can be copied
+    setContentsMargins(3 * gridStep, 2 * gridStep, 3 * gridStep, 2 * gridStep);
+    setProperty("notice", true);
+    const auto show = [this, &model] {
+        setVisible(!model.stringValue().empty());
+        QAccessibleEvent alert(this, QAccessible::Alert);
+        if (!model.stringValue().empty()) QAccessible::updateAccessibility(&alert);
+    };
+    model.addView(queue, show);
+    if (model.stringValue().empty()) hide();
+}
+
+ProgressView::ProgressView(LevelIndicator& model, ChangeQueue& queue, QWidget* parent) : QProgressBar(parent) {
+    describe(*this, model);
+    setRange(0, model.maximum());
+    setTextVisible(false);
+    const auto show = [this, &model] {
+        setValue(model.integerValue());
+        setVisible(model.visible());
+    };
+    model.addView(queue, show);
+    setValue(model.integerValue());
+    if (!model.visible()) hide();
+}
+
+GroupedPopUpView::GroupedPopUpView(PopUpButton& model, QWidget* parent) : QPushButton(parent) {
+    describe(*this, model);
+    setText(toQString(model.outlet().title));
+    setFont(typeface(TypeSize::key, QFont::DemiBold));
+    auto* menu = new QMenu(this);
+    menu->setAccessibleName(labelOf(model));
+    addGroupedEntries(*menu, model);
+    setMenu(menu);
+}
+
+void addGroupedEntries(QMenu& menu, PopUpButton& model) {
+    const auto& entries = model.entries();
+    for (auto group = model.groups().begin(); group != model.groups().end(); ++group) {
+        auto* entriesOfGroup = menu.addMenu(QString::fromStdString(group->title));
+        const auto next = std::next(group);
+        const int end = next == model.groups().end() ? static_cast<int>(entries.size()) : next->first;
+        for (int index = group->first; index < end; ++index)
+            entriesOfGroup->addAction(QString::fromStdString(entries[static_cast<std::size_t>(index)]),
+                                      [&model, index] { model.choose(index); });
+    }
 }
 
 QLabel* titleLabel(const Control& control, QWidget& buddy) {

@@ -5,11 +5,16 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
 #include <QSlider>
 
+#include "display/level_indicator.h"
 #include "display/pop_up_button.h"
 #include "display/slider.h"
 #include "display/text_field.h"
+
+class QMenu;
 
 namespace corvane {
 
@@ -32,11 +37,15 @@ private:
     int shownEntries_ = -1;
 };
 
+// While its knob is held it follows the hand alone.
 class SliderView : public QSlider {
     Q_OBJECT
 
 public:
     SliderView(Slider& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
 };
 
 class TextFieldView : public QLineEdit {
@@ -44,6 +53,16 @@ class TextFieldView : public QLineEdit {
 
 public:
     TextFieldView(TextField& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;  // Escape takes back what was typed
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void showModel();
+
+    TextField& model_;
+    int resignations_;
 };
 
 // A text that is only read.
@@ -53,6 +72,33 @@ class TextLabel : public QLabel {
 public:
     TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent = nullptr);
 };
+
+// A text that says why something was refused. It stands there only while there is something to say, and is announced.
+class NoticeLabel : public TextLabel {
+    Q_OBJECT
+
+public:
+    NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent = nullptr);
+};
+
+// How much of something is done.
+class ProgressView : public QProgressBar {
+    Q_OBJECT
+
+public:
+    ProgressView(LevelIndicator& model, ChangeQueue& queue, QWidget* parent = nullptr);
+};
+
+// A pop-up whose entries stand in groups: a key that opens a menu of menus.
+class GroupedPopUpView : public QPushButton {
+    Q_OBJECT
+
+public:
+    GroupedPopUpView(PopUpButton& model, QWidget* parent = nullptr);
+};
+
+// Adds the entries of a pop-up to a menu, a menu of its own for every group.
+void addGroupedEntries(QMenu& menu, PopUpButton& model);
 
 // The title of a control, as the label in front of its widget.
 QLabel* titleLabel(const Control& control, QWidget& buddy);

@@ -1,6 +1,5 @@
 #include "qt/window/header_bar.h"
 
-#include <QAccessible>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -79,7 +78,7 @@ HeaderBar::HeaderBar(Display& display, ChangeQueue& queue, QWidget* parent) : QW
     row->addWidget(new VfoButton(display.vqFreqBButton, display.activeVfoField, "B", queue), 4);
     row->addWidget(makeStatusBlock(display, queue), 4);
     rows->addLayout(row);
-    rows->addWidget(makeMessage(display, queue));
+    rows->addWidget(new NoticeLabel(display.linkMessageField, queue));
 }
 
 QWidget* HeaderBar::makeStatusBlock(Display& display, ChangeQueue& queue) {
@@ -97,21 +96,6 @@ QWidget* HeaderBar::makeStatusBlock(Display& display, ChangeQueue& queue) {
     grid->setColumnStretch(1, 3);
     grid->setColumnStretch(2, 4);
     return block;
-}
-
-// Stands in the window only while there is something to say.
-QWidget* HeaderBar::makeMessage(Display& display, ChangeQueue& queue) {
-    auto* message = new TextLabel(display.linkMessageField, queue);
-    message->setFocusPolicy(Qt::StrongFocus);  // what it says to type can be copied
-    message->setContentsMargins(3 * gridStep, 2 * gridStep, 3 * gridStep, 2 * gridStep);
-    const auto show = [message, &field = display.linkMessageField] {
-        message->setVisible(!field.stringValue().empty());
-        QAccessibleEvent alert(message, QAccessible::Alert);
-        if (!field.stringValue().empty()) QAccessible::updateAccessibility(&alert);
-    };
-    display.linkMessageField.addView(queue, show);
-    show();
-    return message;
 }
 
 }  // namespace corvane

@@ -15,7 +15,6 @@ public:
 
 private:
     QWidget* makeStatusBlock(Display& display, ChangeQueue& queue);
-    QWidget* makeMessage(Display& display, ChangeQueue& queue);
 };
 
 }  // namespace corvane

@@ -3,6 +3,8 @@
 #include <QPlainTextEdit>
 
 #include "qt/window/control_texts.h"
+#include "qt/window/control_views.h"
+#include "qt/window/key_button.h"
 #include "qt/window/key_grid.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
@@ -37,15 +39,39 @@ Panel* sendPanel(Display& display, ChangeQueue& queue) {
     columns->addLayout(numberedKeys({display.textMemoryButtons.begin(), display.textMemoryButtons.end()}, queue), 2);
     columns->addWidget(logView(display.sentTextMemoryField, queue), 1);
     panel->content().addLayout(columns);
+    auto* typed = new QHBoxLayout;
+    typed->setSpacing(2 * gridStep);
+    auto* text = new TextFieldView(display.textMemoryField, queue);
+    text->setPlaceholderText("Text to transmit");
+    typed->addWidget(titleLabel(display.textMemoryField, *text));
+    typed->addWidget(text, 1);
+    for (Button* key : {&display.sendTextMemoryButton, &display.clearTextMemoryButton}) {
+        auto* view = new KeyButton(*key, queue);
+        view->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        typed->addWidget(view);
+    }
+    panel->content().addLayout(typed);
+    panel->content().addWidget(new NoticeLabel(display.textMemoryNoticeField, queue));
     panel->content().addLayout(keyGrid(display, KeyPanel::keyer, queue, 3));
     return panel;
 }
 
-Panel* familyPanel(const QString& title, std::deque<Button>& memories, ChangeQueue& queue) {
+Panel* familyPanel(const QString& title, std::deque<Button>& memories, TextField& text, PopUpButton& memory,
+                   ChangeQueue& queue) {
     auto* panel = new Panel(title);
     std::vector<Button*> keys;
-    for (Button& memory : memories) keys.push_back(&memory);
+    for (Button& key : memories) keys.push_back(&key);
     panel->content().addLayout(numberedKeys(keys, queue));
+    auto* editor = new QHBoxLayout;
+    editor->setSpacing(2 * gridStep);
+    auto* field = new TextFieldView(text, queue);
+    field->setPlaceholderText(toQString(text.outlet().title));
+    auto* popUp = new PopUpView(memory, queue);
+    popUp->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    editor->addWidget(field, 1);
+    editor->addWidget(titleLabel(memory, *popUp));
+    editor->addWidget(popUp);
+    panel->content().addLayout(editor);
     panel->content().addStretch();
     return panel;
 }
@@ -58,11 +84,18 @@ QWidget* makeKeyerPage(Display& display, ChangeQueue& queue) {
     grid->setContentsMargins(pageMargins);
     grid->setSpacing(4 * gridStep);
     grid->addWidget(sendPanel(display, queue), 0, 0, 1, 3);
-    grid->addWidget(familyPanel("CW memories", display.cwMemoryButtons, queue), 1, 0);
-    grid->addWidget(familyPanel("RTTY memories", display.rttyMemoryButtons, queue), 1, 1);
-    grid->addWidget(familyPanel("PSK memories", display.pskMemoryButtons, queue), 1, 2);
+    grid->addWidget(
+        familyPanel("CW memories", display.cwMemoryButtons, display.cwMemoryField, display.cwMemoryPopUpButton, queue),
+        1, 0);
+    grid->addWidget(familyPanel("RTTY memories", display.rttyMemoryButtons, display.rttyMemoryField,
+                                display.rttyMemoryPopUpButton, queue),
+                    1, 1);
+    grid->addWidget(familyPanel("PSK memories", display.pskMemoryButtons, display.pskMemoryField,
+                                display.pskMemoryPopUpButton, queue),
+                    1, 2);
     for (int column = 0; column < 3; ++column) grid->setColumnStretch(column, 1);
-    grid->setRowStretch(2, 1);
+    grid->addWidget(new NoticeLabel(display.memoryTextNoticeField, queue), 2, 0, 1, 3);
+    grid->setRowStretch(3, 1);
     return page;
 }
 

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "qt/window/control_texts.h"
+#include "qt/window/control_views.h"
 #include "qt/window/header_bar.h"
 #include "qt/window/pages.h"
 #include "qt/window/shortcuts.h"
@@ -42,8 +43,9 @@ MainWindow::MainWindow(SerialPortDemoController& controller) : controller_(contr
     chooseTheme(QString::fromStdString(controller_.userDefaults.text(themeKey).value_or("dark")));
     makeMenus();
     addShortcuts(*this, controller_.display);
-    auto* command = new QShortcut(QKeySequence(toQString(controller_.display.sendTextField.outlet().shortcut)), this);
-    connect(command, &QShortcut::activated, this, &MainWindow::focusCommandField);
+    addFieldShortcut(controller_.display.sendTextField, Display::stationPage);
+    addFieldShortcut(controller_.display.freqTextField, Display::radioPage);
+    addFieldShortcut(controller_.display.textMemoryField, Display::keyerPage);
     // The first thing to do is to connect: Space does it.
     if (auto* connectKey = findChild<QPushButton*>("openCloseButton")) connectKey->setFocus();
     resize(1280, 800);
@@ -62,6 +64,7 @@ void MainWindow::makePages() {
     pages->addPage("Station", [this, &display] { return makeStationPage(display, queue_); });
     pages->addPage("Radio", [this, &display] { return makeRadioPage(display, queue_); });
     pages->addPage("Keyer", [this, &display] { return makeKeyerPage(display, queue_); });
+    pages->addPage("Memories", [this, &display] { return makeMemoriesPage(display, queue_); });
     pages->addPage("Settings", [this, &display] { return makeSettingsPage(display, queue_); });
     pages->addPage("Help", [&display] { return makeHelpPage(display); });
     rows->addWidget(pages, 1);
@@ -80,10 +83,14 @@ void MainWindow::makeMenus() {
     program->addSeparator();
     program->addAction("&Quit", QKeySequence("Ctrl+Q"), this, &QWidget::close);
 
+    auto* presets = menuBar()->addMenu("P&resets");
+    addGroupedEntries(*presets, display.presetPopUpButton);
+
     auto* preferences = menuBar()->addMenu("&Preferences");
     preferences->setToolTipsVisible(true);
     addPreference(*preferences, display.menuItemPreferencesVoice);
     addPreference(*preferences, display.menuItemPreferencesSounds);
+    addPreference(*preferences, display.menuItemPreferencesIPO);
     preferences->addSeparator();
     auto* themes = new QActionGroup(this);
     for (const char* name : {"dark", "light"}) {
@@ -129,10 +136,15 @@ void MainWindow::addPreference(QMenu& menu, MenuItem& item) {
 
 void MainWindow::showPage(int index) { controller_.display.mainTab.selectItem(index); }
 
-void MainWindow::focusCommandField() {
-    showPage(Display::stationPage);
-    queue_.refresh();
-    if (auto* field = findChild<QLineEdit*>("sendTextField")) field->setFocus(Qt::ShortcutFocusReason);
+// Brings the field's page to the front and the keyboard into the field, its text marked to be typed over.
+void MainWindow::addFieldShortcut(const TextField& field, int page) {
+    auto* shortcut = new QShortcut(QKeySequence(toQString(field.outlet().shortcut)), this);
+    connect(shortcut, &QShortcut::activated, this, [this, &field, page] {
+        showPage(page);
+        queue_.refresh();
+        if (auto* view = findChild<QLineEdit*>(QString::fromStdString(field.objectName())))
+            view->setFocus(Qt::ShortcutFocusReason);
+    });
 }
 
 void MainWindow::chooseTheme(const QString& name) {

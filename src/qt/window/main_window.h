@@ -26,7 +26,7 @@ private:
     void addPreference(QMenu& menu, MenuItem& item);
     void makePages();
     void showPage(int index);
-    void focusCommandField();
+    void addFieldShortcut(const TextField& field, int page);
     void chooseTheme(const QString& name);
 
     SerialPortDemoController& controller_;

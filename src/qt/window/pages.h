@@ -10,6 +10,7 @@ namespace corvane {
 QWidget* makeStationPage(Display& display, ChangeQueue& queue);
 QWidget* makeRadioPage(Display& display, ChangeQueue& queue);
 QWidget* makeKeyerPage(Display& display, ChangeQueue& queue);
+QWidget* makeMemoriesPage(Display& display, ChangeQueue& queue);
 QWidget* makeSettingsPage(Display& display, ChangeQueue& queue);
 QWidget* makeHelpPage(Display& display);
 

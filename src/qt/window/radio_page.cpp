@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "qt/window/control_views.h"
+#include "qt/window/key_button.h"
 #include "qt/window/key_grid.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
@@ -35,6 +36,13 @@ Panel* keysPanel(const QString& title, Display& display, KeyPanel keys, ChangeQu
     return panel;
 }
 
+// Pressing it leaves the keyboard in the field.
+KeyButton* tuneKey(Display& display, ChangeQueue& queue) {
+    auto* key = new KeyButton(display.tuneButton, queue);
+    key->setFocusPolicy(Qt::TabFocus);
+    return key;
+}
+
 Panel* tuningPanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel("Tuning");
     auto* row = new QHBoxLayout;
@@ -44,6 +52,8 @@ Panel* tuningPanel(Display& display, ChangeQueue& queue) {
     frequency->setMinimumWidth(QFontMetrics(frequency->font()).horizontalAdvance("50.0000") + 6 * gridStep);
     row->addWidget(frequency, 2);
     row->addWidget(titleLabel(display.freqTextField, *frequency));
+    row->addWidget(tuneKey(display, queue));
+    row->addWidget(new GroupedPopUpView(display.presetPopUpButton), 1);
     panel->content().addLayout(row);
     panel->content().addLayout(keyGrid(display, KeyPanel::steps, queue, 4));
     panel->content().addLayout(keyGrid(display, KeyPanel::vfo, queue, 4));
@@ -66,9 +76,9 @@ Panel* receiverPanel(Display& display, ChangeQueue& queue) {
 
 Panel* transmitterPanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel("Transmitter and knobs");
-    panel->content().addLayout(
-        popUpGrid({&display.powerPopUpButton, &display.smeterPopUpButton, &display.MPVDButton, &display.FuncKnobButton},
-                  queue, 1));
+    panel->content().addLayout(popUpGrid({&display.powerPopUpButton, &display.smeterPopUpButton, &display.MPVDButton,
+                                          &display.FuncKnobButton, &display.APOPopUpButton},
+                                         queue, 1));
     panel->content().addStretch();
     return panel;
 }

@@ -16,10 +16,13 @@ std::vector<ShortcutText> shortcutTexts(Display& display) {
     std::vector<ShortcutText> texts{
         {"F1", "This page"},
         {"Ctrl+Q", "Quit"},
-        {"Alt+1 to Alt+5", "Pages"},
+        {"Alt+1 to Alt+6", "Pages"},
         {"Tab, Shift+Tab", "Next and previous control"},
         textOf(display.openCloseButton.outlet()),
         textOf(display.sendTextField.outlet()),
+        textOf(display.freqTextField.outlet()),
+        textOf(display.textMemoryField.outlet()),
+        textOf(display.autoMemoryNowButton.outlet()),
     };
     for (const FrontPanelKey& key : frontPanelKeys)
         if (!key.outlet.shortcut.empty()) texts.push_back(textOf(key.outlet));
@@ -33,6 +36,7 @@ void addShortcuts(QWidget& window, Display& display) {
         QObject::connect(shortcut, &QShortcut::activated, &window, [&button] { button.performClick(); });
     };
     add(display.openCloseButton, false);
+    add(display.autoMemoryNowButton, false);
     // Only the steps repeat while they are held: nothing else should go out many times by accident.
     for (const FrontPanelKey& key : frontPanelKeys)
         if (!key.outlet.shortcut.empty()) add(display.key(key.outlet.tag), key.panel == KeyPanel::steps);

@@ -33,7 +33,6 @@ Panel* linkPanel(Display& display, ChangeQueue& queue) {
     grid->addWidget(speed, 1, 1);
     grid->addWidget(new TextLabel(display.portDetailsField, queue), 2, 1);
     grid->addWidget(new KeyButton(display.openCloseButton, queue), 3, 1);
-    grid->addWidget(new KeyButton(display.readMemoriesButton, queue), 4, 1);
     grid->setColumnStretch(1, 1);
     panel->content().addLayout(grid);
     panel->content().addStretch();
@@ -72,6 +71,24 @@ Panel* commandPanel(Display& display, ChangeQueue& queue) {
     return panel;
 }
 
+Panel* callPanel(Display& display, ChangeQueue& queue) {
+    auto* panel = new Panel("Operator");
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * gridStep);
+    auto* field = new TextFieldView(display.callTextField, queue);
+    field->setPlaceholderText("N0CALL");
+    auto* save = new KeyButton(display.saveCallButton, queue);
+    save->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    row->addWidget(titleLabel(display.callTextField, *field));
+    row->addWidget(field, 1);
+    row->addWidget(save);
+    panel->content().addLayout(row);
+    panel->content().addWidget(new NoticeLabel(display.callNoticeField, queue));
+    panel->content().addWidget(richText("Written into the transceiver's own menu, in capitals."));
+    panel->content().addStretch();
+    return panel;
+}
+
 }  // namespace
 
 QWidget* makeStationPage(Display& display, ChangeQueue& queue) {
@@ -81,7 +98,8 @@ QWidget* makeStationPage(Display& display, ChangeQueue& queue) {
     grid->setSpacing(4 * gridStep);
     grid->addWidget(linkPanel(display, queue), 0, 0);
     grid->addWidget(firstStepsPanel(), 0, 1);
-    grid->addWidget(commandPanel(display, queue), 1, 0, 1, 2);
+    grid->addWidget(commandPanel(display, queue), 1, 0);
+    grid->addWidget(callPanel(display, queue), 1, 1);
     auto* lists = new Panel("On-line lists");
     lists->content().addLayout(keyGrid(display, KeyPanel::lists, queue, 6));
     grid->addWidget(lists, 2, 0, 1, 2);

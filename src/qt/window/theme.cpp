@@ -132,6 +132,13 @@ QString Theme::styleSheet() const {
                "QComboBox QAbstractItemView { background: %6; color: %3; selection-background-color: %4;"
                " border: 1px solid %1; }"
                "QPlainTextEdit { background: %5; color: %3; border: 1px solid %1; border-radius: 5px; padding: 4px; }"
+               "QTableView { background: %6; alternate-background-color: %7; color: %3; border: 1px solid %1;"
+               " border-radius: 5px; selection-background-color: %5; selection-color: %3; }"
+               "QTableView:focus { border: 1px solid %4; }"
+               "QHeaderView::section { background: %6; color: %2; border: 0; border-bottom: 1px solid %1;"
+               " padding: 5px 4px; }"
+               "QProgressBar#memoryReadProgress { background: %5; border: 0; border-radius: 3px; max-height: 6px; }"
+               "QProgressBar#memoryReadProgress::chunk { background: %4; border-radius: 3px; }"
                "QMenuBar { background: %7; } QMenuBar::item { padding: 5px 10px; background: transparent; }"
                "QMenuBar::item:selected { background: %4; color: %9; border-radius: 4px; }"
                "QMenu { background: %6; border: 1px solid %1; padding: 4px; }"
@@ -143,7 +150,7 @@ QString Theme::styleSheet() const {
                "24px; }"
                "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
                "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }"
-               "#linkMessageField { background: %8; }"
+               "QLabel[notice=\"true\"] { background: %8; }"
                "QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: 0; }")
         .arg(line.name(), quietText.name(), text.name(), accent.name(), key.name(), panel.name(), window.name(),
              warning.name(), readableOn(accent).name());

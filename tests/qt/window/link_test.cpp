@@ -153,7 +153,7 @@ TEST(LinkTest, PullingThePlugIsSaidAndShown) {
     EXPECT_EQ(message->accessibleName(), "Message, " + message->text());
     EXPECT_EQ(station.find<QLabel>("linkStatusField")->text(), "Not connected");
     EXPECT_EQ(station.find("openCloseButton")->text(), "Connect");
-    EXPECT_FALSE(station.find("readMemoriesButton")->isEnabled());
+    EXPECT_FALSE(station.display.readMemoriesButton.enabled());
     station.click("m20Button");  // goes nowhere, and does no harm
     EXPECT_EQ(station.controller.link.serialPort, nullptr);
 }

@@ -69,6 +69,7 @@ private:
         qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/such/socket");
         QtPlatformOptions made;
         made.settingsPath = folder.filePath("corvane.conf");
+        made.dataPath = folder.filePath("data");
         made.soundsFolder = folder.path().toStdString();
         made.extraPorts = {radio.terminal->path()};
         made.schedulerSpeed = speed;

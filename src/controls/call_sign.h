@@ -1,0 +1,15 @@
+// The operator's call sign in the transceiver's menu.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace corvane {
+
+std::string upperCase(std::string_view text);  // ASCII letters; every other byte stays
+
+// What stores a call sign: in upper case, without white space at its ends, in exactly twelve characters: " n0call "
+// gives "EX040101N0CALL      ;".
+std::string callSignCommand(std::string_view text);
+
+}  // namespace corvane

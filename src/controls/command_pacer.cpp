@@ -1,0 +1,20 @@
+#include "controls/command_pacer.h"
+
+#include <utility>
+
+namespace corvane {
+
+void CommandPacer::submit(std::string command) {
+    if (pausing_) {
+        waiting_ = std::move(command);
+        return;
+    }
+    pausing_ = true;
+    later_(interval, [this] {
+        pausing_ = false;
+        if (waiting_) submit(*std::exchange(waiting_, std::nullopt));
+    });
+    send_(std::move(command));
+}
+
+}  // namespace corvane

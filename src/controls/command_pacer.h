@@ -1,0 +1,34 @@
+// Keeps a control that is dragged from sending more than the line carries: at most one command in 50 ms, and always
+// the last one given.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "platform/scheduler.h"
+
+namespace corvane {
+
+class CommandPacer {
+public:
+    using Send = std::function<void(std::string command)>;
+    using Later = std::function<void(Scheduler::Duration, std::function<void()>)>;
+
+    static constexpr Scheduler::Duration interval{50};
+
+    // `later` runs its task no longer than the pacer lives.
+    CommandPacer(Send send, Later later) : send_(std::move(send)), later_(std::move(later)) {}
+
+    // Sends the command at once, or as soon as the one before it is 50 ms old; only the latest of those that wait is
+    // sent. "AG0080;", "AG0085;", "AG0090;" within 50 ms send the first and the last.
+    void submit(std::string command);
+
+private:
+    Send send_;
+    Later later_;
+    bool pausing_ = false;
+    std::optional<std::string> waiting_;
+};
+
+}  // namespace corvane

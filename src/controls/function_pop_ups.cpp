@@ -1,0 +1,111 @@
+// The function pop-ups and sliders: each sends what its position stands for. The display follows when the transceiver
+// reports.
+#include "controller/serial_port_demo_controller.h"
+#include "controls/function_commands.h"
+#include "interpret/setting_codes.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr int scopeSpeedTag = 2000;
+constexpr int scopePeakTag = 2001;
+constexpr int scopeLevelTag = 2004;
+constexpr int scopeSpanTag = 2005;
+constexpr int powerOffTag = 2006;
+constexpr int powerTag = 2007;
+constexpr int firstEditorTag = 3001;
+constexpr int lastEditorTag = 3003;
+
+}  // namespace
+
+// A position that stands for nothing sends nothing; above all not the command before it.
+void SerialPortDemoController::sendBuilt(std::string command) {
+    if (command.empty()) return;
+    link.cmd = std::move(command);
+    sendCommand(link.cmd);
+}
+
+void SerialPortDemoController::goMode(PopUpButton& sender) {
+    const std::string command = modeCommand(sender.indexOfSelectedItem());
+    if (command.empty()) return;
+    sendBuilt(command);
+    speak(sender.titleOfSelectedItem());
+}
+
+void SerialPortDemoController::goMemory(PopUpButton& sender) {
+    const int index = sender.indexOfSelectedItem();
+    std::string command = memoryCommand(index);
+    if (command.empty()) return;
+    if (preferences.vqMemoryIPO == "1") command += "PA00;";
+    sendBuilt(std::move(command));
+    if (index < memoryChannels) speak(memories.vqMemArray[static_cast<std::size_t>(index)].tag);
+}
+
+void SerialPortDemoController::goColor(PopUpButton& sender) {
+    sendCommand(scopeColorCommand(sender.indexOfSelectedItem()));
+}
+
+void SerialPortDemoController::goSpectrumMode(PopUpButton& sender) {
+    sendCommand(spectrumModeCommand(sender.indexOfSelectedItem()));
+}
+
+void SerialPortDemoController::goSmeter(PopUpButton& sender) {
+    sendBuilt(indexCommand("MS", sender.indexOfSelectedItem(), "0;"));
+}
+
+void SerialPortDemoController::goAmp(PopUpButton& sender) {
+    sendBuilt(indexCommand("PA0", sender.indexOfSelectedItem(), ";"));
+}
+
+void SerialPortDemoController::goAGC(PopUpButton& sender) {
+    sendBuilt(indexCommand("GT0", sender.indexOfSelectedItem(), ";"));
+}
+
+void SerialPortDemoController::goATT(PopUpButton& sender) {
+    sendBuilt(indexCommand("RA0", sender.indexOfSelectedItem(), ";"));
+}
+
+void SerialPortDemoController::goRFIL(PopUpButton& sender) {
+    sendBuilt(roofingFilterCommand(sender.indexOfSelectedItem()));
+}
+
+void SerialPortDemoController::goDNR(PopUpButton& sender) {
+    sendBuilt(noiseReductionCommand(sender.indexOfSelectedItem()));
+}
+
+void SerialPortDemoController::goNB(PopUpButton& sender) {
+    sendBuilt(noiseBlankerCommand(sender.indexOfSelectedItem()));
+}
+
+void SerialPortDemoController::goFunctionKnob(PopUpButton& sender) {
+    sendBuilt(functionKnobCommand(sender.indexOfSelectedItem()));
+}
+
+void SerialPortDemoController::goMPVD(PopUpButton& sender) {
+    sendBuilt(multiKnobCommand(sender.indexOfSelectedItem()));
+}
+
+void SerialPortDemoController::goAF(Slider& sender) { afGainPacer_.submit(gainCommand("AG0", sender.integerValue())); }
+
+void SerialPortDemoController::goRF(Slider& sender) { rfGainPacer_.submit(gainCommand("RG0", sender.integerValue())); }
+
+void SerialPortDemoController::goSuperPopUp(PopUpButton& sender) {
+    const int index = sender.indexOfSelectedItem();
+    const int tag = sender.tag();
+    if (tag == scopeSpeedTag) return sendBuilt(indexCommand("SS00", index, "0000;"));
+    if (tag == scopePeakTag) return sendBuilt(indexCommand("SS01", index, "0000;"));
+    if (tag == scopeLevelTag) {
+        const std::string_view level = index < 0 ? "+00.0" : sender.titleOfSelectedItem();
+        return sendBuilt("SS04" + std::string(level) + ';');
+    }
+    if (tag == scopeSpanTag) return sendBuilt(indexCommand("SS05", index, "0000;"));
+    if (tag == powerOffTag) return planPowerOff(index);
+    if (tag == powerTag && index >= 0) {
+        sendBuilt(powerCommand(index));
+        return speak(std::to_string(index + lowestPower) + " watts");
+    }
+    if (firstEditorTag <= tag && tag <= lastEditorTag) writeMemoryText(sender);
+}
+
+}  // namespace corvane

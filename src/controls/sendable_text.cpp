@@ -1,0 +1,21 @@
+#include "controls/sendable_text.h"
+
+#include "radio/utf8.h"
+
+namespace corvane {
+
+std::string refusal(std::string_view text) {
+    constexpr unsigned char space = 0x20, deleted = 0x7f;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto c = static_cast<unsigned char>(text[i]);
+        if (c == ';') return "The transceiver cannot hold \";\".";
+        if (c < space || c == deleted)
+            return "The transceiver cannot hold line ends, tabs and other control characters.";
+        if (c > deleted)
+            return "The transceiver cannot hold \"" + std::string(utf8Prefix(text.substr(i), 1)) +
+                   "\": only unaccented letters, figures and signs.";
+    }
+    return {};
+}
+
+}  // namespace corvane

@@ -1,0 +1,27 @@
+#include "controls/text_messages.h"
+
+#include "radio/utf8.h"
+
+namespace corvane {
+
+std::vector<std::string_view> textPieces(std::string_view text) {
+    std::vector<std::string_view> pieces;
+    do {
+        pieces.push_back(utf8Prefix(text, textPieceLength));
+        text.remove_prefix(pieces.back().size());
+    } while (!text.empty());
+    const bool usedUp = utf8Prefix(pieces.back(), textPieceLength - 1) != pieces.back();
+    if (usedUp) pieces.push_back(text);
+    return pieces;
+}
+
+std::string storeScratch(const ModeGroup& family, std::string_view text) {
+    return std::string(family.storeCommand).append(std::to_string(scratchMemory)).append(text).append("};");
+}
+
+std::string storeAndReadBack(const ModeGroup& family, int memory, std::string_view text) {
+    const std::string name = std::string(family.storeCommand) + std::to_string(memory);
+    return name + std::string(utf8Prefix(text, textPieceLength)) + ';' + name + ';';
+}
+
+}  // namespace corvane

@@ -1,0 +1,34 @@
+#include "controls/typed_frequency.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "radio/wire_text.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr double lowest = 0.03;  // MHz
+constexpr double highest = 75.0;
+constexpr double lowestUpperSideBand = 10.0;
+
+// A number typed with six decimals is a whole number of hertz, which binary fractions may miss by a hair.
+constexpr double hair = 1e-6;  // Hz
+
+}  // namespace
+
+TypedFrequency typedFrequency(std::string_view text) {
+    using Verdict = TypedFrequency::Verdict;
+    text = trimmed(text);
+    text.remove_prefix(std::min(text.find_first_not_of('0'), text.size()));
+    double megahertz = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), megahertz);
+    const bool number = error == std::errc{} && end == text.data() + text.size() && std::isfinite(megahertz);
+    if (!number || megahertz < lowest) return {};
+    if (megahertz > highest) return {Verdict::tooHigh};
+    return {Verdict::accepted, static_cast<int>(megahertz * 1'000'000 + hair), megahertz >= lowestUpperSideBand};
+}
+
+}  // namespace corvane

@@ -1,0 +1,29 @@
+// A frequency as the operator types it: in megahertz, with a decimal point.
+#pragma once
+
+#include <string_view>
+
+namespace corvane {
+
+struct TypedFrequency {
+    enum class Verdict { accepted, tooLowOrNoNumber, tooHigh };
+
+    Verdict verdict = Verdict::tooLowOrNoNumber;
+    int hertz = 0;               // of an accepted one, cut to whole hertz
+    bool upperSideBand = false;  // the side band that is usual there: upper from 10 MHz on
+
+    bool operator==(const TypedFrequency&) const = default;
+};
+
+// "14.235", "014.235" and " 14.235 " give 14235000 Hz, "7.0741505" 7074150. Accepted is 0.03 to 75, both included. A
+// comma, a unit, a sign, words and nothing at all are no numbers.
+TypedFrequency typedFrequency(std::string_view text);
+
+struct EntryWarning {
+    std::string_view message;
+    std::string_view detail;
+};
+inline constexpr EntryWarning frequencyTooLow{"Frequency must be in MHz and greater than 0.03", "Example: 0.860"};
+inline constexpr EntryWarning frequencyTooHigh{"Frequency must be in MHz and less than 75.0", "Example: 14.235"};
+
+}  // namespace corvane

@@ -1,0 +1,46 @@
+#include "memories/memory_backup.h"
+
+#include <array>
+#include <cstdio>
+#include <ctime>
+
+#include "memories/memory_commands.h"
+#include "memories/table_cells.h"
+#include "radio/operating_modes.h"
+
+namespace corvane {
+
+namespace {
+
+std::string quoted(std::string text) {
+    text.erase(text.find_last_not_of(' ') + 1);
+    if (text.find_first_of(",\"") == std::string::npos) return text;
+    std::string result = "\"";
+    for (const char c : text) result.append(c == '"' ? "\"\"" : std::string(1, c));
+    return result + '"';
+}
+
+}  // namespace
+
+std::string memoryTableCsv(const MemoryTable& table) {
+    std::string csv = "Location,Name,Frequency,Mode\n";
+    for (std::size_t row = 0; row < table.size(); ++row) {
+        const MemoryChannel& channel = table[row];
+        if (!isProgrammed(channel)) continue;
+        const std::string mode(modeName(channel.mode.empty() ? ' ' : channel.mode.front()).value_or(channel.mode));
+        csv += std::to_string(row + 1) + ',' + quoted(channel.tag) + ',' + shownMemoryFrequency(channel.frequency) +
+               ',' + quoted(mode) + '\n';
+    }
+    return csv;
+}
+
+std::string memoryBackupName(std::chrono::system_clock::time_point when) {
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(when);
+    std::tm utc{};
+    gmtime_r(&seconds, &utc);
+    std::array<char, 64> name{};
+    std::strftime(name.data(), name.size(), "memory-channels/%Y-%m-%dT%H%M%SZ.csv", &utc);
+    return name.data();
+}
+
+}  // namespace corvane

@@ -1,0 +1,40 @@
+// The memory channels on the wire: requests, replies and writes.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "memories/memory_state.h"
+
+namespace corvane {
+
+// "MR" asks for frequency and mode of a channel, "MT" for its tag: memoryRequest("MR", 7) is "MR007;".
+std::string memoryRequest(std::string_view name, int channel);
+
+// A reply without its ";": "MR001014250000+000000210000". Positions that a short reply does not have are filled from
+// what it has; the channel is 0 unless it is a number from 1 to 99.
+struct MemoryReply {
+    int channel = 0;
+    std::string_view frequency;  // nine digits of hertz in a whole reply
+    std::string_view mode;       // mode code, one character
+};
+MemoryReply memoryReply(std::string_view reply);
+
+// "MT0011CALLING     ": the channel as above, and the tag, twelve characters in a whole reply.
+struct TagReply {
+    int channel = 0;
+    std::string_view tag;
+};
+TagReply tagReply(std::string_view reply);
+
+// A row whose frequency has nine characters holds something; any other is empty.
+bool isProgrammed(const MemoryChannel& row);
+
+// What writes row i, counted from 0. A programmed row gives two commands, frequency with mode and then the tag:
+// "MW005007074000+000000210000;" and "MT0051FT8         ;". An empty row gives the one that erases its channel and no
+// tag.
+std::string memoryWriteCommand(int row, const MemoryChannel& channel);
+std::optional<std::string> tagWriteCommand(int row, const MemoryChannel& channel);
+
+}  // namespace corvane
