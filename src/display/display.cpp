@@ -35,6 +35,12 @@ constexpr Outlet memoryReadProgressOutlet{"memoryReadProgress", 0, "", "Reading 
 
 constexpr std::string_view editorMemories = "|1|2|3|4|5";  // a blank one, then their numbers
 
+// A pop-up that shows the program's own state stands on its first entry.
+void fill(PopUpButton& popUp, std::vector<std::string> entries) {
+    popUp.setEntries(std::move(entries));
+    popUp.selectItem(0);
+}
+
 std::deque<Button> makeKeys() {
     std::deque<Button> keys;
     for (const FrontPanelKey& key : frontPanelKeys) keys.emplace_back(key.outlet);
@@ -52,8 +58,10 @@ Display::Display()
       memoryReadProgress(memoryReadProgressOutlet, memoryReadSteps),
       autoMemTable(autoMemTableOutlet, autoMemTableColumns) {
     for (PopUpButton* popUp : {&cwMemoryPopUpButton, &rttyMemoryPopUpButton, &pskMemoryPopUpButton})
-        popUp->setEntries(entryList(editorMemories));
+        fill(*popUp, entryList(editorMemories));
     memoryReadProgress.setVisible(false);
+    // The synchronisation does not ask for it, and a nudge from 0 would make the receiver deaf.
+    rfGainSlider.setIntegerValue(rfGainSlider.maximum());
     modesPopUpButton.setEntries(entryList(modeEntries));
     AGCPopUpButton.setEntries(entryList(agcEntries));
     ATTPopUpButton.setEntries(entryList(attenuatorEntries));
@@ -64,7 +72,7 @@ Display::Display()
     smeterPopUpButton.setEntries(entryList(meterEntries));
     MPVDButton.setEntries(entryList(multiKnobEntries));
     FuncKnobButton.setEntries(entryList(functionKnobEntries));
-    APOPopUpButton.setEntries(powerOffEntries());
+    fill(APOPopUpButton, powerOffEntries());
     colorPopUpButton.setEntries(scopeColorEntries());
     spectrumModePopUpButton.setEntries(entryList(spectrumModeEntries));
     scopeSpeedPopUpButton.setEntries(entryList(scopeSpeedEntries));

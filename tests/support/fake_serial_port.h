@@ -1,6 +1,7 @@
 // A port that keeps what is written to it and reports as a real one does, at once.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -52,6 +53,7 @@ public:
         if (!open_) return;
         note(bytes);
         written.emplace_back(bytes);
+        if (onWrite) onWrite(bytes);
     }
     void setDelegate(ORSSerialPortDelegate* delegate) override {
         note(delegate ? "attach" : "detach");
@@ -71,8 +73,9 @@ public:
     }
 
     Line line;
-    std::vector<std::string> written;            // one entry per write
-    std::optional<SerialPortError> openFailure;  // what open() comes to
+    std::vector<std::string> written;               // one entry per write
+    std::function<void(std::string_view)> onWrite;  // what hangs on the other end
+    std::optional<SerialPortError> openFailure;     // what open() comes to
 
 private:
     void note(std::string_view what) {

@@ -37,6 +37,12 @@ public:
     void press(int firstTag) { display.key(firstTag).performClick(); }
     void advance(Scheduler::Duration time) { around.scheduler.advance(time); }
 
+    // Lets the steps after the opening pass, as if nothing had answered.
+    void outlastOpening() {
+        advance(std::chrono::seconds(13));
+        forgetWhatHappened();
+    }
+
     // Each gives what has happened since it was asked last.
     Writes takeWrites() { return std::exchange(port->written, {}); }
     std::vector<std::string> takeSpoken() { return std::exchange(around.speech.spoken, {}); }

@@ -142,6 +142,7 @@ ProgressView::ProgressView(LevelIndicator& model, ChangeQueue& queue, QWidget* p
 GroupedPopUpView::GroupedPopUpView(PopUpButton& model, QWidget* parent) : QPushButton(parent) {
     describe(*this, model);
     setText(toQString(model.outlet().title));
+    setProperty("menu", true);
     setFont(typeface(TypeSize::key, QFont::DemiBold));
     auto* menu = new QMenu(this);
     menu->setAccessibleName(labelOf(model));

@@ -1,0 +1,129 @@
+#include <gmock/gmock.h>
+
+#include "tests/support/radio_bench.h"
+
+namespace corvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct KeyerBench : TestBench {
+    explicit KeyerBench(std::string_view mode, std::string_view reports = "") {
+        receive(std::string(mode).append(reports));
+        forgetWhatHappened();
+    }
+    Writes send(std::string_view text) {
+        display.textMemoryField.edit(text);
+        display.textMemoryField.performReturn();
+        return takeWrites();
+    }
+};
+
+TEST(Keyer, ATypedTextGoesThroughMemoryFiveInPieces) {
+    const std::string first(49, 'A');
+    const struct {
+        std::string_view mode, reports;
+        std::string text;
+        Writes written;
+    } cases[] = {
+        {"MD06;",
+         "EM05CQ CQ;",
+         first + "BCDEFGHIJKL",
+         {"EM05" + first + "};", "EN05;", "EM05BCDEFGHIJKL};", "EN05;", "EM05CQ CQ};"}},
+        {"MD07;", "KM5TEST;", first, {"KM5" + first + "};", "KYA;", "KM5};", "KYA;", "KM5TEST};"}},
+        {"MD0E;", "", "73", {"EM1573};", "EN15;", "EM15};"}},
+        {"MD03;", "KM5TEST;", "", {"KM5};", "KYA;", "KM5TEST};"}},
+        // All memories have been read: another family's fifth was reported last.
+        {"MD09;", "KM5CW;EM05RTTY;EM15PSK;", "RYRY", {"EM05RYRY};", "EN05;", "EM05RTTY};"}},
+    };
+    for (const auto& message : cases) {
+        KeyerBench bench(message.mode, message.reports);
+        bench.display.sentTextMemoryField.setStringValue("before");
+        EXPECT_EQ(bench.send(message.text), message.written) << message.text;
+        EXPECT_EQ(bench.display.sentTextMemoryField.stringValue(), message.text + "\nbefore");
+        EXPECT_EQ(bench.display.textMemoryField.stringValue(), "");
+    }
+}
+
+TEST(Keyer, ALongTextIsOnTheAirAndMemoryFiveIsAsItWas) {
+    simulator::RadioState state = simulator::startState();
+    ASSERT_TRUE(state.texts.store(simulator::TextFamily::rtty, 5, "RYRY DE N0CALL"));
+    RadioBench bench(state);
+    ASSERT_TRUE(bench.transceiver.setMode('6'));
+    bench.settle();
+    std::string text;
+    for (char c = 'A'; text.size() < 60; c = c == 'Z' ? 'A' : static_cast<char>(c + 1)) text += c;
+    bench.display.textMemoryField.edit(text);
+    bench.display.sendTextMemoryButton.performClick();
+    bench.settle();
+    bench.transceiver.advanceTo(std::chrono::minutes(1));
+    EXPECT_THAT(bench.transceiver.textsOnAir(), ElementsAre(text.substr(0, 49), text.substr(49)));
+    EXPECT_EQ(bench.transceiver.ask("EM05;"), "EM05RYRY DE N0CALL;");
+}
+
+TEST(Keyer, TextThatTheTransceiverCannotHoldIsRefusedAndKept) {
+    for (const std::string_view text : {"CQ;PS0", "GR\u00dcSSE", "CQ\nTEST", "\x7f", "\t"}) {
+        KeyerBench bench("MD03;");
+        EXPECT_THAT(bench.send(text), IsEmpty()) << text;
+        EXPECT_EQ(bench.display.textMemoryField.stringValue(), text);
+        EXPECT_NE(bench.display.textMemoryNoticeField.stringValue(), "");
+        EXPECT_EQ(bench.display.sentTextMemoryField.stringValue(), "");
+        bench.display.cwMemoryField.edit(text);
+        bench.display.cwMemoryPopUpButton.choose(2);
+        EXPECT_THAT(bench.takeWrites(), IsEmpty()) << text;
+        EXPECT_EQ(bench.display.cwMemoryField.stringValue(), text);
+        EXPECT_NE(bench.display.memoryTextNoticeField.stringValue(), "");
+        bench.display.textMemoryField.edit("CQ");
+        EXPECT_EQ(bench.display.textMemoryNoticeField.stringValue(), "") << "mended while it is typed";
+    }
+}
+
+TEST(Keyer, OutsideItsModesNothingIsSentAndNothingIsLost) {
+    KeyerBench bench("MD02;");
+    bench.controller.link.cmd = "KY6;";
+    EXPECT_THAT(bench.send("CQ"), IsEmpty());
+    bench.controller.sendTextMessage(bench.display.sendTextMemoryButton);
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
+    EXPECT_EQ(bench.display.textMemoryField.stringValue(), "CQ");
+    EXPECT_EQ(bench.display.sentTextMemoryField.stringValue(), "");
+}
+
+TEST(Keyer, AnEditorStoresItsTextAndAsksForItBack) {
+    const struct {
+        TextField Display::*text;
+        PopUpButton Display::*memory;
+        int entry;
+        std::string typed;
+        Writes written;
+    } cases[] = {
+        {&Display::cwMemoryField, &Display::cwMemoryPopUpButton, 2, "CQ TEST", {"KM2CQ TEST;", "KM2;"}},
+        {&Display::rttyMemoryField, &Display::rttyMemoryPopUpButton, 5, "RY", {"EM05RY;", "EM05;"}},
+        {&Display::pskMemoryField,
+         &Display::pskMemoryPopUpButton,
+         1,
+         std::string(60, 'X'),
+         {"EM11" + std::string(49, 'X') + ";", "EM11;"}},
+        {&Display::cwMemoryField, &Display::cwMemoryPopUpButton, 0, "CQ TEST", {}},
+    };
+    for (const auto& editor : cases) {
+        KeyerBench bench("MD02;");
+        TextField& field = bench.display.*editor.text;
+        field.edit(editor.typed);
+        (bench.display.*editor.memory).choose(editor.entry);
+        EXPECT_EQ(bench.takeWrites(), editor.written);
+        EXPECT_EQ(field.stringValue(), editor.entry == 0 ? editor.typed : "");
+    }
+}
+
+TEST(Keyer, TheClearKeyEmptiesWhatIsTyped) {
+    KeyerBench bench("MD03;");
+    bench.display.textMemoryField.edit("CQ;");
+    bench.display.clearTextMemoryButton.performClick();
+    EXPECT_EQ(bench.display.textMemoryField.stringValue(), "");
+    EXPECT_EQ(bench.display.textMemoryNoticeField.stringValue(), "");
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace corvane

@@ -1,0 +1,157 @@
+#include <gmock/gmock.h>
+
+#include "tests/support/radio_bench.h"
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const MemoryChannel unread;
+
+// The 200 requests of a whole read: of both kinds the first channel twice, then every other one.
+Writes wholeRead() {
+    Writes requests;
+    for (const char* name : {"MR", "MT"}) {
+        for (int count = 0; count <= 99; ++count) {
+            char request[16];
+            std::snprintf(request, sizeof request, "%s%03d;", name, std::max(1, count));
+            requests.emplace_back(request);
+        }
+    }
+    return requests;
+}
+
+std::string popUpTitle(TestBench& bench, int channel) {
+    return bench.display.memPopUpButton.entries()[static_cast<std::size_t>(channel - 1)];
+}
+
+// A transceiver with channels 1 and 3 programmed and all others empty.
+simulator::RadioState twoChannels() {
+    simulator::RadioState state = simulator::startState();
+    for (int channel = 1; channel <= memoryChannels; ++channel) state.memories.clear(channel);
+    state.memories.write(1, {14'250'000, '2'});
+    state.memories.writeTag(1, "CALLING", true);
+    state.memories.write(3, {7'074'000, 'C'});
+    state.memories.writeTag(3, "40M FT8, QRP", true);
+    return state;
+}
+
+TEST(MemoryRead, AsksForEveryChannelInOrderAndFillsTableAndPopUp) {
+    RadioBench bench(twoChannels());
+    bench.display.memPopUpButton.selectItem(2);
+    bench.display.readMemoriesButton.performClick();
+    bench.settle();
+    EXPECT_EQ(bench.takeWrites(), wholeRead());
+    const MemoryTable& table = bench.controller.memories.vqMemArray;
+    for (int row = 0; row < memoryChannels; ++row) {
+        MemoryChannel expected = unread;
+        if (row == 0) expected = {"014250000", "2", "CALLING     "};
+        if (row == 2) expected = {"007074000", "C", "40M FT8, QRP"};
+        EXPECT_EQ(table[static_cast<std::size_t>(row)], expected) << row;
+    }
+    EXPECT_EQ(popUpTitle(bench, 1), "M-01 CALLING     ");
+    EXPECT_EQ(popUpTitle(bench, 2), "M-02  ");
+    EXPECT_EQ(popUpTitle(bench, 3), "M-03 40M FT8, QRP");
+    EXPECT_EQ(popUpTitle(bench, 99), "M-99  ");
+    EXPECT_EQ(bench.display.memPopUpButton.entries().size(), 99U);
+    EXPECT_EQ(bench.display.memPopUpButton.indexOfSelectedItem(), 2);
+    EXPECT_THAT(bench.takeSounds(), ElementsAre("file Funk"));
+    EXPECT_EQ(bench.display.memoryReadField.stringValue(), "Read: 2 channels programmed, 97 empty");
+    EXPECT_FALSE(bench.display.memoryReadProgress.visible());
+
+    const TableView& shown = bench.display.memoriesTable;
+    ASSERT_EQ(shown.rows(), 99);
+    const auto row = [&](int index) {
+        Writes cells;
+        for (int column = 0; column < 4; ++column) cells.push_back(shown.cell(index, column));
+        return cells;
+    };
+    EXPECT_THAT(row(0), ElementsAre("M-01", "14.250000", "USB", "CALLING     "));
+    EXPECT_THAT(row(2), ElementsAre("M-03", "7.074000", "DATA-U", "40M FT8, QRP"));
+    EXPECT_THAT(row(98), ElementsAre("M-99", "", "", " "));
+}
+
+TEST(MemoryRead, ShowsHowFarItHasComeAndWhenItHasStopped) {
+    TestBench bench;
+    bench.outlastOpening();
+    const auto progress = [&] {
+        return bench.display.memoryReadField.stringValue() + " " +
+               std::to_string(bench.display.memoryReadProgress.integerValue());
+    };
+    bench.display.readMemoriesButton.performClick();
+    EXPECT_EQ(progress(), "Reading frequencies, channel 1 of 99 0");
+    EXPECT_TRUE(bench.display.memoryReadProgress.visible());
+    for (int reply = 0; reply < 37; ++reply) bench.receive("?;");
+    EXPECT_EQ(progress(), "Reading frequencies, channel 37 of 99 37");
+    bench.advance(6s);
+    EXPECT_EQ(progress(), "Reading frequencies, channel 37 of 99: no answer. Press Read memories to start again. 37");
+    for (int reply = 0; reply < 63 + 12; ++reply) bench.receive("?;");
+    EXPECT_EQ(progress(), "Reading tags, channel 12 of 99 112");
+    bench.port->unplug();
+    EXPECT_EQ(bench.display.memoryReadField.stringValue(),
+              "Reading tags, channel 12 of 99: stopped, the link is closed.");
+    EXPECT_FALSE(bench.display.readMemoriesButton.enabled());
+    EXPECT_FALSE(bench.display.writeMemoriesButton.enabled());
+}
+
+TEST(MemoryRead, StartsAfreshWhereverTheLastOneStopped) {
+    RadioBench bench(twoChannels());
+    for (const int replies : {0, 1, 50, 100, 150, 199}) {
+        bench.display.readMemoriesButton.performClick();
+        for (int reply = 0; reply < replies; ++reply) bench.receive("?;");
+        bench.display.readMemoriesButton.performClick();
+        EXPECT_EQ(bench.controller.memories.vqMemRead, "run");
+        EXPECT_EQ(bench.controller.memories.vqTagRead, "0");
+        EXPECT_THAT(bench.controller.memories.vqMemArray, Each(unread));
+    }
+    bench.port->onWrite = {};
+    bench.receive(std::string(3'000, '?') + ";");
+    for (int storm = 0; storm < 1'000; ++storm) bench.receive("?;");
+    EXPECT_EQ(bench.controller.memories.vqTagRead, "0");
+    EXPECT_THAT(bench.controller.memories.vqMemArray, Each(unread));
+}
+
+TEST(MemoryRead, RepliesThatSayNothingMoveTheChainAndChangeNothing) {
+    for (const std::string_view reply :
+         {"MR304014250000+000000200000;", "MRxyz014250000+000000200000;", "MR;", "MR;", "MR100014250000+000000200000;",
+          "MR000014250000+000000200000;", "MR001\u00e4\u00e4\u00e4\u00e4\u00e4\u00e4+000000200000;", "?;"}) {
+        TestBench bench;
+        bench.display.readMemoriesButton.performClick();
+        bench.takeWrites();
+        bench.receive(reply);
+        EXPECT_THAT(bench.takeWrites(), ElementsAre("MR001;")) << reply;
+        EXPECT_THAT(bench.controller.memories.vqMemArray, Each(unread)) << reply;
+    }
+}
+
+TEST(MemoryRead, ATagThatComesUnaskedIsTaken) {
+    TestBench bench;
+    bench.receive("MT0071MY CHANNEL  ;MT1001NOT IN TABLE;");
+    EXPECT_EQ(bench.controller.memories.vqMemArray[6], (MemoryChannel{" ", " ", "MY CHANNEL  "}));
+    EXPECT_EQ(popUpTitle(bench, 7), "M-07 MY CHANNEL  ");
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
+}
+
+TEST(MemoryRead, AReplyOutsideAReadDescribesTheChannelInUse) {
+    TestBench bench;
+    bench.receive("FB007074000;FA014250000;MC012;");
+    bench.receive("MR012014250000+000000210000TWENTY      ;");
+    EXPECT_EQ(bench.radio.vqMemFreq, "014250000");
+    EXPECT_EQ(bench.radio.vqMemATag, "TWENTY");
+    EXPECT_EQ(bench.display.vqMemAButton.title(), "  M-12 TWENTY");
+    EXPECT_EQ(bench.radio.vqModeA, "memory");
+    bench.receive("MR012014250001+000000210000TWENTY      ;");
+    EXPECT_EQ(bench.radio.vqModeA, "vfo");
+    bench.receive("VS1;MR003007074000+000000210000FORTY       ;");
+    EXPECT_EQ(bench.radio.vqMemBTag, "FORTY");
+    EXPECT_EQ(bench.radio.vqModeB, "memory");
+    EXPECT_EQ(bench.radio.vqMemATag, "TWENTY");
+    EXPECT_THAT(bench.controller.memories.vqMemArray, Each(unread));
+}
+
+}  // namespace
+}  // namespace corvane

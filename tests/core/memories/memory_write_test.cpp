@@ -1,0 +1,145 @@
+#include <gmock/gmock.h>
+
+#include "tests/support/radio_bench.h"
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+struct WrittenBench : TestBench {
+    Writes write() {
+        display.writeMemoriesButton.performClick();
+        advance(1s);
+        return takeWrites();
+    }
+};
+
+TEST(MemoryWrite, WritesProgrammedRowsWithTheirTagsAndErasesTheOthers) {
+    WrittenBench bench;
+    auto& rows = bench.controller.memories.vqMemArray;
+    rows[0] = {"014250000", "2", "A TAG THAT IS TOO LONG"};
+    rows[4] = {"007074000", "2", "FT8"};
+    rows[8] = {"", "", ""};
+    rows[9] = {"003600000", "1", ""};
+    const Writes written = bench.write();
+    Writes expected;
+    for (int channel = 1; channel <= memoryChannels; ++channel) {
+        char number[8];
+        std::snprintf(number, sizeof number, "%03d", channel);
+        const std::string erase = std::string("MW") + number + "000000000+0000001000001-- ERASE -- ;";
+        if (channel == 1) {
+            expected.insert(expected.end(), {"MW001014250000+000000210000;", "MT0011A TAG THAT I;"});
+        } else if (channel == 5) {
+            expected.insert(expected.end(), {"MW005007074000+000000210000;", "MT0051FT8         ;"});
+        } else if (channel == 10) {
+            expected.insert(expected.end(), {"MW010003600000+000000110000;", "MT0101            ;"});
+        } else {
+            expected.push_back(erase);
+        }
+    }
+    expected.insert(expected.end(), {"VS1;", "MC002;", "VS0;", "MC001;"});
+    EXPECT_EQ(written, expected);
+    EXPECT_EQ(bench.display.memPopUpButton.entries()[4], "M-05 FT8");
+    EXPECT_EQ(bench.takeSounds().back(), "file Seatbelts");
+}
+
+TEST(MemoryWrite, WaitsBeforeItsLastCommandAndKeepsTheWindowAlive) {
+    TestBench bench;
+    bench.controller.writeMemoriesToRadio(bench.display.writeMemoriesButton);
+    EXPECT_EQ(bench.takeWrites().back(), "MC002;");
+    bench.advance(199ms);
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
+    bench.advance(1ms);
+    EXPECT_THAT(bench.takeWrites(), ElementsAre("VS0;", "MC001;"));
+
+    // What is left of a write does not reach a link that was opened afterwards.
+    bench.controller.writeMemoriesToRadio(bench.display.writeMemoriesButton);
+    bench.display.openCloseButton.performClick();
+    bench.display.openCloseButton.performClick();
+    bench.forgetWhatHappened();
+    bench.advance(1s);
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
+    EXPECT_THAT(bench.takeSounds(), ElementsAre("file Seatbelts"));
+}
+
+TEST(MemoryWrite, ReadAndWrittenBackTheChannelsAreAsTheyWere) {
+    RadioBench bench;
+    const auto channels = [&] {
+        std::string all;
+        for (int channel = 1; channel <= memoryChannels; ++channel)
+            for (const char* name : {"MR", "MT"}) {
+                char request[16];
+                std::snprintf(request, sizeof request, "%s%03d;", name, channel);
+                all += bench.transceiver.ask(request);
+            }
+        return all;
+    };
+    const std::string before = channels();
+    ASSERT_THAT(before, HasSubstr("MT0011"));
+    bench.display.readMemoriesButton.performClick();
+    bench.settle();
+    bench.display.writeMemoriesButton.performClick();
+    bench.advance(1s);
+    bench.settle();
+    EXPECT_EQ(channels(), before);
+}
+
+TEST(MemoryWrite, SavesWhatWasReadBeforeItIsWrittenOver) {
+    RadioBench bench;
+    EXPECT_THAT(bench.display.memoryBackupField.stringValue(), HasSubstr("/data/memory-channels"));
+    ASSERT_TRUE(bench.transceiver.programChannel(2, {{7'030'500, '3'}, "CW \"QRP\", 40"}));
+    bench.settle();
+    bench.display.readMemoriesButton.performClick();
+    bench.settle();
+    bench.controller.memories.vqMemArray[1] = {"", "", ""};
+    bench.display.writeMemoriesButton.performClick();
+    bench.advance(1s);
+    bench.settle();
+    const auto& files = bench.around.dataFolder.files;
+    ASSERT_EQ(files.size(), 1U);
+    const auto& [path, contents] = *files.begin();
+    EXPECT_EQ(path, "/data/memory-channels/2026-11-23T000000Z.csv");
+    EXPECT_THAT(contents, testing::StartsWith("Location,Name,Frequency,Mode\n1,20M PHONE,14.250000,USB\n"
+                                              "2,\"CW \"\"QRP\"\", 40\",7.030500,CW-U\n"));
+    EXPECT_EQ(bench.display.memoryBackupField.stringValue(), "The channels as last read are saved in " + path);
+
+    // What was written by this program need not be saved; what is read afterwards is.
+    bench.display.writeMemoriesButton.performClick();
+    EXPECT_EQ(files.size(), 1U);
+    bench.display.readMemoriesButton.performClick();
+    bench.settle();
+    bench.display.writeMemoriesButton.performClick();
+    EXPECT_EQ(files.size(), 2U);
+}
+
+TEST(MemoryWrite, WhatCannotBeSavedIsNotWrittenOver) {
+    RadioBench bench;
+    bench.display.readMemoriesButton.performClick();
+    bench.settle();
+    bench.takeWrites();
+    bench.around.alerts.shown.clear();
+    bench.around.dataFolder.failure = "No space left on device.";
+    bench.display.writeMemoriesButton.performClick();
+    bench.advance(1s);
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
+    EXPECT_THAT(bench.around.alerts.shown.back(), HasSubstr("No space left on device."));
+}
+
+TEST(MemoryWrite, AsksFirstAndSaysWhatItWillDo) {
+    TestBench bench;
+    bench.around.alerts.agree = false;
+    bench.controller.memories.vqMemArray[0] = {"014250000", "2", "FT8"};
+    bench.display.writeMemoriesButton.performClick();
+    bench.advance(1s);
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
+    EXPECT_THAT(bench.around.alerts.shown,
+                ElementsAre("Write the memory channels to the transceiver?\n\n1 will be written, 98 will be erased. "
+                            "They have not been read before, so nothing can be saved first. [Write]"));
+}
+
+}  // namespace
+}  // namespace corvane
