@@ -36,19 +36,21 @@ void RadioProgram::run() {
 
 Time RadioProgram::now() const { return std::chrono::duration_cast<Time>(std::chrono::steady_clock::now() - start_); }
 
-int RadioProgram::waitMilliseconds() const {
+std::optional<timespec> RadioProgram::timeToNextEvent() const {
     const auto event = transceiver_.nextEvent();
-    if (!event) return -1;
-    const Time left = std::max(Time::zero(), *event - now());
-    return static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(left).count());
+    if (!event) return std::nullopt;
+    const auto left = std::chrono::nanoseconds(std::max(Time::zero(), *event - now()));
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(left);
+    return timespec{seconds.count(), (left - seconds).count()};
 }
 
 void RadioProgram::waitAndServe() {
-    // poll() passes over negative descriptors: a port that is unplugged, an input that has ended.
+    // ppoll() passes over negative descriptors: a port that is unplugged, an input that has ended.
     std::array<pollfd, 3> watched{pollfd{stopSignals_.descriptor(), POLLIN, 0},
                                   pollfd{inputEnded_ ? -1 : STDIN_FILENO, POLLIN, 0},
                                   pollfd{terminal_ ? terminal_->descriptor() : -1, POLLIN, 0}};
-    if (poll(watched.data(), watched.size(), waitMilliseconds()) <= 0) return;
+    const auto wait = timeToNextEvent();
+    if (ppoll(watched.data(), watched.size(), wait ? &*wait : nullptr, nullptr) <= 0) return;
     if (watched[0].revents != 0) console_.finish();
     if (watched[1].revents != 0) readTyped();
     if (watched[2].revents != 0 && terminal_) transceiver_.receive(terminal_->read(), now());

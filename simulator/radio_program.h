@@ -1,7 +1,10 @@
 #pragma once
 
+#include <time.h>
+
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "simulator/console.h"
@@ -25,7 +28,7 @@ public:
 
 private:
     Time now() const;
-    int waitMilliseconds() const;
+    std::optional<timespec> timeToNextEvent() const;
     void waitAndServe();
     void followPlug();
     void readTyped();

@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "controls/text_messages.h"
 #include "display/table_columns.h"
 #include "memories/table_cells.h"
 
@@ -14,10 +15,8 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       synth(platform.speech),
       platform_(platform),
       hosts_(std::move(hosts)),
-      afGainPacer_([this](std::string command) { sendBuilt(std::move(command)); },
-                   [this](auto delay, auto task) { later(delay, std::move(task)); }),
-      rfGainPacer_([this](std::string command) { sendBuilt(std::move(command)); },
-                   [this](auto delay, auto task) { later(delay, std::move(task)); }) {
+      afGainPacer_(makePacer(display.afGainSlider)),
+      rfGainPacer_(makePacer(display.rfGainSlider)) {
     bindControls();
     bindPopUps();
     bindEntries();
@@ -26,13 +25,18 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
     showMemoryChannels();
     setMemoryKeysEnabled(false);
     display.memoryReadField.setStringValue("Not read yet");
-    display.memoryBackupField.setStringValue("Before a write, the channels as last read are saved in " +
-                                             platform_.dataFolder.path() + "/memory-channels");
+    showWhereChannelsAreSaved();
     display.licenseClassButton.setVisible(false);
     disableTextMemoryControls();
     setActiveVfo(radio.vqAorB);
     showLinkStatus();
     serialPortManager.setObserver(this);
+}
+
+CommandPacer SerialPortDemoController::makePacer(Slider& slider) {
+    return {[this](std::string command) { sendBuilt(std::move(command)); },
+            [this](Scheduler::Duration delay, std::function<void()> task) { later(delay, std::move(task)); },
+            [&slider] { slider.endMove(); }};
 }
 
 SerialPortDemoController::~SerialPortDemoController() {
@@ -132,6 +136,7 @@ void SerialPortDemoController::bindEntries() {
                                       std::pair{&display.rttyMemoryPopUpButton, &display.rttyMemoryField},
                                       std::pair{&display.pskMemoryPopUpButton, &display.pskMemoryField}}) {
         refuseIn(*text, display.memoryTextNoticeField);
+        text->setMaximumLength(static_cast<int>(textPieceLength));
         popUp->action = [this, text = text](PopUpButton& sender) {
             if (acceptsText(*text, display.memoryTextNoticeField)) goSuperPopUp(sender);
         };

@@ -38,6 +38,7 @@
 
 namespace corvane {
 
+struct MemoryReply;
 struct ModeGroup;
 
 class SerialPortDemoController final : public ORSSerialPortDelegate, public SerialPortsObserver {
@@ -219,6 +220,7 @@ private:
     void readSideInformation(std::string_view response, char vfo);
     void showMemoryText(int slot, std::string_view text, std::deque<Button>& familyButtons);
 
+    CommandPacer makePacer(Slider& slider);
     void sendBuilt(std::string command);  // nothing for an empty one
     void fillPresetPopUp();
     void planPowerOff(int entry);
@@ -233,12 +235,16 @@ private:
     void clearTextMessage();
 
     void requestMemory(std::string_view name, int channel);
+    void takeChannel(const MemoryReply& reply);
+    bool takeLateChannel(const MemoryReply& reply);
+    void finishMemoryRead();
     void readMemoryInUse(std::string_view response);
     void showMemoryChannels();
     void showMemoryReadProgress(std::string_view problem = {});
     void watchMemoryRead();
     void memoryReadLostLink();
     bool saveMemoriesAsRead();
+    void showWhereChannelsAreSaved();
     void setMemoryKeysEnabled(bool enabled);
     bool recordAutoMemory();
     void clearAutoMemories();

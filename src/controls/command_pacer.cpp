@@ -12,7 +12,10 @@ void CommandPacer::submit(std::string command) {
     pausing_ = true;
     later_(interval, [this] {
         pausing_ = false;
-        if (waiting_) submit(*std::exchange(waiting_, std::nullopt));
+        if (waiting_)
+            submit(*std::exchange(waiting_, std::nullopt));
+        else
+            rested_();
     });
     send_(std::move(command));
 }

@@ -17,8 +17,9 @@ public:
 
     static constexpr Scheduler::Duration interval{50};
 
-    // `later` runs its task no longer than the pacer lives.
-    CommandPacer(Send send, Later later) : send_(std::move(send)), later_(std::move(later)) {}
+    // `later` runs its task no longer than the pacer lives; `rested` is called when the last command is 50 ms old.
+    CommandPacer(Send send, Later later, std::function<void()> rested)
+        : send_(std::move(send)), later_(std::move(later)), rested_(std::move(rested)) {}
 
     // Sends the command at once, or as soon as the one before it is 50 ms old; only the latest of those that wait is
     // sent. "AG0080;", "AG0085;", "AG0090;" within 50 ms send the first and the last.
@@ -27,6 +28,7 @@ public:
 private:
     Send send_;
     Later later_;
+    std::function<void()> rested_;
     bool pausing_ = false;
     std::optional<std::string> waiting_;
 };

@@ -43,7 +43,9 @@ void SerialPortDemoController::goMemory(PopUpButton& sender) {
 }
 
 void SerialPortDemoController::goColor(PopUpButton& sender) {
-    sendCommand(scopeColorCommand(sender.indexOfSelectedItem()));
+    const std::string command = scopeColorCommand(sender.indexOfSelectedItem());
+    if (command.empty()) return sender.takeBack();
+    sendCommand(command);
 }
 
 void SerialPortDemoController::goSpectrumMode(PopUpButton& sender) {
@@ -86,9 +88,15 @@ void SerialPortDemoController::goMPVD(PopUpButton& sender) {
     sendBuilt(multiKnobCommand(sender.indexOfSelectedItem()));
 }
 
-void SerialPortDemoController::goAF(Slider& sender) { afGainPacer_.submit(gainCommand("AG0", sender.integerValue())); }
+void SerialPortDemoController::goAF(Slider& sender) {
+    sender.beginMove();
+    afGainPacer_.submit(gainCommand("AG0", sender.integerValue()));
+}
 
-void SerialPortDemoController::goRF(Slider& sender) { rfGainPacer_.submit(gainCommand("RG0", sender.integerValue())); }
+void SerialPortDemoController::goRF(Slider& sender) {
+    sender.beginMove();
+    rfGainPacer_.submit(gainCommand("RG0", sender.integerValue()));
+}
 
 void SerialPortDemoController::goSuperPopUp(PopUpButton& sender) {
     const int index = sender.indexOfSelectedItem();

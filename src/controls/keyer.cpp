@@ -69,6 +69,7 @@ void SerialPortDemoController::writeMemoryText(PopUpButton& sender) {
     link.cmd = storeAndReadBack(editor->family, memory, field.stringValue());
     field.endEditing();
     field.setStringValue({});
+    sender.selectItem(0);  // no memory is chosen beforehand for the next text
     sendCommand(link.cmd);
 }
 

@@ -114,7 +114,8 @@ public:
     PopUpButton FuncKnobButton{{"FuncKnobButton", 0, "FUNC", "Function knob", "What the function knob does."}};
     PopUpButton powerPopUpButton{{"", 2007, "Power", "Transmit power", "Transmit power in watts."}};
     PopUpButton APOPopUpButton{
-        {"APOPopUpButton", 2006, "Auto off", "Automatic power-off", "Switches the transceiver off after this time."}};
+        {"APOPopUpButton", 2006, "Auto off", "Automatic power-off",
+         "Switches the transceiver off after this time. A later choice does not put off an earlier one."}};
     PopUpButton colorPopUpButton{{"colorPopUpButton", 0, "Color", "Scope color", "Color of the scope display."}};
     PopUpButton spectrumModePopUpButton{
         {"spectrumModePopUpButton", 0, "Display", "Scope display", "Kind of the scope display."}};

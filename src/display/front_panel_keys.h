@@ -132,7 +132,7 @@ inline constexpr std::array frontPanelKeys{
     FrontPanelKey{{"", 2020100, "Read from transceiver", "Read the CW setting menu", "Read the items of this menu group from the transceiver."}, KeyPanel::menuGroups},
     FrontPanelKey{{"", 2030100, "Read from transceiver", "Read the operation setting menu", "Read the items of this menu group from the transceiver."}, KeyPanel::menuGroups},
     FrontPanelKey{{"", 2040100, "Read from transceiver", "Read the display setting menu", "Read the items of this menu group from the transceiver."}, KeyPanel::menuGroups},
-    FrontPanelKey{{"", 2050000, "Read memories", "Read the keyer and text memories", "Read all fifteen keyer and text memories from the transceiver."}, KeyPanel::keyer},
+    FrontPanelKey{{"", 2050000, "Read texts", "Read the keyer and text memories", "Read all fifteen keyer and text memories from the transceiver."}, KeyPanel::keyer},
 };
 // clang-format on
 

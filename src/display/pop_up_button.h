@@ -55,15 +55,19 @@ public:
     // The operator chooses an entry.
     void choose(int index) {
         if (!enabled() || !action) return;
+        selectedBefore_ = selected_;
         selectItem(index);
         action(*this);
     }
+    // For an action whose choice came to nothing: the entry of before is selected again.
+    void takeBack() { selectItem(selectedBefore_); }
 
 private:
     std::vector<std::string> entries_;
     std::vector<Group> groups_;
     int entriesVersion_ = 0;
     int selected_ = noSelection;
+    int selectedBefore_ = noSelection;
 };
 
 }  // namespace corvane

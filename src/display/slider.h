@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <optional>
 
 #include "display/control.h"
 
@@ -15,22 +16,37 @@ public:
     int minimum() const { return minimum_; }
     int maximum() const { return maximum_; }
     int integerValue() const { return value_; }
-    // A value beyond an end stands at that end.
-    void setIntegerValue(int value) { assign(value_, std::clamp(value, minimum_, maximum_)); }
+    // The transceiver's value; one beyond an end stands at that end. While the knob is being moved it waits.
+    void setIntegerValue(int value) {
+        value = std::clamp(value, minimum_, maximum_);
+        if (moving_)
+            waiting_ = value;
+        else
+            assign(value_, value);
+    }
 
     // What a move does. A slider without an action only shows its value.
     std::function<void(Slider&)> action;
     // The operator moves the knob.
     void drag(int value) {
         if (!enabled() || !action) return;
-        setIntegerValue(value);
+        assign(value_, std::clamp(value, minimum_, maximum_));
         action(*this);
+    }
+
+    // Between the two, reports of where the knob stood a moment ago do not pull it back.
+    void beginMove() { moving_ = true; }
+    void endMove() {
+        moving_ = false;
+        if (waiting_) assign(value_, *std::exchange(waiting_, std::nullopt));
     }
 
 private:
     const int minimum_;
     const int maximum_;
     int value_;
+    bool moving_ = false;
+    std::optional<int> waiting_;  // what was reported during a move
 };
 
 }  // namespace corvane

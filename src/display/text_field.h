@@ -21,6 +21,9 @@ public:
             assign(text_, text);
     }
 
+    int maximumLength() const { return maximumLength_; }  // in characters as they are typed; 0 is any length
+    void setMaximumLength(int length) { maximumLength_ = length; }
+
     Color textColor() const { return textColor_; }  // none is the ordinary colour
     void setTextColor(Color color) { assign(textColor_, color); }
 
@@ -63,6 +66,7 @@ private:
     std::optional<std::string> waiting_;  // the program's text while the operator types
     bool editing_ = false;
     int resignations_ = 0;
+    int maximumLength_ = 0;
     Color textColor_ = Color::none;
 };
 

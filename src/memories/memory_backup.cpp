@@ -14,7 +14,7 @@ namespace {
 
 std::string quoted(std::string text) {
     text.erase(text.find_last_not_of(' ') + 1);
-    if (text.find_first_of(",\"") == std::string::npos) return text;
+    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
     std::string result = "\"";
     for (const char c : text) result.append(c == '"' ? "\"\"" : std::string(1, c));
     return result + '"';
@@ -22,14 +22,14 @@ std::string quoted(std::string text) {
 
 }  // namespace
 
-std::string memoryTableCsv(const MemoryTable& table) {
-    std::string csv = "Location,Name,Frequency,Mode\n";
-    for (std::size_t row = 0; row < table.size(); ++row) {
-        const MemoryChannel& channel = table[row];
+std::string memoryTableCsv(const ChannelsAsRead& channels) {
+    std::string csv = "Location,Name,Frequency,Mode,Record\n";
+    for (std::size_t row = 0; row < channels.size(); ++row) {
+        const MemoryChannel& channel = channels[row].row;
         if (!isProgrammed(channel)) continue;
         const std::string mode(modeName(channel.mode.empty() ? ' ' : channel.mode.front()).value_or(channel.mode));
         csv += std::to_string(row + 1) + ',' + quoted(channel.tag) + ',' + shownMemoryFrequency(channel.frequency) +
-               ',' + quoted(mode) + '\n';
+               ',' + quoted(mode) + ',' + quoted(channels[row].rest) + '\n';
     }
     return csv;
 }

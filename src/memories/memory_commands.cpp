@@ -27,7 +27,8 @@ std::string memoryRequest(std::string_view name, int channel) {
 }
 
 MemoryReply memoryReply(std::string_view reply) {
-    return {channelOf(reply), lastOf(reply.substr(0, 14), frequencyDigits), lastOf(reply, 6).substr(0, 1)};
+    return {channelOf(reply), lastOf(reply.substr(0, 14), frequencyDigits), lastOf(reply, 6).substr(0, 1),
+            positions(reply, 15, reply.size())};
 }
 
 TagReply tagReply(std::string_view reply) { return {channelOf(reply), lastOf(reply, tagLength)}; }

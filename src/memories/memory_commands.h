@@ -18,6 +18,7 @@ struct MemoryReply {
     int channel = 0;
     std::string_view frequency;  // nine digits of hertz in a whole reply
     std::string_view mode;       // mode code, one character
+    std::string_view rest;       // what follows the frequency, e.g. "+000000210000"
 };
 MemoryReply memoryReply(std::string_view reply);
 

@@ -31,6 +31,7 @@ void SerialPortDemoController::startMemoryRead() {
     memories.vqMemReadCnt = 0;
     memories.vqTagReadCnt = 0;
     ++memories.readNumber;
+    memories.whole = false;
     display.memoriesTable.reloadData();
     requestMemory("MR", 1);
     watchMemoryRead();
@@ -43,11 +44,13 @@ void SerialPortDemoController::requestMemory(std::string_view name, int channel)
 }
 
 void SerialPortDemoController::readMemoryReply(std::string_view response) {
-    if (memories.vqMemRead != "run") return readMemoryInUse(response);
     const MemoryReply reply = memoryReply(response);
-    if (describesRow(reply.channel, response))
-        memories.vqMemArray[static_cast<std::size_t>(reply.channel - 1)] = {std::string(reply.frequency),
-                                                                            std::string(reply.mode), ""};
+    const bool describes = describesRow(reply.channel, response);
+    if (memories.vqMemRead != "run") {
+        if (describes && memories.vqTagRead == "run" && takeLateChannel(reply)) return;
+        return readMemoryInUse(response);
+    }
+    if (describes) takeChannel(reply);
     const int handled = ++memories.vqMemReadCnt;
     if (handled <= memoryChannels) return requestMemory("MR", handled);
     memories.vqMemRead = "0";
@@ -55,10 +58,30 @@ void SerialPortDemoController::readMemoryReply(std::string_view response) {
     requestMemory("MT", 1);
 }
 
+void SerialPortDemoController::takeChannel(const MemoryReply& reply) {
+    const auto row = static_cast<std::size_t>(reply.channel - 1);
+    memories.vqMemArray[row] = {std::string(reply.frequency), std::string(reply.mode), ""};
+    memories.asRead[row] = {memories.vqMemArray[row], std::string(reply.rest)};
+    memories.unsaved = true;
+}
+
+// A read that was begun anew, or an error answer to another command, leaves one reply more on its way than is counted:
+// the last channel then comes after the tags have begun. It belongs in the table; without it a write would erase it.
+bool SerialPortDemoController::takeLateChannel(const MemoryReply& reply) {
+    if (memories.vqMemArray[static_cast<std::size_t>(reply.channel - 1)] != MemoryChannel{}) return false;
+    takeChannel(reply);
+    return true;
+}
+
 void SerialPortDemoController::readTagReply(std::string_view response) {
     const TagReply reply = tagReply(response);
     const bool describes = describesRow(reply.channel, response);
-    if (describes) memories.vqMemArray[static_cast<std::size_t>(reply.channel - 1)].tag = reply.tag;
+    if (describes) {
+        const auto row = static_cast<std::size_t>(reply.channel - 1);
+        memories.vqMemArray[row].tag = reply.tag;
+        memories.asRead[row].row.tag = reply.tag;
+        memories.unsaved = true;
+    }
     if (memories.vqTagRead != "run") {
         if (describes) showMemoryChannels();
         return;
@@ -66,9 +89,18 @@ void SerialPortDemoController::readTagReply(std::string_view response) {
     const int handled = ++memories.vqTagReadCnt;
     if (handled <= memoryChannels) return requestMemory("MT", handled);
     memories.vqTagRead = "0";
-    memories.lastRead = memories.vqMemArray;
+    finishMemoryRead();
+}
+
+void SerialPortDemoController::finishMemoryRead() {
+    memories.whole = true;
+    memories.unsaved = true;
+    // What did not answer holds nothing, whatever an earlier read found there.
+    for (std::size_t row = 0; row < memories.asRead.size(); ++row)
+        if (memories.asRead[row].row != memories.vqMemArray[row]) memories.asRead[row] = {memories.vqMemArray[row], {}};
     showMemoryChannels();
     showMemoryReadProgress();
+    showWhereChannelsAreSaved();
     playSound("Funk");
 }
 

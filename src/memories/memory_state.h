@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string>
 
 namespace corvane {
@@ -19,6 +18,15 @@ struct MemoryChannel {
 inline constexpr int memoryChannels = 99;
 using MemoryTable = std::array<MemoryChannel, memoryChannels>;
 
+// A channel as the transceiver reported it, with what a table row does not keep.
+struct ChannelAsRead {
+    MemoryChannel row;
+    std::string rest;  // clarifier, mode, tone and shift: what follows the frequency, e.g. "+000000210000"
+
+    bool operator==(const ChannelAsRead&) const = default;
+};
+using ChannelsAsRead = std::array<ChannelAsRead, memoryChannels>;
+
 struct MemoryState {
     MemoryState() { vqMemTagArray.fill(" "); }
 
@@ -28,9 +36,10 @@ struct MemoryState {
     std::string vqTagRead = "0";                            // "run" while tags are read
     int vqMemReadCnt = 0;                                   // replies handled in the present read
     int vqTagReadCnt = 0;
-    unsigned readNumber = 0;              // grows with every read begun or lost, so that a late watch is known
-    std::optional<MemoryTable> lastRead;  // what the last whole read found, until it has been saved
-    bool saved = false;                   // whether anything has been saved since the start
+    unsigned readNumber = 0;  // grows with every read begun or lost, so that a late watch is known
+    bool whole = false;       // whether the last read came to its end
+    ChannelsAsRead asRead;    // what the transceiver is known to hold
+    bool unsaved = false;     // whether that has changed since it was saved last
 };
 
 // The entry of the memory pop-up for row i: "M-05 20M FT8"; an empty channel shows "M-05" and two blanks.

@@ -12,23 +12,31 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto settlingTime = 200ms;  // what the transceiver needs before it takes the last command
+constexpr auto pauseBeforeLast = 200ms;
 
-std::string question(const MemoryState& memories, bool read) {
+std::string question(const MemoryState& memories) {
     const auto written = std::ranges::count_if(memories.vqMemArray, isProgrammed);
     std::string text = "Write the memory channels to the transceiver?\n\n";
-    text +=
-        std::to_string(written) + " will be written, " + std::to_string(memoryChannels - written) + " will be erased.";
-    if (!read) text += " They have not been read before, so nothing can be saved first.";
+    text += std::to_string(written) + " will be written, " + std::to_string(memoryChannels - written) +
+            " will be erased. Clarifier, tone and shift of every channel are reset.";
+    if (!memories.whole)
+        text +=
+            "\n\nThe channels have not been read to the end. What has not been read will be erased and cannot be "
+            "saved first.";
     return text;
 }
 
 }  // namespace
 
+// What was asked about may have changed by the time of the answer.
 void SerialPortDemoController::askBeforeWriting(Button& sender) {
-    const bool read = memories.lastRead || memories.saved;
-    platform_.alerts.confirm(question(memories, read), "Write", [this, &sender, alive = std::weak_ptr(alive_)] {
-        if (!alive.expired()) writeMemoriesToRadio(sender);
+    const auto confirmed = [this, &sender, session = link.session, read = memories.readNumber] {
+        if (session == link.session && read == memories.readNumber) return writeMemoriesToRadio(sender);
+        showWarning("Nothing was written: the link or the channels have changed meanwhile",
+                    "Look at the channels and press Write memories again.");
+    };
+    platform_.alerts.confirm(question(memories), "Write", [confirmed, alive = std::weak_ptr(alive_)] {
+        if (!alive.expired()) confirmed();
     });
 }
 
@@ -40,7 +48,7 @@ void SerialPortDemoController::writeMemoriesToRadio(Button&) {
         if (const auto tag = tagWriteCommand(row, channel)) sendCommand(*tag);
     }
     sendCommand("VS1;MC002;");
-    later(settlingTime, [this, session = link.session] {
+    later(pauseBeforeLast, [this, session = link.session] {
         if (session == link.session) sendCommand("VS0;MC001;");
         showMemoryChannels();
         playSound("Seatbelts");
@@ -48,18 +56,22 @@ void SerialPortDemoController::writeMemoriesToRadio(Button&) {
 }
 
 bool SerialPortDemoController::saveMemoriesAsRead() {
-    if (!memories.lastRead) return true;
+    if (!memories.unsaved) return true;
     const SavedFile file =
-        platform_.dataFolder.save(memoryBackupName(platform_.scheduler.now()), memoryTableCsv(*memories.lastRead));
+        platform_.dataFolder.save(memoryBackupName(platform_.scheduler.now()), memoryTableCsv(memories.asRead));
     if (!file.error.empty()) {
         showWarning("Nothing was written: the channels as last read could not be saved",
                     "To " + file.path + ": " + file.error);
         return false;
     }
-    memories.lastRead.reset();
-    memories.saved = true;
-    display.memoryBackupField.setStringValue("The channels as last read are saved in " + file.path);
+    memories.unsaved = false;
+    display.memoryBackupField.setStringValue("The channels as they were are saved in " + file.path);
     return true;
+}
+
+void SerialPortDemoController::showWhereChannelsAreSaved() {
+    display.memoryBackupField.setStringValue("Before a write, the channels as last read are saved in " +
+                                             platform_.dataFolder.path() + "/memory-channels");
 }
 
 }  // namespace corvane

@@ -63,7 +63,8 @@ public:
     virtual bool isOpen() const = 0;
     // Ends in serialPortWasOpened or serialPortDidEncounterError, at once or later. An open port stays as it is.
     virtual void open() = 0;
-    // Ends in serialPortWasClosed when the port was open; otherwise does nothing. What was sent before still goes out.
+    // Ends in serialPortWasClosed when the port was open; otherwise does nothing. What was sent before still goes
+    // out, as far as the device takes it.
     virtual void close() = 0;
 
     // Hands all bytes to the line in one piece. A port that is not open drops them; nothing is kept for later.

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/alerts.h"
@@ -35,10 +36,15 @@ struct RecordingAlerts final : Alerts {
     void warn(std::string_view text) override { shown.emplace_back(text); }
     void confirm(std::string_view text, std::string_view verb, std::function<void()> confirmed) override {
         shown.push_back(std::string(text).append(" [").append(verb).append("]"));
-        if (agree) confirmed();
+        last_ = std::move(confirmed);
+        if (agree) answerLast();
     }
+    void answerLast() { std::exchange(last_, {})(); }
     std::vector<std::string> shown;
     bool agree = true;
+
+private:
+    std::function<void()> last_;  // the question that has no answer yet
 };
 
 struct RecordingDataFolder final : DataFolder {

@@ -1,6 +1,7 @@
 #include "qt/platform/message_box_alerts.h"
 
 #include <QApplication>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <utility>
@@ -9,14 +10,21 @@ namespace corvane {
 
 namespace {
 
+// Without one of the program's windows in front, its main window: a box without a parent would hold up nothing.
+QWidget* parentWindow() {
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && qobject_cast<QMainWindow*>(window)) return window;
+    return nullptr;
+}
+
 // Deletes itself when it is answered, or with the window.
 QMessageBox* box(QMessageBox::Icon icon, std::string_view text) {
     auto* box = new QMessageBox(icon, QApplication::applicationDisplayName(),
                                 QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
-                                QMessageBox::NoButton, QApplication::activeWindow());
+                                QMessageBox::NoButton, parentWindow());
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowModality(box->parentWidget() ? Qt::WindowModal : Qt::ApplicationModal);
     return box;
 }
 

@@ -16,7 +16,8 @@ namespace corvane {
 
 namespace {
 
-constexpr std::chrono::milliseconds lastBytes{100};  // how long closing waits for what was sent
+constexpr std::chrono::milliseconds lastBytes{100};  // how long closing waits for a device to take the next byte
+constexpr std::chrono::seconds longestDrain{2};      // for all of them: memory channels written just before take 1.2 s
 
 QSerialPort::Parity qtParity(Parity parity) {
     switch (parity) {
@@ -133,16 +134,20 @@ bool QtSerialPort::hungUp() const {
     return dead || ::access(location_.c_str(), F_OK) != 0;
 }
 
-// Waits for the wire as well as for our own buffer. What a deaf device has not taken by then is thrown away: the system
-// would hold up the closing for half a minute.
+// Waits for the wire as well as for our own buffer, as long as the device goes on taking bytes. What a deaf device has
+// not taken is thrown away: the system would hold up the closing for half a minute.
 void QtSerialPort::drain() {
-    const QDeadlineTimer deadline(lastBytes);
-    while (line_.bytesToWrite() > 0 && !deadline.hasExpired()) {
-        if (!line_.waitForBytesWritten(static_cast<int>(deadline.remainingTime()))) break;
-    }
     const int descriptor = static_cast<int>(line_.handle());
-    while (unsentBytes(descriptor) > 0 && !deadline.hasExpired())
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    const auto left = [&] { return line_.bytesToWrite() + unsentBytes(descriptor); };
+    const QDeadlineTimer end(longestDrain);
+    QDeadlineTimer patience(lastBytes);
+    for (qint64 before = left(); before > 0 && !patience.hasExpired() && !end.hasExpired();) {
+        if (line_.bytesToWrite() == 0 || !line_.waitForBytesWritten(1))
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        const qint64 now = left();
+        if (now < before) patience.setRemainingTime(lastBytes);
+        before = now;
+    }
     if (line_.bytesToWrite() > 0 || unsentBytes(descriptor) > 0) line_.clear(QSerialPort::Output);
 }
 

@@ -42,12 +42,23 @@ void PopUpView::mousePressEvent(QMouseEvent* event) {
     if (model_.action) QComboBox::mousePressEvent(event);
 }
 
+// Walking through the entries of a closed list would send every one that is passed: the keys open it instead.
 void PopUpView::keyPressEvent(QKeyEvent* event) {
-    const bool leaves = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
-    if (model_.action || leaves)
-        QComboBox::keyPressEvent(event);
-    else
-        event->ignore();
+    switch (event->key()) {
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            return QComboBox::keyPressEvent(event);
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_Space:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_F4:
+            if (model_.action) return showPopup();
+            [[fallthrough]];
+        default:
+            event->ignore();
+    }
 }
 
 SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent) : QSlider(Qt::Horizontal, parent) {
@@ -63,6 +74,7 @@ SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent) : QSl
         setAccessibleName(spokenWithValue(model, std::to_string(model.integerValue())));
     };
     connect(this, &QSlider::valueChanged, this, [&model](int value) { model.drag(value); });
+    connect(this, &QSlider::sliderReleased, this, show);
     model.addView(queue, show);
     show();
 }
@@ -72,6 +84,7 @@ void SliderView::wheelEvent(QWheelEvent* event) { event->ignore(); }
 TextFieldView::TextFieldView(TextField& model, ChangeQueue& queue, QWidget* parent)
     : QLineEdit(parent), model_(model), resignations_(model.resignations()) {
     describe(*this, model);
+    if (model.maximumLength() > 0) setMaxLength(model.maximumLength());
     const bool shown = !model.action && !model.onEdit;
     setReadOnly(shown);
     setProperty("shown", shown);
@@ -103,6 +116,7 @@ void TextFieldView::focusOutEvent(QFocusEvent* event) {
 
 TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : QLabel(parent) {
     describe(*this, model);
+    setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setWordWrap(true);
     const auto show = [this, &model] {

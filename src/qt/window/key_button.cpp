@@ -76,7 +76,9 @@ void KeyButton::showModel() {
         setVisible(shown_);
     }
     const QString title = QString::fromStdString(model_.title());
-    if (text() != title) setText(title);
+    // A text of the transceiver must not make a keyboard shortcut of its "&".
+    const QString plain = QString(title).replace('&', "&&");
+    if (text() != plain) setText(plain);
     // A title from the transceiver may be longer than its key.
     if (model_.outlet().title.empty() && !title.isEmpty()) setToolTip(title.trimmed() + "\n" + toolTipOf(model_));
     const QString name = spokenName();
@@ -90,7 +92,8 @@ QString KeyButton::spokenName() const {
 
 QSize KeyButton::sizeHint() const {
     const QFontMetrics metrics(font());
-    return {metrics.horizontalAdvance(text()) + 5 * gridStep, metrics.height() + 4 * gridStep};
+    return {metrics.horizontalAdvance(QString::fromStdString(model_.title())) + 5 * gridStep,
+            metrics.height() + 4 * gridStep};
 }
 
 // What always stands on a key is never cut.
@@ -132,7 +135,8 @@ void KeyButton::paintFace(QPainter& painter, const QRect& face, const QColor& in
                          model_.image() == Image::audioOutputMute, ink);
         textFace.setLeft(face.left() + side + 2 * gridStep);
     }
-    const QString shown = QFontMetrics(font()).elidedText(text(), Qt::ElideRight, textFace.width());
+    const QString shown =
+        QFontMetrics(font()).elidedText(QString::fromStdString(model_.title()), Qt::ElideRight, textFace.width());
     painter.drawText(textFace, Qt::AlignCenter | Qt::TextSingleLine, shown);
 }
 

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
@@ -118,7 +119,16 @@ TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent) 
     for (int column = 0; column < static_cast<int>(model.columns().size()); ++column)
         setColumnWidth(column, columnOf(model, column).width * character + 4 * gridStep);
     connect(this, &QTableView::clicked, this, [this](const QModelIndex& cell) { pressCell(cell); });
-    model.addView(queue, [rows] { rows->reload(); });
+    model.addView(queue, [this, rows] {
+        const bool chosen = currentIndex().isValid();
+        const int rowBefore = currentIndex().row();
+        const int column = currentIndex().column();
+        rows->reload();
+        // The keyboard stays where it was, as far as there are rows.
+        const int row = std::min(rowBefore, rows->rowCount({}) - 1);
+        if (chosen && !currentIndex().isValid() && row >= 0)
+            selectionModel()->setCurrentIndex(rows->index(row, column), QItemSelectionModel::ClearAndSelect);
+    });
 }
 
 void TableWidget::pressCell(const QModelIndex& cell) {

@@ -22,7 +22,6 @@ TEST(FunctionPopUps, AChoiceSendsItsCommandsOneByOne) {
         {&D::modesPopUpButton, 13, {"MD0E;", "BI1;", "SF1E;"}, {"PSK"}},
         {&D::memPopUpButton, 0, {"SS0670000;", "MC001;", "MW001;", "SS0670000;"}, {"CALLING"}},
         {&D::memPopUpButton, 11, {"SS0670000;", "MC012;", "MW012;", "SS0670000;"}, {" "}},
-        {&D::colorPopUpButton, 0, {}},
         {&D::colorPopUpButton, 10, {"SS03A0000;"}},
         {&D::RFILPopUpButton, 2, {"RF04;", "RF0;"}},
         {&D::DNRPopupButton, 0, {"NR00;"}},
@@ -59,6 +58,14 @@ TEST(FunctionPopUps, WhatStandsForNothingRepeatsNoCommand) {
         press(action, PopUpButton::noSelection);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
     EXPECT_EQ(bench.controller.link.cmd, "KY6;");
+}
+
+TEST(FunctionPopUps, TheFirstColorAsksForNothingAndIsNotShown) {
+    TestBench bench;
+    bench.receive("SS0340000;");
+    bench.display.colorPopUpButton.choose(0);
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
+    EXPECT_EQ(bench.display.colorPopUpButton.titleOfSelectedItem(), "Color 5");
 }
 
 TEST(FunctionPopUps, MemoryIpoSwitchesThePreAmplifierOffAsWell) {
@@ -105,6 +112,25 @@ TEST(GainSliders, SendAtMostOneCommandInFiftyMillisecondsAndTheLastOne) {
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
     slider.drag(7);
     EXPECT_THAT(bench.takeWrites(), ElementsAre("AG0007;"));
+}
+
+TEST(GainSliders, AreNotPulledBackByReportsOfTheirOwnWay) {
+    TestBench bench;
+    Slider& slider = bench.display.rfGainSlider;
+    slider.drag(100);
+    slider.drag(200);
+    bench.receive("RG0100;");
+    EXPECT_EQ(slider.integerValue(), 200);
+    bench.advance(60ms);
+    bench.receive("RG0200;");
+    bench.advance(40ms);
+    EXPECT_EQ(slider.integerValue(), 200);
+    slider.drag(210);
+    bench.receive("RG0180;");  // a hand on the transceiver's own knob, the same moment
+    bench.advance(50ms);
+    EXPECT_EQ(slider.integerValue(), 180);
+    bench.receive("RG0170;");
+    EXPECT_EQ(slider.integerValue(), 170);
 }
 
 TEST(AutomaticPowerOff, SwitchesOffAfterHalfHoursUnlessTakenBack) {

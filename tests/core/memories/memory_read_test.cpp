@@ -115,6 +115,34 @@ TEST(MemoryRead, StartsAfreshWhereverTheLastOneStopped) {
     EXPECT_THAT(bench.controller.memories.vqMemArray, Each(unread));
 }
 
+// A request that was under way when a read was begun anew, and an error answer to another command, leave the chain one
+// reply ahead: its last one comes after the tags have begun.
+TEST(MemoryRead, LosesNoChannelWhenTheChainRunsAhead) {
+    simulator::RadioState state = simulator::startState();
+    for (int channel = 1; channel <= memoryChannels; ++channel) {
+        state.memories.write(channel, {7'000'000 + channel, '1'});
+        state.memories.writeTag(channel, "TAG " + std::to_string(channel), true);
+    }
+    for (const bool begunAnew : {true, false}) {
+        RadioBench bench(state);
+        bench.display.readMemoriesButton.performClick();
+        if (begunAnew) {
+            bench.display.readMemoriesButton.performClick();
+        } else {
+            bench.receive("?;");
+        }
+        bench.settle();
+        const MemoryTable& table = bench.controller.memories.vqMemArray;
+        for (int row = 0; row < memoryChannels; ++row) {
+            const MemoryChannel& channel = table[static_cast<std::size_t>(row)];
+            EXPECT_EQ(channel.frequency, std::to_string(7'000'001 + row).insert(0, "00")) << row;
+            EXPECT_THAT(channel.tag, testing::StartsWith("TAG " + std::to_string(row + 1))) << row;
+            EXPECT_EQ(bench.controller.memories.asRead[static_cast<std::size_t>(row)].row, channel) << row;
+        }
+        EXPECT_EQ(bench.radio.vqMemATag, "") << "it is no channel in use";
+    }
+}
+
 TEST(MemoryRead, RepliesThatSayNothingMoveTheChainAndChangeNothing) {
     for (const std::string_view reply :
          {"MR304014250000+000000200000;", "MRxyz014250000+000000200000;", "MR;", "MR;", "MR100014250000+000000200000;",

@@ -103,9 +103,10 @@ TEST(MemoryWrite, SavesWhatWasReadBeforeItIsWrittenOver) {
     ASSERT_EQ(files.size(), 1U);
     const auto& [path, contents] = *files.begin();
     EXPECT_EQ(path, "/data/memory-channels/2026-11-23T000000Z.csv");
-    EXPECT_THAT(contents, testing::StartsWith("Location,Name,Frequency,Mode\n1,20M PHONE,14.250000,USB\n"
-                                              "2,\"CW \"\"QRP\"\", 40\",7.030500,CW-U\n"));
-    EXPECT_EQ(bench.display.memoryBackupField.stringValue(), "The channels as last read are saved in " + path);
+    EXPECT_THAT(contents,
+                testing::StartsWith("Location,Name,Frequency,Mode,Record\n1,20M PHONE,14.250000,USB,+000000210000\n"
+                                    "2,\"CW \"\"QRP\"\", 40\",7.030500,CW-U,+000000310000\n"));
+    EXPECT_EQ(bench.display.memoryBackupField.stringValue(), "The channels as they were are saved in " + path);
 
     // What was written by this program need not be saved; what is read afterwards is.
     bench.display.writeMemoriesButton.performClick();
@@ -134,11 +135,35 @@ TEST(MemoryWrite, AsksFirstAndSaysWhatItWillDo) {
     bench.around.alerts.agree = false;
     bench.controller.memories.vqMemArray[0] = {"014250000", "2", "FT8"};
     bench.display.writeMemoriesButton.performClick();
+    bench.controller.memories.whole = true;
+    bench.display.writeMemoriesButton.performClick();
     bench.advance(1s);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
+    const std::string question =
+        "Write the memory channels to the transceiver?\n\n1 will be written, 98 will be erased. Clarifier, tone and "
+        "shift of every channel are reset.";
     EXPECT_THAT(bench.around.alerts.shown,
-                ElementsAre("Write the memory channels to the transceiver?\n\n1 will be written, 98 will be erased. "
-                            "They have not been read before, so nothing can be saved first. [Write]"));
+                ElementsAre(question + "\n\nThe channels have not been read to the end. What has not been read will be "
+                                       "erased and cannot be saved first. [Write]",
+                            question + " [Write]"));
+}
+
+TEST(MemoryWrite, AnAnswerToAnOldQuestionWritesNothing) {
+    TestBench bench;
+    bench.outlastOpening();
+    const auto answerAfter = [&](const std::function<void()>& change) {
+        bench.around.alerts.agree = false;
+        bench.display.writeMemoriesButton.performClick();
+        change();
+        bench.takeWrites();
+        bench.around.alerts.answerLast();
+        return bench.takeWrites();
+    };
+    EXPECT_THAT(answerAfter([&] { bench.display.readMemoriesButton.performClick(); }), IsEmpty());
+    EXPECT_THAT(bench.around.alerts.shown.back(), HasSubstr("have changed meanwhile"));
+    EXPECT_THAT(answerAfter([&] { bench.display.openCloseButton.performClick(); }), IsEmpty());
+    bench.display.openCloseButton.performClick();
+    EXPECT_THAT(answerAfter([] {}), testing::Not(IsEmpty()));
 }
 
 }  // namespace
