@@ -143,7 +143,7 @@ TEST(LinkTest, ClosingSwitchesTheReportsOffFirstAndSendsNothingMore) {
 TEST(LinkTest, PullingThePlugIsSaidAndShown) {
     Station station;
     station.synchronise();
-    const std::string path = station.radio.terminal->path();
+    const std::string path = station.radio.path();
     auto* message = station.find<QLabel>("linkMessageField");
     EXPECT_FALSE(message->isVisible());
     station.radio.unplug();

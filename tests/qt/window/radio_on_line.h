@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QSocketNotifier>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
@@ -10,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "simulator/port_link.h"
 #include "simulator/pseudo_terminal.h"
 #include "simulator/simulated_transceiver.h"
 
@@ -24,7 +26,7 @@ public:
         };
         next_.setSingleShot(true);
         QObject::connect(&next_, &QTimer::timeout, &next_, [this] { operate([](auto&) {}); });
-        QObject::connect(arrival_.get(), &QSocketNotifier::activated, arrival_.get(), [this] { serve(); });
+        connect();
     }
 
     // A hand on the transceiver, now.
@@ -41,9 +43,16 @@ public:
         arm();
     }
 
+    // Where the program finds the line, whichever terminal is behind it.
+    std::string path() const { return folder_.filePath("radio").toStdString(); }
     void unplug() {
         arrival_.reset();
+        link_.reset();
         terminal.reset();
+    }
+    void plugIn() {
+        terminal = std::make_unique<simulator::PseudoTerminal>();
+        connect();
     }
 
     // What came in since this was asked last, the bytes as one text.
@@ -63,6 +72,12 @@ private:
         return std::chrono::duration_cast<simulator::Time>(std::chrono::steady_clock::now() - start_);
     }
 
+    void connect() {
+        link_ = std::make_unique<simulator::PortLink>(path(), terminal->path());
+        arrival_ = std::make_unique<QSocketNotifier>(terminal->descriptor(), QSocketNotifier::Read);
+        QObject::connect(arrival_.get(), &QSocketNotifier::activated, arrival_.get(), [this] { serve(); });
+    }
+
     void arm() {
         const auto event = transceiver.nextEvent();
         if (event)
@@ -71,8 +86,9 @@ private:
     }
 
     const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
-    std::unique_ptr<QSocketNotifier> arrival_ =
-        std::make_unique<QSocketNotifier>(terminal->descriptor(), QSocketNotifier::Read);
+    const QTemporaryDir folder_;
+    std::unique_ptr<simulator::PortLink> link_;
+    std::unique_ptr<QSocketNotifier> arrival_;
     QTimer next_;
 };
 

@@ -71,7 +71,7 @@ private:
         made.settingsPath = folder.filePath("corvane.conf");
         made.dataPath = folder.filePath("data");
         made.soundsFolder = folder.path().toStdString();
-        made.extraPorts = {radio.terminal->path()};
+        made.extraPorts = {radio.path()};
         made.schedulerSpeed = speed;
         made.simulatedPort = false;
         return made;

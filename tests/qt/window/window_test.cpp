@@ -12,6 +12,7 @@
 #include <QScrollBar>
 #include <QSlider>
 #include <QTabBar>
+#include <QTableView>
 #include <algorithm>
 #include <map>
 #include <set>
@@ -55,7 +56,8 @@ std::vector<QWidget*> controlsInSight(Station& station) {
     for (auto* widget : station.window.findChildren<QWidget*>()) {
         const bool control = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QComboBox*>(widget) ||
                              qobject_cast<QSlider*>(widget) || qobject_cast<QLineEdit*>(widget) ||
-                             qobject_cast<QPlainTextEdit*>(widget) || qobject_cast<QProgressBar*>(widget);
+                             qobject_cast<QPlainTextEdit*>(widget) || qobject_cast<QProgressBar*>(widget) ||
+                             qobject_cast<QTableView*>(widget);
         const bool named = qobject_cast<QLabel*>(widget) && !widget->objectName().isEmpty();
         const bool partOfTabs = qobject_cast<QTabBar*>(widget->parentWidget()) != nullptr;
         if ((control || named) && !partOfTabs && widget->isVisibleTo(&station.window)) controls.push_back(widget);
@@ -128,6 +130,7 @@ TEST(WindowTest, EveryShortcutOfTheHelpPageDoesWhatItSaysOnEveryPage) {
     for (const FrontPanelKey& key : frontPanelKeys)
         if (!key.outlet.shortcut.empty()) watch(station.display.key(key.outlet.tag));
     watch(station.display.openCloseButton);
+    watch(station.display.autoMemoryNowButton);
     EXPECT_GT(shortcuts.size(), 30U);
 
     const auto pressAll = [&](QWidget* target) {
@@ -157,6 +160,13 @@ TEST(WindowTest, ShortcutsOfTheWindowGoWhereTheySay) {
     QTest::keySequence(&station.window, QKeySequence("Ctrl+R"));
     EXPECT_EQ(page(), Display::stationPage);
     EXPECT_TRUE(eventually([&] { return station.find<QLineEdit>("sendTextField")->hasFocus(); }));
+    QTest::keySequence(&station.window, QKeySequence("Ctrl+F"));
+    EXPECT_EQ(page(), Display::radioPage);
+    EXPECT_TRUE(eventually([&] { return station.find<QLineEdit>("freqTextField")->hasFocus(); }));
+    station.controller.enableTextMemoryControls();
+    QTest::keySequence(&station.window, QKeySequence("Ctrl+T"));
+    EXPECT_EQ(page(), Display::keyerPage);
+    EXPECT_TRUE(eventually([&] { return station.find<QLineEdit>("textMemoryField")->hasFocus(); }));
     QTest::keySequence(&station.window, QKeySequence("Ctrl+Q"));
     EXPECT_FALSE(station.window.isVisible());
 }

@@ -1,0 +1,285 @@
+// The operator's tools in the real window, on a real serial line: what hands and keys do to the transceiver.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QSlider>
+#include <QStyle>
+#include <QTableView>
+#include <algorithm>
+#include <cstdio>
+
+#include "station.h"
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct Tools : Station {
+    Tools() {
+        synchronise();
+        settle();
+    }
+    void show(int page) {
+        display.mainTab.selectItem(page);
+        ASSERT_TRUE(eventually([&] {
+            const auto* tabs = find<QTabWidget>("mainTab");
+            return tabs->currentIndex() == page && tabs->currentWidget()->isVisible();
+        }));
+    }
+    int tuned() const { return radio.transceiver.state().activeTuning().frequency; }
+    bool tunedTo(int hertz) {
+        return eventually([&] { return tuned() == hertz; });
+    }
+    bool memoriesRead() {
+        return eventually(
+            [this] { return controller.memories.vqMemRead == "0" && controller.memories.vqTagRead == "0"; });
+    }
+    QMessageBox* box() { return window.findChild<QMessageBox*>(); }
+};
+
+// The requests of a whole read of the memory channels.
+std::string wholeRead() {
+    std::string requests;
+    for (const char* name : {"MR", "MT"})
+        for (int count = 0; count <= 99; ++count) {
+            char request[16];
+            std::snprintf(request, sizeof request, "%s%03d;", name, std::max(1, count));
+            requests += request;
+        }
+    return requests;
+}
+
+TEST(ToolsTest, ATypedFrequencyStaysWhileTheKnobTurnsAndTunesOnReturn) {
+    Tools station;
+    station.show(Display::radioPage);
+    auto* field = station.find<QLineEdit>("freqTextField");
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, "7.0");
+    station.radio.operate([](auto& radio) { radio.tune(14'260'000); });
+    ASSERT_TRUE(eventually([&] { return station.find("vqFreqAButton")->text() == "14.260.000"; }));
+    EXPECT_EQ(field->text(), "7.0");
+    QTest::keyClicks(field, "305");
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_TRUE(station.tunedTo(7'030'500));
+    EXPECT_TRUE(eventually([&] { return field->text() == "7.030"; }));
+    EXPECT_FALSE(field->hasFocus());
+
+    field->setFocus();
+    QTest::keyClicks(field, "99");
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_EQ(field->text(), "7.030");
+    QTest::keyClicks(field, "9.9.9");
+    station.click("tuneButton");
+    ASSERT_TRUE(eventually([&] { return station.box() != nullptr; }));
+    EXPECT_EQ(station.box()->text(), "Frequency must be in MHz and greater than 0.03\n\nExample: 0.860");
+    EXPECT_TRUE(station.box()->isModal());
+    station.radio.operate([](auto& radio) { radio.tune(7'031'000); });
+    EXPECT_TRUE(eventually([&] { return field->text() == "7.031"; })) << "the window lives on behind the box";
+    QTest::keyClick(station.box(), Qt::Key_Return);
+    EXPECT_TRUE(eventually([&] { return station.box() == nullptr; }));
+}
+
+TEST(ToolsTest, KeysOpenAPopUpAndOnlyAChoiceIsSent) {
+    Tools station;
+    station.show(Display::radioPage);
+    station.radio.takeReceived();
+    auto* modes = station.find<QComboBox>("modesPopUpButton");
+    modes->setFocus();
+    QTest::keyClick(modes, Qt::Key_A);
+    QTest::keyClick(modes, Qt::Key_Down);
+    ASSERT_TRUE(eventually([&] { return modes->view()->isVisible(); }));
+    QTest::keyClick(modes->view(), Qt::Key_Down);
+    runEventLoop(20ms);
+    EXPECT_EQ(station.radio.takeReceived(), "");
+    QTest::keyClick(modes->view(), Qt::Key_Return);
+    EXPECT_TRUE(eventually([&] { return station.radio.transceiver.ask("MD0;") == "MD03;"; }));
+
+    const auto actions = station.window.findChildren<QAction*>();
+    const auto preset =
+        std::ranges::find_if(actions, [](const QAction* each) { return each->text() == "Phone - 40m"; });
+    ASSERT_NE(preset, actions.end());
+    (*preset)->trigger();
+    EXPECT_TRUE(station.tunedTo(7'200'000));
+}
+
+TEST(ToolsTest, ADraggedSliderSendsFewCommandsAndItsLastValue) {
+    Tools station;
+    station.show(Display::radioPage);
+    auto* slider = station.find<QSlider>("afGainSlider");
+    station.radio.takeReceived();
+    const int y = slider->height() / 2;
+    const auto knob = [&] {
+        return QStyle::sliderPositionFromValue(slider->minimum(), slider->maximum(), slider->value(), slider->width());
+    };
+    QTest::mousePress(slider, Qt::LeftButton, {}, {knob(), y});
+    ASSERT_TRUE(slider->isSliderDown());
+    for (int x = knob(); x < slider->width(); ++x) QTest::mouseMove(slider, {x, y});
+    EXPECT_GT(slider->value(), 200);
+    station.radio.operate([](auto& radio) { radio.setAfGain(33); });
+    runEventLoop(20ms);
+    EXPECT_GT(slider->value(), 200) << "it is held";
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, {slider->width() - 1, y});
+    runEventLoop(100ms);
+    const std::string sent = station.radio.takeReceived();
+    EXPECT_LE(std::ranges::count(sent, ';'), 4) << sent;
+    char last[16];
+    std::snprintf(last, sizeof last, "AG0%03d;", slider->value());
+    EXPECT_EQ(station.radio.transceiver.ask("AG0;"), last);
+}
+
+TEST(ToolsTest, AWholeReadAsksForEveryChannelInOrder) {
+    Tools station;
+    ASSERT_TRUE(station.memoriesRead());
+    station.show(Display::memoriesPage);
+    station.radio.takeReceived();
+    station.radio.transceiver.setInstantAnswers(false);
+    station.click("readMemoriesButton");
+    const auto* progress = station.find<QProgressBar>("memoryReadProgress");
+    EXPECT_TRUE(eventually([&] { return progress->isVisible() && progress->value() > 20; }));
+    EXPECT_LT(progress->value(), 200);
+    ASSERT_TRUE(station.memoriesRead());
+    EXPECT_EQ(station.radio.takeReceived(), wholeRead());
+    const auto* table = station.find<QTableView>("memoriesTable");
+    EXPECT_EQ(table->model()->index(4, 1).data().toString(), "14.050000");
+    EXPECT_EQ(table->model()->index(4, 2).data(Qt::AccessibleTextRole).toString(), "Mode, CW-U");
+}
+
+// Silence, a storm of errors, and a plug pulled in the middle: the next read works.
+TEST(ToolsTest, AnInterruptedReadLeavesTheProgramUsable) {
+    Tools station;
+    ASSERT_TRUE(station.memoriesRead());
+    station.show(Display::memoriesPage);
+    const auto readsEverything = [&] {
+        station.settle();
+        station.display.readMemoriesButton.performClick();
+        return station.memoriesRead() && station.controller.memories.vqMemArray[11].tag == "10M FM CALL ";
+    };
+    const auto stopAt = [&](int handled) {
+        station.display.readMemoriesButton.performClick();
+        ASSERT_TRUE(eventually([&] { return station.controller.memories.vqMemReadCnt >= handled; }));
+    };
+    station.radio.operate([](auto& radio) { radio.setFaults({.silent = true}); });
+    station.display.readMemoriesButton.performClick();
+    runEventLoop(200ms);
+    EXPECT_NE(station.display.memoryReadField.stringValue().find("no answer"), std::string::npos);
+    station.radio.operate([](auto& radio) { radio.setFaults({}); });
+    EXPECT_TRUE(readsEverything());
+
+    stopAt(3);
+    station.radio.operate([](auto& radio) {
+        for (int storm = 0; storm < 500; ++storm) radio.sendRaw("?;");
+    });
+    EXPECT_TRUE(readsEverything());
+
+    station.radio.transceiver.setInstantAnswers(false);
+    stopAt(3);
+    station.radio.unplug();
+    ASSERT_TRUE(eventually([&] { return station.controller.link.serialPort == nullptr; }));
+    EXPECT_NE(station.display.memoryReadField.stringValue().find("the link is closed"), std::string::npos);
+    station.radio.transceiver.setInstantAnswers(true);
+    station.radio.plugIn();
+    const auto listed = [&] {
+        const auto& ports = station.display.PortPopUpButton.entries();
+        return static_cast<int>(std::ranges::find(ports, station.radio.path()) - ports.begin());
+    };
+    ASSERT_TRUE(
+        eventually([&] { return listed() < static_cast<int>(station.display.PortPopUpButton.entries().size()); }));
+    station.display.PortPopUpButton.choose(listed());
+    station.display.openCloseButton.performClick();
+    EXPECT_TRUE(readsEverything());
+}
+
+TEST(ToolsTest, WritingAsksAndIsTakenBackByEscape) {
+    Tools station;
+    ASSERT_TRUE(station.memoriesRead());
+    station.show(Display::memoriesPage);
+    station.radio.takeReceived();
+    const std::string before = station.radio.transceiver.ask("MR005;");
+    for (const bool agree : {false, true}) {
+        station.click("writeMemoriesButton");
+        ASSERT_TRUE(eventually([&] { return station.box() && station.box()->isVisible(); }));
+        if (agree) {
+            for (auto* button : station.box()->buttons())
+                if (button->text() == "Write") button->click();
+        } else {
+            QTest::keyClick(station.box(), Qt::Key_Return);
+        }
+        ASSERT_TRUE(eventually([&] { return station.box() == nullptr; }));
+        station.settle();
+        EXPECT_EQ(QDir(station.folder.filePath("data/memory-channels")).entryList(QDir::Files).size(), agree ? 1 : 0);
+    }
+    EXPECT_EQ(station.radio.transceiver.ask("MR005;"), before);
+}
+
+TEST(ToolsTest, AutoMemoriesAreTunedToAndClearedInTheirTable) {
+    Tools station;
+    station.show(Display::memoriesPage);
+    for (const int hertz : {7'030'000, 7'040'000, 7'050'000}) {
+        station.radio.operate([&](auto& radio) { radio.tune(hertz); });
+        ASSERT_TRUE(eventually([&] { return station.controller.radio.vqFreqA == "00" + std::to_string(hertz); }));
+        station.click("autoMemoryNowButton");
+    }
+    auto* table = station.find<QTableView>("autoMemTable");
+    ASSERT_TRUE(eventually([&] { return table->model()->rowCount() >= 3; }));
+    const auto cell = [&](int row, int column) {
+        return table->visualRect(table->model()->index(row, column)).center();
+    };
+    EXPECT_EQ(table->model()->index(2, 1).data().toString(), "007030000");
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell(2, 0));
+    EXPECT_TRUE(station.tunedTo(7'030'000));
+    table->setCurrentIndex(table->model()->index(1, 3));
+    QTest::keyClick(table, Qt::Key_Space);
+    EXPECT_TRUE(eventually([&] { return table->model()->index(1, 1).data().toString() == "007030000"; }));
+    EXPECT_EQ(table->currentIndex().row(), 1) << "the keyboard stays in the table";
+    EXPECT_EQ(table->currentIndex().column(), 3);
+}
+
+TEST(ToolsTest, ATextOfSixtyCharactersGoesOutInTwoPiecesAndMemoryFiveIsKept) {
+    Tools station;
+    const std::string held = station.radio.transceiver.ask("EM05;");
+    station.radio.operate([](auto& radio) { radio.setMode('6'); });
+    ASSERT_TRUE(eventually([&] { return station.display.textMemoryField.enabled(); }));
+    station.settle();
+    station.show(Display::keyerPage);
+    const std::string first = "CQ CQ CQ DE N0CALL N0CALL N0CALL RYRYRYRYRYRYRYRY";
+    ASSERT_EQ(first.size(), 49U);
+    auto* field = station.find<QLineEdit>("textMemoryField");
+    QTest::keyClicks(field, QString::fromStdString(first + "PSE K ABCDE"));
+    QTest::keyClick(field, Qt::Key_Return);
+    ASSERT_TRUE(eventually([&] { return station.radio.transceiver.received().count("EM") >= 3; }));
+    EXPECT_EQ(station.radio.takeReceived(),
+              "EM05" + first + "};EN05;EM05PSE K ABCDE};EN05;EM05" + held.substr(4, held.size() - 5) + "};");
+    EXPECT_EQ(station.radio.transceiver.ask("EM05;"), held);
+
+    QTest::keyClicks(field, "CQ;");
+    auto* notice = station.find<QLabel>("textMemoryNoticeField");
+    EXPECT_TRUE(eventually([&] { return notice->isVisible(); }));
+    station.click("sendTextMemoryButton");
+    EXPECT_EQ(station.radio.takeReceived(), "");
+    EXPECT_EQ(field->text(), "CQ;");
+}
+
+TEST(ToolsTest, AnAmpersandInATextMakesNoShortcut) {
+    Tools station;
+    station.radio.operate([](auto& radio) { radio.setMode('3'); });
+    station.show(Display::keyerPage);
+    station.settle();
+    station.radio.operate([](auto& radio) { radio.sendRaw("KM1Q&R;"); });
+    auto* key = station.find("textMemory1Button");
+    ASSERT_TRUE(eventually([&] { return key->text() == "Q&&R"; }));
+    QTest::keyClick(&station.window, Qt::Key_R, Qt::AltModifier);
+    runEventLoop(20ms);
+    EXPECT_EQ(station.radio.transceiver.received().count("KY"), 0);
+    EXPECT_EQ(key->accessibleName(), "Text memory 1, Q&R");
+}
+
+}  // namespace
+}  // namespace corvane
