@@ -3,6 +3,8 @@
 
 #include <QDesktopServices>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QUrl>
 #include <atomic>
 #include <future>
@@ -12,6 +14,7 @@
 #include "event_loop.h"
 #include "qt/platform/background_worker.h"
 #include "qt/platform/desktop_web_browser.h"
+#include "qt/platform/home_data_folder.h"
 #include "qt/platform/standard_log.h"
 
 namespace corvane {
@@ -38,6 +41,24 @@ TEST(DesktopWebBrowserTest, OpensWebAddressesOnly) {
     }
     EXPECT_EQ(catcher.urls, (std::vector<std::string>{"https://example.org/corvane/", "http://127.0.0.1:8080/a?b=c"}));
     for (const char* scheme : {"http", "https", "file"}) QDesktopServices::unsetUrlHandler(scheme);
+}
+
+TEST(HomeDataFolderTest, SavesWholeFilesAndSaysWhyItCannot) {
+    const QTemporaryDir home;
+    HomeDataFolder folder(home.filePath("data"));
+    const auto contents = [](const std::string& path) {
+        QFile file(QString::fromStdString(path));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "no such file";
+    };
+    for (const char* text : {"first\n", "second, longer\n"}) {
+        const SavedFile saved = folder.save("memory-channels/a.csv", text);
+        EXPECT_EQ(saved.error, "");
+        EXPECT_EQ(saved.path, home.filePath("data/memory-channels/a.csv").toStdString());
+        EXPECT_EQ(contents(saved.path), text);
+    }
+    const SavedFile refused = folder.save("memory-channels/a.csv/b.csv", "x");  // a file stands where a folder should
+    EXPECT_NE(refused.error, "");
+    EXPECT_EQ(contents(home.filePath("data/memory-channels/a.csv").toStdString()), "second, longer\n");
 }
 
 TEST(StandardLogTest, WritesWholeLines) {
