@@ -4,7 +4,7 @@
 
 #include "qt/window/control_texts.h"
 #include "qt/window/control_views.h"
-#include "qt/window/key_button.h"
+#include "qt/window/entry_row.h"
 #include "qt/window/key_grid.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
@@ -39,18 +39,8 @@ Panel* sendPanel(Display& display, ChangeQueue& queue) {
     columns->addLayout(numberedKeys({display.textMemoryButtons.begin(), display.textMemoryButtons.end()}, queue), 2);
     columns->addWidget(logView(display.sentTextMemoryField, queue), 1);
     panel->content().addLayout(columns);
-    auto* typed = new QHBoxLayout;
-    typed->setSpacing(2 * gridStep);
-    auto* text = new TextFieldView(display.textMemoryField, queue);
-    text->setPlaceholderText("Text to transmit");
-    typed->addWidget(titleLabel(display.textMemoryField, *text));
-    typed->addWidget(text, 1);
-    for (Button* key : {&display.sendTextMemoryButton, &display.clearTextMemoryButton}) {
-        auto* view = new KeyButton(*key, queue);
-        view->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        typed->addWidget(view);
-    }
-    panel->content().addLayout(typed);
+    panel->content().addLayout(entryRow(display.textMemoryField, "Text to transmit",
+                                        {&display.sendTextMemoryButton, &display.clearTextMemoryButton}, queue));
     panel->content().addWidget(new NoticeLabel(display.textMemoryNoticeField, queue));
     panel->content().addLayout(keyGrid(display, KeyPanel::keyer, queue, 3));
     return panel;

@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "qt/window/control_views.h"
+#include "qt/window/entry_row.h"
 #include "qt/window/key_button.h"
 #include "qt/window/key_grid.h"
 #include "qt/window/pages.h"
@@ -55,34 +56,17 @@ Panel* firstStepsPanel() {
 
 Panel* commandPanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel("Commands by hand");
-    auto* row = new QHBoxLayout;
-    row->setSpacing(2 * gridStep);
-    auto* field = new TextFieldView(display.sendTextField, queue);
-    field->setPlaceholderText("FA;");
-    auto* send = new KeyButton(display.sendButton, queue);
-    send->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    row->addWidget(titleLabel(display.sendTextField, *field));
-    row->addWidget(field, 1);
-    row->addWidget(send);
-    panel->content().addLayout(row);
+    panel->content().addLayout(entryRow(display.sendTextField, "FA;", {&display.sendButton}, queue));
     panel->content().addWidget(
         richText("Any CAT command, with or without its last semicolon; several one after the other."
                  " What the transceiver answers shows where it belongs."));
+    panel->content().addStretch();
     return panel;
 }
 
 Panel* callPanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel("Operator");
-    auto* row = new QHBoxLayout;
-    row->setSpacing(2 * gridStep);
-    auto* field = new TextFieldView(display.callTextField, queue);
-    field->setPlaceholderText("N0CALL");
-    auto* save = new KeyButton(display.saveCallButton, queue);
-    save->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    row->addWidget(titleLabel(display.callTextField, *field));
-    row->addWidget(field, 1);
-    row->addWidget(save);
-    panel->content().addLayout(row);
+    panel->content().addLayout(entryRow(display.callTextField, "N0CALL", {&display.saveCallButton}, queue));
     panel->content().addWidget(new NoticeLabel(display.callNoticeField, queue));
     panel->content().addWidget(richText("Written into the transceiver's own menu, in capitals."));
     panel->content().addStretch();

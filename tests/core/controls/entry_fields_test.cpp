@@ -52,10 +52,10 @@ TEST(FrequencyEntry, ATypedFrequencyIsSentInOneWrite) {
 TEST(FrequencyEntry, NoTypedHertzIsLost) {
     TunedBench bench;
     for (int hertz = 30'000; hertz <= 75'000'000; hertz += 99'991) {
-        char typed[16];
+        char typed[32];
         std::snprintf(typed, sizeof typed, "%d.%06d", hertz / 1'000'000, hertz % 1'000'000);
         bench.typeAndReturn(bench.display.freqTextField, typed);
-        char sent[16];
+        char sent[32];
         std::snprintf(sent, sizeof sent, "FA%09d;", hertz);
         ASSERT_THAT(bench.takeWrites().front(), testing::HasSubstr(sent)) << typed;
     }

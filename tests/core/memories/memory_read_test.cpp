@@ -17,7 +17,7 @@ Writes wholeRead() {
     Writes requests;
     for (const char* name : {"MR", "MT"}) {
         for (int count = 0; count <= 99; ++count) {
-            char request[16];
+            char request[32];
             std::snprintf(request, sizeof request, "%s%03d;", name, std::max(1, count));
             requests.emplace_back(request);
         }

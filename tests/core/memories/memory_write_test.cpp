@@ -28,7 +28,7 @@ TEST(MemoryWrite, WritesProgrammedRowsWithTheirTagsAndErasesTheOthers) {
     const Writes written = bench.write();
     Writes expected;
     for (int channel = 1; channel <= memoryChannels; ++channel) {
-        char number[8];
+        char number[16];
         std::snprintf(number, sizeof number, "%03d", channel);
         const std::string erase = std::string("MW") + number + "000000000+0000001000001-- ERASE -- ;";
         if (channel == 1) {
@@ -72,7 +72,7 @@ TEST(MemoryWrite, ReadAndWrittenBackTheChannelsAreAsTheyWere) {
         std::string all;
         for (int channel = 1; channel <= memoryChannels; ++channel)
             for (const char* name : {"MR", "MT"}) {
-                char request[16];
+                char request[32];
                 std::snprintf(request, sizeof request, "%s%03d;", name, channel);
                 all += bench.transceiver.ask(request);
             }

@@ -49,7 +49,7 @@ std::string wholeRead() {
     std::string requests;
     for (const char* name : {"MR", "MT"})
         for (int count = 0; count <= 99; ++count) {
-            char request[16];
+            char request[32];
             std::snprintf(request, sizeof request, "%s%03d;", name, std::max(1, count));
             requests += request;
         }
@@ -130,7 +130,7 @@ TEST(ToolsTest, ADraggedSliderSendsFewCommandsAndItsLastValue) {
     runEventLoop(100ms);
     const std::string sent = station.radio.takeReceived();
     EXPECT_LE(std::ranges::count(sent, ';'), 4) << sent;
-    char last[16];
+    char last[32];
     std::snprintf(last, sizeof last, "AG0%03d;", slider->value());
     EXPECT_EQ(station.radio.transceiver.ask("AG0;"), last);
 }
