@@ -259,7 +259,7 @@ public:
           shared_(shared),
           bare_(bare),
           owner_(options(std::move(port))),
-          controller_(quietPlatform(), {}),
+          controller_(quietPlatform(), ServiceHosts::from("http://127.0.0.1:1")),
           window_(controller_),
           counting_(controller_) {
         controller_.awakeFromNib();

@@ -27,6 +27,7 @@ void SerialPortDemoController::restoreSettings() {
     const int power = display.powerPopUpButton.indexOfSelectedItem();
     display.powerPopUpButton.setEntries(powerEntries());
     display.powerPopUpButton.selectItem(power);
+    fetchLists();
 }
 
 void SerialPortDemoController::goMainMenu(MenuItem& sender) {

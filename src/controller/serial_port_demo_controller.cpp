@@ -5,6 +5,7 @@
 
 #include "controls/text_messages.h"
 #include "display/table_columns.h"
+#include "feeds/feed_table.h"
 #include "memories/table_cells.h"
 
 namespace corvane {
@@ -21,6 +22,7 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
     bindPopUps();
     bindEntries();
     bindTables();
+    bindLists();
     fillPresetPopUp();
     showMemoryChannels();
     setMemoryKeysEnabled(false);
@@ -54,16 +56,13 @@ void SerialPortDemoController::awakeFromNib() {
     restoreSettings();
     const bool remembered = !userDefaults.text("defaultPort").value_or("").empty();
     if (!link.serialPort && !remembered) setSerialPort(serialPortManager.suggestedPort());
+    fetchBandConditions();
     autoMemorySample();
 }
 
 void SerialPortDemoController::bindControls() {
-    for (const FrontPanelKey& row : frontPanelKeys) {
-        Button& key = display.key(row.outlet.tag);
-        key.action = [this](Button& sender) { go(sender); };
-        // There is nothing yet that these keys could refresh.
-        if (row.panel == KeyPanel::lists) key.setEnabled(false);
-    }
+    for (const FrontPanelKey& row : frontPanelKeys)
+        display.key(row.outlet.tag).action = [this](Button& sender) { go(sender); };
     display.sendButton.action = [this](Button& sender) { sendBox(sender); };
     display.sendTextField.action = [this](TextField& sender) { returnPressedInTextField(sender); };
     display.openCloseButton.action = [this](Button& sender) { openOrClosePort(sender); };
@@ -156,6 +155,37 @@ void SerialPortDemoController::bindTables() {
         cell.setTag(row);
         cell.performClick();
     };
+}
+
+void SerialPortDemoController::bindLists() {
+    for (std::size_t i = 0; i < feedCount; ++i)
+        feedRefreshes_.emplace_back(platform_.http, [this](Scheduler::Duration delay, std::function<void()> task) {
+            later(delay, std::move(task));
+        });
+    for (const ListFeed& row : listFeeds) {
+        TableView& table = display.*row.table;
+        table.rowCount = [this, &row] { return static_cast<int>((feeds.*row.list).size()); };
+        table.text = [this, &row, &table](int index, int column) {
+            const TableColumn& shown = table.columns()[static_cast<std::size_t>(column)];
+            if (shown.kind == TableColumn::Kind::button) return std::string(shown.title);
+            return feedCell(row.cells, shown.identifier, (feeds.*row.list)[static_cast<std::size_t>(index)]);
+        };
+        table.onPress = [this, &row](int index, int column) {
+            const bool directory = row.feed == Feed::nets;
+            Button& button = directory && column == netsTableConfirmColumn     ? display.netsTableConfirmButton
+                             : directory && column == netsTableUnconfirmColumn ? display.netsTableUnconfirmButton
+                                                                               : display.*row.tuneButton;
+            button.setTag(index);
+            button.performClick();
+        };
+    }
+    display.potaTableTuneButton.action = [this](Button& sender) { goPotaTune(sender); };
+    display.sotaTableTuneButton.action = [this](Button& sender) { goSotaTune(sender); };
+    display.netLoggerTableTuneButton.action = [this](Button& sender) { goNetLoggerTune(sender); };
+    display.netsTableTuneButton.action = [this](Button& sender) { goNetsTune(sender); };
+    display.netsTableConfirmButton.action = [this](Button& sender) { goNetsConfirm(sender); };
+    display.netsTableUnconfirmButton.action = [this](Button& sender) { goNetsUnconfirm(sender); };
+    display.mwTableTuneButton.action = [this](Button& sender) { goMWTune(sender); };
 }
 
 void SerialPortDemoController::later(Scheduler::Duration delay, std::function<void()> task) {

@@ -17,6 +17,8 @@
 //   operator class       what may be done on a frequency          controls/operator_class.cpp
 //   memories             the memory channels                      memories/memory_read.cpp, memory_write.cpp
 //   auto memories        frequencies where a signal was heard     memories/auto_memories.cpp
+//   on-line lists        fetching them                            feeds/feed_refreshes.cpp
+//   listed stations      tuning to a row, check-ins               feeds/tune_actions.cpp
 //   settings             what is kept between runs                app/settings_restore.cpp
 //   voice and sounds     what is heard, and the help page         app/voice_and_sounds.cpp
 #pragma once
@@ -30,6 +32,8 @@
 #include "controls/command_pacer.h"
 #include "controls/power_off_state.h"
 #include "display/display.h"
+#include "feeds/feed_refresh.h"
+#include "feeds/feed_state.h"
 #include "interpret/radio_state.h"
 #include "memories/auto_memory_state.h"
 #include "memories/memory_state.h"
@@ -38,6 +42,7 @@
 
 namespace corvane {
 
+enum class Feed : int;
 struct MemoryReply;
 struct ModeGroup;
 
@@ -173,6 +178,24 @@ public:
     void goAutoMemSquelch(Slider& sender);
     void applyAutoMemSquelch(int index);
 
+    // --- on-line lists: feeds/feed_refreshes.cpp
+    void fetchPotaSpots();
+    void fetchSotaSpots();
+    void fetchNetLoggerNets();
+    void fetchNets();
+    void fetchMWStations();
+    void fetchBandConditions();
+    void fetchLists();  // the five lists, in the order of the start
+
+    // --- listed stations: feeds/tune_actions.cpp; the sender's tag is the row
+    void goPotaTune(Button& sender);
+    void goSotaTune(Button& sender);
+    void goNetLoggerTune(Button& sender);
+    void goNetsTune(Button& sender);
+    void goMWTune(Button& sender);
+    void goNetsConfirm(Button& sender);
+    void goNetsUnconfirm(Button& sender);
+
     // --- settings: app/settings_restore.cpp
     void restoreSettings();
     void goMainMenu(MenuItem& sender);
@@ -196,6 +219,7 @@ public:
     MemoryState memories;
     AutoMemoryState autoMemories;
     PowerOffState powerOff;
+    FeedState feeds;
     Preferences preferences;
 
 private:
@@ -250,6 +274,15 @@ private:
     void clearAutoMemories();
     void setAutoMemSquelch(int index);
 
+    void bindLists();
+    FeedRefresh& refreshOf(Feed feed);
+    void fetchList(Feed feed, std::function<void()> then = {});
+    void fetchConditions(std::function<void()> then = {});
+    void showBandConditions(std::string_view body);
+    void tuneTo(std::string command, const std::string& name);
+    void postConfirmation(const std::string& net, int action, std::function<void()> then);
+    std::string operatorKey();
+
     // The kinds of keys; each says whether it built a command, which the common tail then sends.
     bool pressBandKey(Button& sender);
     bool pressModeKey(Button& sender);
@@ -269,6 +302,7 @@ private:
     bool pressProductPageKey(Button& sender);
     bool pressReadMenuKey(Button& sender);
     bool pressClearAutoMemoriesKey(Button& sender);
+    bool pressRefreshKey(Button& sender);
     void finishGo();  // the tail of every key: break-in on, then send what the key built
 
     Platform platform_;
@@ -276,6 +310,7 @@ private:
     std::shared_ptr<const int> alive_ = std::make_shared<const int>(0);  // delayed tasks hold it weakly
     CommandPacer afGainPacer_;
     CommandPacer rfGainPacer_;
+    std::deque<FeedRefresh> feedRefreshes_;  // by Feed
 };
 
 }  // namespace corvane

@@ -39,6 +39,7 @@ void SerialPortDemoController::go(Button& sender) {
         Kind{606, 606, &Controller::pressClearLogKey},
         Kind{muteTag, muteTag, &Controller::pressMuteKey},
         Kind{805, 805, &Controller::pressProductPageKey},
+        Kind{810, 814, &Controller::pressRefreshKey},
         Kind{815, 815, &Controller::pressClearAutoMemoriesKey},
         Kind{1225, 1234, &Controller::pressToggleKey},
         Kind{1351, 1351, &Controller::pressScopeColorKey},

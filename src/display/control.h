@@ -9,7 +9,7 @@
 
 namespace corvane {
 
-enum class Color { none, blue, green, red, purple, pink, brown, gray, darkGray };
+enum class Color { none, blue, green, orange, red, purple, pink, brown, gray, darkGray };
 
 // What the interface says of a control: fixed texts, which live as long as the program.
 struct Outlet {

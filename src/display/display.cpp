@@ -30,6 +30,11 @@ constexpr Outlet memoriesTableOutlet{"memoriesTable", 0, "", "Memory channels",
                                      "The 99 memory channels, as read from the transceiver."};
 constexpr Outlet autoMemTableOutlet{"autoMemTable", 0, "", "Auto memories",
                                     "Frequencies at which a signal was heard, newest first."};
+constexpr Outlet potaTableOutlet{"potaTable", 0, "", "POTA spots", "Parks on the air, youngest spot first."};
+constexpr Outlet sotaTableOutlet{"sotaTable", 0, "", "SOTA spots", "Summits on the air."};
+constexpr Outlet netLoggerTableOutlet{"netLoggerTable", 0, "", "Active nets", "SSB nets on NetLogger, busiest first."};
+constexpr Outlet netsTableOutlet{"netsTable", 0, "", "Nets directory", "Nets, with their times and your check-ins."};
+constexpr Outlet mwTableOutlet{"mwTable", 0, "", "Medium-wave stations", "Broadcast stations on medium wave."};
 constexpr Outlet memoryReadProgressOutlet{"memoryReadProgress", 0, "", "Reading memory channels",
                                           "How much of the memory channels has been read."};
 
@@ -56,7 +61,12 @@ Display::Display()
       pskMemoryButtons(pskMemories.begin(), pskMemories.end()),
       memoriesTable(memoriesTableOutlet, memoriesTableColumns),
       memoryReadProgress(memoryReadProgressOutlet, memoryReadSteps),
-      autoMemTable(autoMemTableOutlet, autoMemTableColumns) {
+      autoMemTable(autoMemTableOutlet, autoMemTableColumns),
+      potaTable(potaTableOutlet, potaTableColumns),
+      sotaTable(sotaTableOutlet, sotaTableColumns),
+      netLoggerTable(netLoggerTableOutlet, netLoggerTableColumns),
+      netsTable(netsTableOutlet, netsTableColumns),
+      mwTable(mwTableOutlet, mwTableColumns) {
     for (PopUpButton* popUp : {&cwMemoryPopUpButton, &rttyMemoryPopUpButton, &pskMemoryPopUpButton})
         fill(*popUp, entryList(editorMemories));
     memoryReadProgress.setVisible(false);

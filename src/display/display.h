@@ -24,7 +24,9 @@ struct Display {
     static constexpr int radioPage = 1;
     static constexpr int keyerPage = 2;
     static constexpr int memoriesPage = 3;
-    static constexpr int settingsPage = 4;
+    static constexpr int listsPage = 4;
+    static constexpr int settingsPage = 5;
+    static constexpr int listsPages = 6;     // five lists and the band conditions
     static constexpr int settingsPages = 4;  // of the settings tab, one a menu group
     static constexpr int memories = 5;       // of each family of keyer and text memories
 
@@ -179,6 +181,47 @@ public:
         {"autoMemsTableTuneButton", 0, "Tune", "Tune to this frequency", "Tune to this auto memory."}};
     Button autoMemsTableClearButton{
         {"autoMemsTableClearButton", 0, "Clear", "Clear this auto memory", "Remove this auto memory."}};
+
+    // --- lists page
+    TabView listsTab{{"listsTab", 0, "", "On-line lists"}};
+    TableView potaTable;
+    TableView sotaTable;
+    TableView netLoggerTable;
+    TableView netsTable;
+    TableView mwTable;
+    TextField potaStatusField{{"potaStatusField", 0, "", "POTA spots", "When the list was fetched, and what came."}};
+    TextField sotaStatusField{{"sotaStatusField", 0, "", "SOTA spots", "When the list was fetched, and what came."}};
+    TextField netLoggerStatusField{
+        {"netLoggerStatusField", 0, "", "Active nets", "When the list was fetched, and what came."}};
+    TextField netsStatusField{
+        {"netsStatusField", 0, "", "Nets directory", "When the list was fetched, and what came."}};
+    TextField mwStatusField{
+        {"mwStatusField", 0, "", "Medium-wave stations", "When the list was fetched, and what came."}};
+    Button potaTableTuneButton{{"potaTableTuneButton", 0, "Tune", "Tune to this spot", "Tune to this spot."}};
+    Button sotaTableTuneButton{{"sotaTableTuneButton", 0, "Tune", "Tune to this spot", "Tune to this spot."}};
+    Button netLoggerTableTuneButton{{"netLoggerTableTuneButton", 0, "Tune", "Tune to this net", "Tune to this net."}};
+    Button netsTableTuneButton{{"netsTableTuneButton", 0, "Tune", "Tune to this net", "Tune to this net."}};
+    Button netsTableConfirmButton{
+        {"netsTableConfirmButton", 0, "Confirm", "Confirm check-in", "Tell the net that you will check in."}};
+    Button netsTableUnconfirmButton{
+        {"netsTableUnconfirmButton", 0, "Retract", "Retract check-in", "Take your confirmation back."}};
+    Button mwTableTuneButton{{"mwTableTuneButton", 0, "Tune", "Tune to this station", "Tune to this station in AM."}};
+
+    // --- band conditions
+    Box bandBox{{"bandBox", 0, "Band Conditions", "Band conditions"}};
+    TextField solarFluxField{{"solarFluxField", 0, "Solar flux", "Solar flux", "Solar flux index."}};
+    TextField day8040Field{{"day8040Field", 0, "80\u201340 m", "80 to 40 meters by day", "By day."}};
+    TextField day3020Field{{"day3020Field", 0, "30\u201320 m", "30 to 20 meters by day", "By day."}};
+    TextField day1715Field{{"day1715Field", 0, "17\u201315 m", "17 to 15 meters by day", "By day."}};
+    TextField day1210Field{{"day1210Field", 0, "12\u201310 m", "12 to 10 meters by day", "By day."}};
+    TextField night8040Field{{"night8040Field", 0, "80\u201340 m", "80 to 40 meters by night", "By night."}};
+    TextField night3020Field{{"night3020Field", 0, "30\u201320 m", "30 to 20 meters by night", "By night."}};
+    TextField night1715Field{{"night1715Field", 0, "17\u201315 m", "17 to 15 meters by night", "By night."}};
+    TextField night1210Field{{"night1210Field", 0, "12\u201310 m", "12 to 10 meters by night", "By night."}};
+    TextField magicBandField{{"magicBandField", 0, "6 m", "Magic band, 6 meters", "Whether the magic band is open."}};
+    TextField signalNoiseField{{"signalNoiseField", 0, "Noise", "Noise level", "Expected noise level."}};
+    TextField bandStatusField{
+        {"bandStatusField", 0, "", "Band conditions fetched", "When the conditions were fetched, and what came."}};
 
     // --- menu bar
     MenuItem menuItemPreferencesVoice{{"menuItemPreferencesVoice", 900, "Voice guide", "Voice guide",

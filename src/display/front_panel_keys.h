@@ -121,11 +121,11 @@ inline constexpr std::array frontPanelKeys{
     FrontPanelKey{{"muteButton", 610, "MUTE", "Mute", "Silence the receiver; press again for the volume as it was.", "Ctrl+M"}, KeyPanel::functions},
 
     FrontPanelKey{{"", 805, "Product page", "Product page", "Open Corvane's product page in the web browser."}, KeyPanel::none},
-    FrontPanelKey{{"", 810, "Band conditions", "Refresh band conditions", "Fetches the band conditions. This version does not show them yet."}, KeyPanel::lists},
-    FrontPanelKey{{"", 811, "POTA", "Refresh POTA spots", "Fetches the POTA spots. This version does not show them yet."}, KeyPanel::lists},
-    FrontPanelKey{{"", 812, "NetLogger", "Refresh NetLogger nets", "Fetches the active nets. This version does not show them yet."}, KeyPanel::lists},
-    FrontPanelKey{{"", 813, "SOTA", "Refresh SOTA spots", "Fetches the SOTA spots. This version does not show them yet."}, KeyPanel::lists},
-    FrontPanelKey{{"", 814, "Nets", "Refresh the nets directory", "Fetches the directory of nets. This version does not show it yet."}, KeyPanel::lists},
+    FrontPanelKey{{"", 810, "Refresh", "Refresh band conditions", "Fetch the band conditions again."}, KeyPanel::lists},
+    FrontPanelKey{{"", 811, "Refresh", "Refresh POTA spots", "Fetch the POTA spots again."}, KeyPanel::lists},
+    FrontPanelKey{{"", 812, "Refresh", "Refresh NetLogger nets", "Fetch the active nets again."}, KeyPanel::lists},
+    FrontPanelKey{{"", 813, "Refresh", "Refresh SOTA spots", "Fetch the SOTA spots again."}, KeyPanel::lists},
+    FrontPanelKey{{"", 814, "Refresh", "Refresh the nets directory", "Fetch the nets directory again."}, KeyPanel::lists},
     FrontPanelKey{{"", 815, "Clear all", "Clear all auto memories", "Remove all auto memories and their notes."}, KeyPanel::autoMemories},
 
     FrontPanelKey{{"", 2010100, "Read from transceiver", "Read the radio setting menu", "Read the items of this menu group from the transceiver."}, KeyPanel::menuGroups},

@@ -3,6 +3,7 @@
 
 #include "platform/alerts.h"
 #include "platform/data_folder.h"
+#include "platform/http_client.h"
 #include "platform/log.h"
 #include "platform/notification_center.h"
 #include "platform/scheduler.h"
@@ -24,6 +25,7 @@ struct Platform {
     WebBrowser& browser;
     Alerts& alerts;
     DataFolder& dataFolder;
+    HttpClient& http;
     Log& log;
 };
 

@@ -30,7 +30,15 @@ void forEachControl(Display& display, Each each) {
         &display.memoriesTable, &display.writeMemoriesButton, &display.memoryReadField, &display.memoryReadProgress,
         &display.memoryBackupField, &display.autoMemTable, &display.autoMemoryNowButton,
         &display.autoMemSquelchSlider, &display.autoMemSquelchTextField, &display.autoMemsTableTuneButton,
-        &display.autoMemsTableClearButton
+        &display.autoMemsTableClearButton, &display.listsTab, &display.potaTable, &display.sotaTable,
+        &display.netLoggerTable, &display.netsTable, &display.mwTable, &display.potaStatusField,
+        &display.sotaStatusField, &display.netLoggerStatusField, &display.netsStatusField, &display.mwStatusField,
+        &display.potaTableTuneButton, &display.sotaTableTuneButton, &display.netLoggerTableTuneButton,
+        &display.netsTableTuneButton, &display.netsTableConfirmButton, &display.netsTableUnconfirmButton,
+        &display.mwTableTuneButton, &display.bandBox, &display.solarFluxField, &display.day8040Field,
+        &display.day3020Field, &display.day1715Field, &display.day1210Field, &display.night8040Field,
+        &display.night3020Field, &display.night1715Field, &display.night1210Field, &display.magicBandField,
+        &display.signalNoiseField, &display.bandStatusField
     };
     // clang-format on
     for (Control* control : controls) each(*control);

@@ -8,6 +8,7 @@
 
 #include "platform/alerts.h"
 #include "platform/data_folder.h"
+#include "platform/http_client.h"
 #include "platform/log.h"
 #include "platform/sound_player.h"
 #include "platform/speech_synthesizer.h"
@@ -45,6 +46,20 @@ struct RecordingAlerts final : Alerts {
 
 private:
     std::function<void()> last_;  // the question that has no answer yet
+};
+
+// Requests as they were made; a test answers them one by one.
+struct RecordingHttpClient final : HttpClient {
+    Cancel send(const HttpRequest& request, std::function<void(HttpResponse)> completed) override {
+        requests.push_back(request);
+        pending.push_back(std::move(completed));
+        return [this, index = pending.size() - 1] { cancelled.push_back(index); };
+    }
+    // Answers the n-th request, also one that nobody waits for any more.
+    void answer(std::size_t index, HttpResponse response) { pending.at(index)(std::move(response)); }
+    std::vector<HttpRequest> requests;
+    std::vector<std::size_t> cancelled;
+    std::vector<std::function<void(HttpResponse)>> pending;
 };
 
 struct RecordingDataFolder final : DataFolder {

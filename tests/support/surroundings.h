@@ -21,10 +21,11 @@ struct Surroundings {
     RecordingWebBrowser browser;
     RecordingAlerts alerts;
     RecordingDataFolder dataFolder;
+    RecordingHttpClient http;
     RecordingLog log;
 
     Platform platform() {
-        return {portManager, notices, scheduler, settings, speech, sounds, browser, alerts, dataFolder, log};
+        return {portManager, notices, scheduler, settings, speech, sounds, browser, alerts, dataFolder, http, log};
     }
 };
 

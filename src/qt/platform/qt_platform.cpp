@@ -10,6 +10,7 @@
 #include "qt/platform/ini_settings_store.h"
 #include "qt/platform/message_box_alerts.h"
 #include "qt/platform/pulse_sound_player.h"
+#include "qt/platform/qt_http_client.h"
 #include "qt/platform/qt_scheduler.h"
 #include "qt/platform/qt_serial_port_manager.h"
 #include "qt/platform/simulated_port.h"
@@ -47,6 +48,7 @@ struct QtPlatform::Parts {
     DesktopWebBrowser browser;
     MessageBoxAlerts alerts;
     HomeDataFolder dataFolder;
+    QtHttpClient http;
     StandardLog log;
 };
 
@@ -74,6 +76,7 @@ Platform QtPlatform::platform() {
             parts_->browser,
             parts_->alerts,
             parts_->dataFolder,
+            parts_->http,
             parts_->log};
 }
 

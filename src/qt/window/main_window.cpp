@@ -65,6 +65,7 @@ void MainWindow::makePages() {
     pages->addPage("Radio", [this, &display] { return makeRadioPage(display, queue_); });
     pages->addPage("Keyer", [this, &display] { return makeKeyerPage(display, queue_); });
     pages->addPage("Memories", [this, &display] { return makeMemoriesPage(display, queue_); });
+    pages->addPage("Lists", [this, &display] { return makeListsPage(display, queue_); });
     pages->addPage("Settings", [this, &display] { return makeSettingsPage(display, queue_); });
     pages->addPage("Help", [&display] { return makeHelpPage(display); });
     rows->addWidget(pages, 1);

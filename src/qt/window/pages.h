@@ -11,6 +11,7 @@ QWidget* makeStationPage(Display& display, ChangeQueue& queue);
 QWidget* makeRadioPage(Display& display, ChangeQueue& queue);
 QWidget* makeKeyerPage(Display& display, ChangeQueue& queue);
 QWidget* makeMemoriesPage(Display& display, ChangeQueue& queue);
+QWidget* makeListsPage(Display& display, ChangeQueue& queue);
 QWidget* makeSettingsPage(Display& display, ChangeQueue& queue);
 QWidget* makeHelpPage(Display& display);
 

@@ -16,7 +16,7 @@ std::vector<ShortcutText> shortcutTexts(Display& display) {
     std::vector<ShortcutText> texts{
         {"F1", "This page"},
         {"Ctrl+Q", "Quit"},
-        {"Alt+1 to Alt+6", "Pages"},
+        {"Alt+1 to Alt+7", "Pages"},
         {"Tab, Shift+Tab", "Next and previous control"},
         textOf(display.openCloseButton.outlet()),
         textOf(display.sendTextField.outlet()),

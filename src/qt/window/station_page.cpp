@@ -5,7 +5,6 @@
 #include "qt/window/control_views.h"
 #include "qt/window/entry_row.h"
 #include "qt/window/key_button.h"
-#include "qt/window/key_grid.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
 #include "qt/window/theme.h"
@@ -84,12 +83,9 @@ QWidget* makeStationPage(Display& display, ChangeQueue& queue) {
     grid->addWidget(firstStepsPanel(), 0, 1);
     grid->addWidget(commandPanel(display, queue), 1, 0);
     grid->addWidget(callPanel(display, queue), 1, 1);
-    auto* lists = new Panel("On-line lists");
-    lists->content().addLayout(keyGrid(display, KeyPanel::lists, queue, 6));
-    grid->addWidget(lists, 2, 0, 1, 2);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
-    grid->setRowStretch(3, 1);
+    grid->setRowStretch(2, 1);
     return page;
 }
 

@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QSortFilterProxyModel>
 #include <QStyledItemDelegate>
 #include <algorithm>
 
@@ -68,6 +69,42 @@ private:
     int rows_;
 };
 
+}  // namespace
+
+// The rows that pass the filter.
+class FilteredRows final : public QSortFilterProxyModel {
+public:
+    FilteredRows(TableView& table, QObject* parent) : QSortFilterProxyModel(parent), table_(table), rows_(table, this) {
+        setSourceModel(&rows_);
+    }
+
+    void setFilter(const QString& text) {
+        words_ = text.simplified().split(' ', Qt::SkipEmptyParts);
+        invalidateFilter();
+    }
+    void reload() { rows_.reload(); }
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex&) const override {
+        return std::ranges::all_of(words_, [&](const QString& word) { return contains(row, word); });
+    }
+
+private:
+    bool contains(int row, const QString& word) const {
+        for (int column = 0; column < rows_.columnCount({}); ++column) {
+            const bool text = columnOf(table_, column).kind == TableColumn::Kind::text;
+            if (text && rows_.index(row, column).data().toString().contains(word, Qt::CaseInsensitive)) return true;
+        }
+        return false;
+    }
+
+    TableView& table_;
+    TableRows rows_;
+    QStringList words_;
+};
+
+namespace {
+
 // Paints the cells of a button column as keys.
 class CellDelegate final : public QStyledItemDelegate {
 public:
@@ -94,10 +131,10 @@ private:
 
 }  // namespace
 
-TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent) : QTableView(parent), model_(model) {
+TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent)
+    : QTableView(parent), model_(model), shown_(new FilteredRows(model, this)) {
     describe(*this, model);
-    auto* rows = new TableRows(model, this);
-    setModel(rows);
+    setModel(shown_);
     setItemDelegate(new CellDelegate(model, this));
     setSelectionBehavior(QAbstractItemView::SelectItems);
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -119,21 +156,30 @@ TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent) 
     for (int column = 0; column < static_cast<int>(model.columns().size()); ++column)
         setColumnWidth(column, columnOf(model, column).width * character + 4 * gridStep);
     connect(this, &QTableView::clicked, this, [this](const QModelIndex& cell) { pressCell(cell); });
-    model.addView(queue, [this, rows] {
+    model.addView(queue, [this] {
         const bool chosen = currentIndex().isValid();
         const int rowBefore = currentIndex().row();
         const int column = currentIndex().column();
-        rows->reload();
+        shown_->reload();
         // The keyboard stays where it was, as far as there are rows.
-        const int row = std::min(rowBefore, rows->rowCount({}) - 1);
+        const int row = std::min(rowBefore, shownRows() - 1);
         if (chosen && !currentIndex().isValid() && row >= 0)
-            selectionModel()->setCurrentIndex(rows->index(row, column), QItemSelectionModel::ClearAndSelect);
+            selectionModel()->setCurrentIndex(shown_->index(row, column), QItemSelectionModel::ClearAndSelect);
+        emit rowsChanged();
     });
 }
 
+void TableWidget::setFilter(const QString& text) {
+    shown_->setFilter(text);
+    emit rowsChanged();
+}
+
+int TableWidget::shownRows() const { return shown_->rowCount({}); }
+int TableWidget::allRows() const { return shown_->sourceModel()->rowCount({}); }
+
 void TableWidget::pressCell(const QModelIndex& cell) {
     if (cell.isValid() && columnOf(model_, cell.column()).kind == TableColumn::Kind::button)
-        model_.pressCell(cell.row(), cell.column());
+        model_.pressCell(shown_->mapToSource(cell).row(), cell.column());
 }
 
 void TableWidget::keyPressEvent(QKeyEvent* event) {

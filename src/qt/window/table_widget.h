@@ -7,11 +7,21 @@
 
 namespace corvane {
 
+class FilteredRows;
+
 class TableWidget : public QTableView {
     Q_OBJECT
 
 public:
     TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+    // Only rows that contain all the words of `text` in some cell are shown; no words show every row.
+    void setFilter(const QString& text);
+    int shownRows() const;
+    int allRows() const;
+
+signals:
+    void rowsChanged();  // how many there are, or are shown
 
 protected:
     // Return and Space press the button cell that has the keyboard; Tab leaves the table.
@@ -21,6 +31,7 @@ private:
     void pressCell(const QModelIndex& cell);
 
     TableView& model_;
+    FilteredRows* shown_;
 };
 
 }  // namespace corvane

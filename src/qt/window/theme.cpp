@@ -21,6 +21,7 @@ const Theme darkTheme{
     .warning = QColor(0x5c, 0x2a, 0x22),
     .blue = QColor(0x2a, 0x72, 0xc4),
     .green = QColor(0x22, 0x80, 0x48),
+    .orange = QColor(0xb8, 0x62, 0x14),
     .red = QColor(0xc9, 0x3d, 0x33),
     .purple = QColor(0x8d, 0x56, 0xc4),
     .pink = QColor(0xc0, 0x43, 0x7a),
@@ -42,6 +43,7 @@ const Theme lightTheme{
     .warning = QColor(0xf6, 0xd9, 0xd2),
     .blue = QColor(0x1f, 0x6f, 0xc4),
     .green = QColor(0x1f, 0x85, 0x49),
+    .orange = QColor(0xb3, 0x5f, 0x10),
     .red = QColor(0xc2, 0x36, 0x2d),
     .purple = QColor(0x80, 0x49, 0xb6),
     .pink = QColor(0xb9, 0x3d, 0x73),
@@ -67,6 +69,8 @@ QColor Theme::of(Color color, const QColor& none) const {
             return blue;
         case Color::green:
             return green;
+        case Color::orange:
+            return orange;
         case Color::red:
             return red;
         case Color::purple:

@@ -25,7 +25,7 @@ struct Theme {
     QColor accent;     // the one accent: focus, the active digits, the meter
     QColor warning;    // behind a message that something went wrong
     // What the named colours of the controls are here; white or black text is readable on each.
-    QColor blue, green, red, purple, pink, brown, gray, darkGray;
+    QColor blue, green, orange, red, purple, pink, brown, gray, darkGray;
 
     // The colour of a control, or `none` for a control without one.
     QColor of(Color color, const QColor& none) const;

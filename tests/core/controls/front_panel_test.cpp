@@ -294,7 +294,7 @@ TEST(FrontPanel, APressThatBuildsNoCommandSendsNothing) {
     bench.takeWrites();
     for (const int tag : {601, 602, 603, 604, 605, 805, 810, 811, 812, 813, 814, 815}) {
         Button& key = bench.display.key(tag);
-        EXPECT_EQ(key.enabled(), tag == 805 || tag == 815) << tag;
+        EXPECT_EQ(key.enabled(), tag >= 805) << tag;
         key.setTitle("CQ");
         bench.controller.go(key);
     }

@@ -57,7 +57,7 @@ public:
     const QTemporaryDir folder;
     QtPlatform owner{options()};
     Platform platform = owner.platform();
-    SerialPortDemoController controller{platform, {}};
+    SerialPortDemoController controller{platform, ServiceHosts::from("http://127.0.0.1:1")};  // nobody there
     Display& display = controller.display;
     MainWindow window{controller};
 

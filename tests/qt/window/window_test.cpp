@@ -39,12 +39,17 @@ void forEachPage(Station& station, Visit visit) {
     };
     for (int page = 0; page <= helpPage; ++page) {
         show(station.display.mainTab, page, "mainTab");
-        if (page != Display::settingsPage) {
+        const bool lists = page == Display::listsPage;
+        if (!lists && page != Display::settingsPage) {
             visit();
             continue;
         }
-        for (int group = 0; group < 4; ++group) {
-            show(station.display.settingsTab, group, "settingsTab");
+        for (int inner = 0; inner < (lists ? Display::listsPages : Display::settingsPages); ++inner) {
+            if (lists) {
+                show(station.display.listsTab, inner, "listsTab");
+            } else {
+                show(station.display.settingsTab, inner, "settingsTab");
+            }
             visit();
         }
     }

@@ -1,0 +1,125 @@
+// Fetching the on-line lists: the list is emptied, the answer to one request is decoded into it, and the line beside it
+// says when that was and what went wrong. Nothing pops up, nothing is tried again by itself.
+#include <array>
+#include <ctime>
+
+#include "controller/serial_port_demo_controller.h"
+#include "feeds/band_conditions.h"
+#include "feeds/feed_table.h"
+
+namespace corvane {
+
+namespace {
+
+std::string clockTime(Instant when) {
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(when);
+    std::tm utc{};
+    gmtime_r(&seconds, &utc);
+    std::array<char, 32> text{};
+    std::strftime(text.data(), text.size(), "%H:%M UTC", &utc);
+    return text.data();
+}
+
+Color conditionColor(std::string_view value) {
+    if (value == "Good") return Color::green;
+    return value == "Fair" ? Color::orange : Color::red;
+}
+
+void show(TextField& field, std::string_view text, Color color) {
+    field.setStringValue(text);
+    field.setTextColor(color);
+}
+
+}  // namespace
+
+void SerialPortDemoController::fetchPotaSpots() { fetchList(Feed::pota); }
+void SerialPortDemoController::fetchNetLoggerNets() { fetchList(Feed::netLogger); }
+void SerialPortDemoController::fetchSotaSpots() { fetchList(Feed::sota); }
+void SerialPortDemoController::fetchNets() { fetchList(Feed::nets); }
+void SerialPortDemoController::fetchMWStations() { fetchList(Feed::mediumWave); }
+void SerialPortDemoController::fetchBandConditions() { fetchConditions(); }
+
+void SerialPortDemoController::fetchLists() {
+    fetchPotaSpots();
+    fetchNetLoggerNets();
+    fetchSotaSpots();
+    fetchNets();
+    fetchMWStations();
+}
+
+FeedRefresh& SerialPortDemoController::refreshOf(Feed feed) { return feedRefreshes_[static_cast<std::size_t>(feed)]; }
+
+void SerialPortDemoController::fetchList(Feed feed, std::function<void()> then) {
+    const ListFeed& row = listFeed(feed);
+    (feeds.*row.list).clear();
+    (display.*row.table).reloadData();
+    (display.*row.status).setStringValue("Refreshing\u2026");
+    HttpRequest request;
+    request.url = std::string(hosts_.*row.host).append(row.path);
+    request.ignoreCaches = row.ignoreCaches;
+    refreshOf(feed).start(
+        request, [this, &row, ended = std::move(then), now = platform_.scheduler.now()](const HttpResponse& response) {
+            // An error page has a body, too: it is read like any other, and finds nothing.
+            DecodedFeed decoded = response.body.empty() ? DecodedFeed{} : row.decode(response.body, now);
+            const std::string& problem = response.problem.empty() ? decoded.problem : response.problem;
+            if (!decoded.problem.empty()) platform_.log.line(std::string(row.path) + ": " + decoded.problem);
+            FeedList& list = feeds.*row.list;
+            list = std::move(decoded.rows);
+            (display.*row.table).reloadData();
+            const std::string count = std::to_string(list.size()) + ' ' + std::string(row.noun);
+            (display.*row.status)
+                .setStringValue(clockTime(platform_.scheduler.now()) + ": " + (problem.empty() ? count : problem));
+            if (ended) ended();
+        });
+}
+
+void SerialPortDemoController::fetchConditions(std::function<void()> then) {
+    HttpRequest request;
+    request.url = hosts_.solarData + std::string(bandConditionsPath);
+    display.bandStatusField.setStringValue("Refreshing\u2026");
+    refreshOf(Feed::bandConditions).start(request, [this, ended = std::move(then)](const HttpResponse& response) {
+        showBandConditions(response.body);
+        display.bandStatusField.setStringValue(clockTime(platform_.scheduler.now()) +
+                                               (response.problem.empty() ? "" : ": " + response.problem));
+        if (ended) ended();
+    });
+}
+
+void SerialPortDemoController::showBandConditions(std::string_view body) {
+    const BandConditions conditions = decodeBandConditions(body);
+    const std::array fields{&display.day8040Field,   &display.day3020Field,   &display.day1715Field,
+                            &display.day1210Field,   &display.night8040Field, &display.night3020Field,
+                            &display.night1715Field, &display.night1210Field};
+    display.bandBox.setTitle("Band Conditions - " + conditions.heading);
+    show(display.solarFluxField, conditions.solarFlux, Color::green);
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        show(*fields[i], conditions.bands[i], conditionColor(conditions.bands[i]));
+    const bool quiet = conditions.signalNoise == "S0-S1" || conditions.signalNoise == "S1-S2";
+    show(display.signalNoiseField, conditions.signalNoise, quiet ? Color::green : Color::red);
+    const bool closed = conditions.magicBand == "Band Closed";
+    show(display.magicBandField, closed ? "Closed" : "Open", closed ? Color::red : Color::green);
+}
+
+// The key's refresh ends with a sound, a refresh by itself without one.
+bool SerialPortDemoController::pressRefreshKey(Button& sender) {
+    const auto sound = [this] { playSound("Funk"); };
+    switch (sender.tag()) {
+        case 810:
+            fetchConditions(sound);
+            break;
+        case 811:
+            fetchList(Feed::pota, sound);
+            break;
+        case 812:
+            fetchList(Feed::netLogger, sound);
+            break;
+        case 813:
+            fetchList(Feed::sota, sound);
+            break;
+        default:
+            fetchList(Feed::nets, sound);
+    }
+    return false;
+}
+
+}  // namespace corvane

@@ -1,0 +1,27 @@
+// One entry of an on-line list.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace corvane {
+
+// Texts in a fixed order, numbers and times too; each decoder says what stands at which position, counted from 0.
+struct FeedRow {
+    std::vector<std::string> fields;
+
+    const std::string& operator[](std::size_t position) const { return fields[position]; }
+    bool operator==(const FeedRow&) const = default;
+};
+
+using FeedList = std::vector<FeedRow>;
+
+// What a decoder makes of a body: the rows, or none and why not, in a few words for the operator.
+struct DecodedFeed {
+    FeedList rows;
+    std::string problem;
+
+    bool operator==(const DecodedFeed&) const = default;
+};
+
+}  // namespace corvane

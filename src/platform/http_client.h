@@ -1,0 +1,41 @@
+// Requests to web services.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+namespace corvane {
+
+struct HttpRequest {
+    std::string method = "GET";
+    std::string url;                           // "https://api.pota.app/spot/activator"
+    std::chrono::milliseconds timeout{60000};  // for the whole exchange
+    bool ignoreCaches = false;                 // neither a local nor a remote cache may answer
+    std::string contentType;                   // of the body; empty: no such header
+    std::string body;
+
+    bool operator==(const HttpRequest&) const = default;
+};
+
+// What came back. A body may come with a problem, too: that of an error page, say.
+struct HttpResponse {
+    std::string body;
+    std::string problem;  // why there is no answer or no good one, for the operator: "no network"; empty: all went well
+};
+
+inline constexpr std::size_t largestBody = 8 * 1024 * 1024;  // a larger one is refused: no body and a problem
+
+class HttpClient {
+public:
+    using Cancel = std::function<void()>;
+
+    virtual ~HttpClient() = default;
+
+    // Starts the exchange and returns at once; `completed` is called once, from the event loop. What is given back ends
+    // the exchange before its time, without a call; after its end it does nothing. Certificates are checked; redirects
+    // are followed to the same scheme or a safer one.
+    virtual Cancel send(const HttpRequest& request, std::function<void(HttpResponse)> completed) = 0;
+};
+
+}  // namespace corvane
