@@ -21,8 +21,7 @@ class TestBench {
     ChangeQueue changes_;
 
 public:
-    explicit TestBench(MapSettingsStore::Values stored = {})
-        : controller(platformWith(std::move(stored)), {.webSite = "https://site.example"}) {
+    explicit TestBench(MapSettingsStore::Values stored = {}) : controller(platformWith(std::move(stored)), hosts()) {
         controller.awakeFromNib();
         controller.setSerialPort(port);
         display.openCloseButton.performClick();
@@ -56,6 +55,12 @@ public:
         takeSpoken();
         takeSounds();
         takeChanges();
+    }
+
+    static ServiceHosts hosts() {
+        ServiceHosts hosts;
+        hosts.webSite = "https://site.example";
+        return hosts;
     }
 
     // The band keys that are marked; one unless something is wrong.

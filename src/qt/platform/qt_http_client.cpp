@@ -73,7 +73,7 @@ private:
         if (static_cast<std::size_t>(body_.size()) > largestBody) body_.clear();
         HttpResponse response{body_.toStdString(), std::move(problem)};
         body_.clear();
-        reply_->abort();
+        if (reply_->isRunning()) reply_->abort();
         reply_->deleteLater();
         if (completed) completed(std::move(response));
     }
@@ -90,8 +90,11 @@ HttpClient::Cancel QtHttpClient::send(const HttpRequest& request, std::function<
     QNetworkRequest asked(QUrl(QString::fromStdString(request.url), QUrl::StrictMode));
     asked.setHeader(QNetworkRequest::UserAgentHeader, "Corvane/" + QCoreApplication::applicationVersion());
     asked.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
-    if (request.ignoreCaches)
+    if (request.ignoreCaches) {
         asked.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+        asked.setRawHeader("Cache-Control", "no-cache");
+        asked.setRawHeader("Pragma", "no-cache");
+    }
     if (!request.contentType.empty())
         asked.setRawHeader("Content-Type", QByteArray::fromStdString(request.contentType));
     QNetworkReply* reply = manager().sendCustomRequest(asked, QByteArray::fromStdString(request.method),

@@ -1,0 +1,325 @@
+#include <gmock/gmock.h>
+
+#include "feeds/feed_cells.h"
+#include "feeds/tune_command.h"
+#include "tests/support/test_bench.h"
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+const std::string spots =
+    R"([{"activator":"N0CALL","frequency":"7185.5","mode":"SSB","comments":"","name":"Some Park","spotTime":)"
+    R"("2026-11-23T00:00:00","locationDesc":"US-ME","reference":"US-0001"}])";
+const std::string nets =
+    "<NetName>Noon Net</NetName><Frequency>3.940</Frequency><UTC>17:00</UTC><Mode>LSB</Mode><URL></URL>"
+    "<Confirmed></Confirmed><NetID>7</NetID>\n";
+
+struct FeedBench : TestBench {
+    FeedBench() {
+        receive("VS0;");
+        advance(2s);  // the refreshes of the start
+        forgetWhatHappened();
+        around.http.requests.clear();
+        around.http.pending.clear();
+        around.http.cancelled.clear();
+    }
+    RecordingHttpClient& http = around.http;
+    std::vector<std::string> urls() const {
+        std::vector<std::string> all;
+        for (const HttpRequest& request : around.http.requests) all.push_back(request.url);
+        return all;
+    }
+};
+
+TEST(Feeds, AreFetchedSideBySideAtTheStartAndWhenPortsAppear) {
+    TestBench bench;
+    const auto urls = [&] {
+        std::vector<std::string> all;
+        for (const HttpRequest& request : std::exchange(bench.around.http.requests, {})) all.push_back(request.url);
+        return all;
+    };
+    EXPECT_THAT(urls(),
+                ElementsAre("https://api.pota.app/spot/activator", "https://www.netlogger.org/api/GetActiveNets.php",
+                            "https://api2.sota.org.uk/api/spots/-3/all", "http://127.0.0.1:8073/nets.php",
+                            "http://127.0.0.1:8073/mw.php", "https://www.hamqsl.com/solarxml.php"));
+    bench.around.portManager.connect({});
+    EXPECT_EQ(urls().size(), 5U);
+}
+
+TEST(Feeds, ARefreshEmptiesTheListAndTakesItsAnswerAtOnce) {
+    FeedBench bench;
+    bench.controller.feeds.vqPotaArray = {{{"old"}}};
+    bench.press(811);
+    EXPECT_EQ(bench.display.potaTable.rows(), 0);
+    HttpRequest plain;
+    plain.url = "https://api.pota.app/spot/activator";
+    EXPECT_EQ(bench.http.requests.at(0), plain);
+    bench.advance(1s);
+    bench.http.answer(0, {spots, ""});
+    ASSERT_EQ(bench.display.potaTable.rows(), 1);
+    EXPECT_EQ(bench.display.potaTable.cell(0, 2), "7185.5");
+    EXPECT_EQ(bench.display.potaStatusField.stringValue(), "00:00 UTC: 1 spots");
+    EXPECT_THAT(bench.takeSounds(), ElementsAre("file Funk"));
+    bench.advance(5s);
+    EXPECT_EQ(bench.display.potaTable.rows(), 1);
+    EXPECT_THAT(bench.takeSounds(), IsEmpty());
+    EXPECT_THAT(bench.takeWrites(), testing::Not(testing::Contains("BI1;")));
+}
+
+TEST(Feeds, WhatComesLateOrForAnEarlierRefreshIsDropped) {
+    FeedBench bench;
+    bench.press(811);
+    bench.advance(1999ms);
+    EXPECT_EQ(bench.display.potaStatusField.stringValue(), "Refreshing\u2026");
+    bench.advance(1ms);
+    EXPECT_EQ(bench.display.potaStatusField.stringValue(), "00:00 UTC: no answer within 2 s");
+    EXPECT_THAT(bench.http.cancelled, ElementsAre(0));
+    bench.http.answer(0, {spots, ""});
+    EXPECT_EQ(bench.display.potaTable.rows(), 0);
+
+    bench.press(811);
+    bench.press(811);
+    EXPECT_THAT(bench.http.cancelled, ElementsAre(0, 1));
+    bench.http.answer(1, {spots, ""});
+    EXPECT_EQ(bench.display.potaTable.rows(), 0);
+    bench.http.answer(2, {spots, ""});
+    EXPECT_EQ(bench.display.potaTable.rows(), 1);
+}
+
+TEST(Feeds, TheLineBesideAListSaysWhatWentWrong) {
+    const std::pair<HttpResponse, std::string_view> cases[] = {
+        {{"", "no network"}, "no network"},
+        {{"<html>", "status 500"}, "status 500"},
+        {{"<html>", ""}, "unreadable: not JSON"},
+        {{"[{}]", ""}, "unreadable: record 1 has no text \"activator\""},
+        {{"[]", ""}, "0 spots"},
+    };
+    for (const auto& [response, line] : cases) {
+        FeedBench bench;
+        bench.controller.fetchPotaSpots();
+        bench.http.answer(0, response);
+        EXPECT_EQ(bench.display.potaStatusField.stringValue(), "00:00 UTC: " + std::string(line));
+        EXPECT_THAT(bench.around.alerts.shown, IsEmpty());
+        EXPECT_THAT(bench.takeSounds(), IsEmpty());
+    }
+}
+
+TEST(Feeds, DirectoryListsPassByTheCaches) {
+    FeedBench bench;
+    bench.controller.fetchNets();
+    bench.controller.fetchMWStations();
+    bench.controller.fetchNetLoggerNets();
+    EXPECT_TRUE(bench.http.requests[0].ignoreCaches);
+    EXPECT_TRUE(bench.http.requests[1].ignoreCaches);
+    EXPECT_FALSE(bench.http.requests[2].ignoreCaches);
+    EXPECT_EQ(bench.http.requests[0].timeout, 60s);
+}
+
+TEST(Feeds, BandConditionsAreShownInTheirColors) {
+    FeedBench bench;
+    std::string body;
+    for (int line = 0; line < 40; ++line) {
+        const char* value = line == 4    ? "23 Nov 2026"
+                            : line == 20 ? "Good"
+                            : line == 21 ? "Fair"
+                            : line == 37 ? "S1-S2"
+                                         : "Poor";
+        body += std::string("<v>") + (line == 33 ? "Band Closed" : value) + "</v>\r\n";
+    }
+    bench.press(810);
+    bench.http.answer(0, {body, ""});
+    Display& display = bench.display;
+    const auto shown = [](const TextField& field) { return std::pair{field.stringValue(), field.textColor()}; };
+    using Shown = std::pair<std::string, Color>;
+    EXPECT_EQ(display.bandBox.title(), "Band Conditions - 23 Nov 2026");
+    EXPECT_EQ(shown(display.day8040Field), Shown("Good", Color::green));
+    EXPECT_EQ(shown(display.day3020Field), Shown("Fair", Color::orange));
+    EXPECT_EQ(shown(display.night1210Field), Shown("Poor", Color::red));
+    EXPECT_EQ(shown(display.solarFluxField), Shown("Poor", Color::green));
+    EXPECT_EQ(shown(display.signalNoiseField), Shown("S1-S2", Color::green));
+    EXPECT_EQ(shown(display.magicBandField), Shown("Closed", Color::red));
+    bench.controller.fetchBandConditions();
+    bench.advance(2s);
+    EXPECT_EQ(display.bandBox.title(), "Band Conditions - ");
+    EXPECT_EQ(shown(display.day8040Field), Shown("", Color::red));
+    EXPECT_EQ(shown(display.signalNoiseField), Shown("", Color::red));
+    EXPECT_EQ(shown(display.magicBandField), Shown("Open", Color::green));
+    EXPECT_THAT(display.bandStatusField.stringValue(), HasSubstr("no answer"));
+}
+
+TEST(TuneCommand, FollowsTheRowsWordsAndUnits) {
+    const struct {
+        int column;  // of the table's tune button
+        TableView Display::*table;
+        FeedList FeedState::*list;
+        FeedRow row;
+        std::string sent;
+        std::string spoken;
+    } cases[] = {
+        {0,
+         &Display::potaTable,
+         &FeedState::vqPotaArray,
+         {{"", "14074", "FT8", "", "Park"}},
+         "MD02;SF1E;FA014074000;SS0640000;",
+         "Park"},
+        {0,
+         &Display::potaTable,
+         &FeedState::vqPotaArray,
+         {{"", "7185.5", "SSB", "", "Park"}},
+         "MD01;SF1E;FA007185500;SS0640000;",
+         "Park"},
+        {0,
+         &Display::potaTable,
+         &FeedState::vqPotaArray,
+         {{"", "10100", "CW", "", "Park"}},
+         "MD03;SF1H;FA010100000;SS0640000;",
+         "Park"},
+        {0,
+         &Display::potaTable,
+         &FeedState::vqPotaArray,
+         {{"", "9999.9", "CW", "", "Park"}},
+         "MD07;SF1H;FA009999900;SS0640000;",
+         "Park"},
+        {0,
+         &Display::potaTable,
+         &FeedState::vqPotaArray,
+         {{"", "14286", "AM", "", "Park"}},
+         "FA014286000;SS0640000;",
+         "Park"},
+        {0,
+         &Display::potaTable,
+         &FeedState::vqPotaArray,
+         {{"", "14286", "ssb", "", "Park"}},
+         "FA014286000;SS0640000;",
+         "Park"},
+        {0, &Display::potaTable, &FeedState::vqPotaArray, {{"", "7.074.5", "SSB", "", "Park"}}, "", ""},
+        {0, &Display::potaTable, &FeedState::vqPotaArray, {{"", "14074"}}, "", ""},
+        {0,
+         &Display::sotaTable,
+         &FeedState::vqSotaArray,
+         {{"", "", "14.062", "CW", "", "", "Hill"}},
+         "MD03;SF1H;FA014062000;SS0640000;",
+         "Hill"},
+        {0,
+         &Display::sotaTable,
+         &FeedState::vqSotaArray,
+         {{"", "", "2.001", "SSB", "", "", "Hill"}},
+         "MD01;SF1E;FA002000999;SS0640000;",
+         "Hill"},
+        {0,
+         &Display::netsTable,
+         &FeedState::vqNetsArray,
+         {{"Net", "3.940", "", "LSB"}},
+         "MD01;FA003940000;SS0640000;",
+         "Net"},
+        {0,
+         &Display::netsTable,
+         &FeedState::vqNetsArray,
+         {{"Net", "3.940", "", "SSB"}},
+         "FA003940000;SS0640000;",
+         "Net"},
+        {0,
+         &Display::netLoggerTable,
+         &FeedState::vqNetLoggerArray,
+         {{"Net", "14300"}},
+         "MD02;FA014300000;SS0640000;SS0560000;",
+         "Net"},
+        {0,
+         &Display::netLoggerTable,
+         &FeedState::vqNetLoggerArray,
+         {{"Net", "3.9155"}},
+         "MD01;FA003915500;SS0640000;SS0560000;",
+         "Net"},
+        {0,
+         &Display::netLoggerTable,
+         &FeedState::vqNetLoggerArray,
+         {{"Net", "10.0"}},
+         "MD01;FA001000000;SS0640000;SS0560000;",
+         "Net"},
+        {0,
+         &Display::netLoggerTable,
+         &FeedState::vqNetLoggerArray,
+         {{"Net", "7.0.7"}},
+         "MD01;FA000000000;SS0640000;SS0560000;",
+         "Net"},
+        {0, &Display::mwTable, &FeedState::vqMWArray, {{"WAAA", "1000"}}, "MD05;FA001000000;SS0640000;", "WAAA"},
+        {0, &Display::mwTable, &FeedState::vqMWArray, {{"WAAA", "540"}}, "MD05;FA000540000;SS0640000;", "WAAA"},
+        {0, &Display::mwTable, &FeedState::vqMWArray, {{"WAAA", ""}}, "", ""},
+    };
+    for (const auto& tuned : cases) {
+        FeedBench bench;
+        bench.controller.link.cmd = "KY6;";
+        bench.controller.feeds.*tuned.list = {{{"another"}}, tuned.row};
+        (bench.display.*tuned.table).pressCell(1, tuned.column);
+        std::string sent;
+        for (const std::string& write : bench.takeWrites()) sent += write;
+        EXPECT_EQ(sent, tuned.sent);
+        EXPECT_EQ(bench.controller.link.cmd, tuned.sent.empty() ? "KY6;" : tuned.sent);
+        EXPECT_EQ(bench.takeSpoken(), tuned.spoken.empty() ? Writes{} : Writes{tuned.spoken}) << tuned.sent;
+        (bench.display.*tuned.table).pressCell(2, tuned.column);
+        (bench.display.*tuned.table).pressCell(-1, tuned.column);
+        EXPECT_THAT(bench.takeWrites(), IsEmpty());
+    }
+}
+
+TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
+    FeedBench bench;
+    bench.controller.feeds.vqNetsArray = {{{"", "", "", "", "", "", ""}},
+                                          {{"Noon Net", "3.940", "", "LSB", "", "", "7"}}};
+    TableView& table = bench.display.netsTable;
+    table.pressCell(1, 6);
+    const std::string key = bench.around.settings.values["operator"];
+    EXPECT_EQ(key.size(), 32U);
+    HttpRequest post{.method = "POST",
+                     .url = "http://127.0.0.1:8073/netconf.php",
+                     .timeout = 30s,
+                     .ignoreCaches = true,
+                     .contentType = "Application/json",
+                     .body = R"({"action":1,"key":")" + key + R"(","net_id":"7"})"};
+    EXPECT_EQ(bench.http.requests.at(0), post);
+    EXPECT_THAT(bench.takeSpoken(), ElementsAre("thank you for confirming Noon Net"));
+    bench.advance(1999ms);
+    EXPECT_EQ(bench.http.requests.size(), 1U);
+    bench.advance(1ms);
+    EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php");
+    bench.http.answer(1, {nets, ""});
+
+    table.pressCell(0, 7);
+    post.body = R"({"action":0,"key":")" + key + R"(","net_id":"7"})";
+    EXPECT_EQ(bench.http.requests.at(2), post);
+    bench.http.answer(2, {"", "status 500"});
+    EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php");
+    EXPECT_THAT(bench.takeSpoken(), IsEmpty());
+    bench.http.answer(3, {nets, ""});
+    EXPECT_THAT(bench.takeSpoken(), ElementsAre("your confirmation of this net has been retracted"));
+}
+
+TEST(FeedCells, ShowKilohertzMinutesAndDashes) {
+    const struct {
+        FeedTable table;
+        std::string_view column;
+        FeedRow row;
+        std::string_view shown;
+    } cases[] = {
+        {FeedTable::pota, "frequency", {{"", "14074"}}, "14074.0"},
+        {FeedTable::pota, "frequency", {{"", "x"}}, "0.0"},
+        {FeedTable::pota, "last", {{"", "", "", "", "", "5"}}, "5 min"},
+        {FeedTable::pota, "reference", {{"short"}}, ""},
+        {FeedTable::sota, "frequency2", {{"", "", "14.062"}}, "14062.0"},
+        {FeedTable::sota, "activatorName", {{"", "Not recognised"}}, "--"},
+        {FeedTable::sota, "name2", {{"", "", "", "", "", "", "Summit not recognised"}}, "--"},
+        {FeedTable::netLogger, "freq", {{"", "14.25"}}, "14250.0"},
+        {FeedTable::netLogger, "freq", {{"", "14300"}}, "14300.0"},
+        {FeedTable::netLogger, "freq", {{"", "7.0.7"}}, ""},
+        {FeedTable::mediumWave, "power", {{"", "", "", "50"}}, "50 kW"},
+    };
+    for (const auto& cell : cases) EXPECT_EQ(feedCell(cell.table, cell.column, cell.row), cell.shown) << cell.column;
+}
+
+}  // namespace
+}  // namespace corvane

@@ -1,0 +1,130 @@
+#include "qt/platform/qt_http_client.h"
+
+#include <gtest/gtest.h>
+
+#include <QTimer>
+#include <optional>
+
+#include "event_loop.h"
+#include "local_server.h"
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+
+// What an exchange comes to.
+std::optional<HttpResponse> fetched(const HttpRequest& request, std::chrono::milliseconds patience = 5s) {
+    QtHttpClient client;
+    std::optional<HttpResponse> answer;
+    client.send(request, [&](HttpResponse response) { answer = std::move(response); });
+    EXPECT_FALSE(answer) << "not before the call returns";
+    eventually([&] { return answer.has_value(); }, patience);
+    return answer;
+}
+
+HttpRequest get(const std::string& url) {
+    HttpRequest request;
+    request.url = url;
+    return request;
+}
+
+TEST(QtHttpClientTest, SendsWhatIsAskedAndGivesTheBody) {
+    LocalServer server(
+        [](QTcpSocket& client, const std::string&) { client.write(LocalServer::ok("caf\xc3\xa9\xff").c_str()); });
+    const auto answer = fetched(get(server.url("/nets.php")));
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->body, "caf\xc3\xa9\xff");
+    EXPECT_EQ(answer->problem, "");
+    ASSERT_EQ(server.requests.size(), 1U);
+    EXPECT_TRUE(server.requests[0].starts_with("GET /nets.php HTTP/1.1\r\n"));
+    EXPECT_EQ(server.requests[0].find("Cache-Control"), std::string::npos);
+
+    HttpRequest post = get(server.url("/netconf.php"));
+    post.method = "POST";
+    post.ignoreCaches = true;
+    post.contentType = "Application/json";
+    post.body = R"({"action":1})";
+    ASSERT_TRUE(fetched(post));
+    EXPECT_TRUE(server.requests[1].starts_with("POST /netconf.php"));
+    EXPECT_NE(server.requests[1].find("Content-Type: Application/json\r\n"), std::string::npos);
+    EXPECT_NE(server.requests[1].find("Cache-Control: no-cache"), std::string::npos);
+    EXPECT_TRUE(server.requests[1].ends_with("\r\n\r\n{\"action\":1}"));
+}
+
+TEST(QtHttpClientTest, SaysInAFewWordsWhyThereIsNoGoodAnswer) {
+    LocalServer server([](QTcpSocket& client, const std::string& request) {
+        if (!request.starts_with("GET"))
+            client.disconnectFromHost();
+        else if (request.starts_with("GET /500"))
+            client.write("HTTP/1.1 500 Oh\r\nContent-Length: 4\r\n\r\nbody");
+        else if (request.starts_with("GET /half"))
+            client.write("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\nhalf"), client.disconnectFromHost();
+        else if (request.starts_with("GET /round"))
+            client.write("HTTP/1.1 302 Found\r\nLocation: /round\r\nContent-Length: 0\r\n\r\n");
+        else if (request.starts_with("GET /there"))
+            client.write("HTTP/1.1 302 Found\r\nLocation: /here\r\nContent-Length: 0\r\n\r\n");
+        else if (request.starts_with("GET /here"))
+            client.write(LocalServer::ok("here").c_str());
+    });
+    const auto problem = [&](const std::string& url) {
+        const auto answer = fetched(get(url));
+        return answer ? answer->problem : "no answer at all";
+    };
+    EXPECT_EQ(problem(server.url("/500")), "status 500");
+    EXPECT_EQ(fetched(get(server.url("/500")))->body, "body");
+    EXPECT_EQ(problem(server.url("/half")), "the server broke off");
+    EXPECT_EQ(problem(server.url("/round")), "redirected in vain");
+    EXPECT_EQ(problem("http://127.0.0.1:1/"), "the server does not answer");
+    EXPECT_NE(problem("not a url"), "");
+    EXPECT_EQ(fetched(get(server.url("/there")))->body, "here");
+    HttpRequest unsafe = get("https" + server.url().substr(4));  // a plain server speaks no TLS
+    unsafe.timeout = 300ms;
+    EXPECT_NE(fetched(unsafe)->problem, "");
+    HttpRequest silent = get(server.url("/silent"));
+    silent.timeout = 100ms;
+    EXPECT_EQ(fetched(silent)->problem, "no answer in time");
+}
+
+TEST(QtHttpClientTest, NeitherAFloodNorATrickleGoesOnForEver) {
+    LocalServer server([](QTcpSocket& client, const std::string& request) {
+        client.write("HTTP/1.1 200 OK\r\n\r\n");
+        auto* more = new QTimer(&client);
+        const QByteArray piece(request.starts_with("GET /flood") ? 1 << 20 : 1, 'x');
+        QObject::connect(more, &QTimer::timeout, &client, [&client, piece] {
+            if (client.bytesToWrite() < 4 * piece.size()) client.write(piece);
+        });
+        more->start(1);
+    });
+    const auto flood = fetched(get(server.url("/flood")), 20s);
+    ASSERT_TRUE(flood);
+    EXPECT_EQ(flood->problem, "the answer is larger than 8 MiB");
+    EXPECT_EQ(flood->body, "");
+    HttpRequest trickle = get(server.url("/trickle"));
+    trickle.timeout = 200ms;
+    const auto answer = fetched(trickle);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->problem, "no answer in time");
+}
+
+TEST(QtHttpClientTest, WhatIsCancelledIsNotHeardOfAgain) {
+    int answered = 0;
+    LocalServer server([](QTcpSocket& client, const std::string&) { client.write(LocalServer::ok("x").c_str()); });
+    HttpClient::Cancel cancelLater;
+    {
+        QtHttpClient client;
+        const auto cancel = client.send(get(server.url()), [&](const HttpResponse&) { ++answered; });
+        cancel();
+        cancel();
+        cancelLater = client.send(get(server.url()), [&](const HttpResponse&) { ++answered; });
+        ASSERT_TRUE(eventually([&] { return answered == 1; }));
+        cancelLater();
+        client.send(get(server.url()), [&](const HttpResponse&) { ++answered; });
+    }
+    runEventLoop(50ms);
+    cancelLater();
+    EXPECT_EQ(answered, 1);
+}
+
+}  // namespace
+}  // namespace corvane

@@ -1,0 +1,92 @@
+// The on-line lists in the real window, fed by a server on this machine.
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+
+#include "local_server.h"
+#include "station.h"
+
+namespace corvane {
+namespace {
+
+using namespace std::chrono_literals;
+
+// The window at the services of one server.
+struct ListsStation : Station {
+    explicit ListsStation(LocalServer::Answer answer) : server(std::move(answer)) {}
+
+    QTableView* show(int page, const char* table) {
+        lists.display.mainTab.selectItem(Display::listsPage);
+        lists.display.listsTab.selectItem(page);
+        eventually([&] {
+            auto* view = listsWindow.findChild<QTableView*>(table);
+            return view && view->isVisible();
+        });
+        return listsWindow.findChild<QTableView*>(table);
+    }
+
+    LocalServer server;
+    SerialPortDemoController lists{platform, ServiceHosts::from(server.url())};
+    MainWindow listsWindow{lists};
+};
+
+std::string spot(int number) {
+    return R"({"activator":"N)" + std::to_string(number) + R"(CALL","frequency":")" + std::to_string(14'000 + number) +
+           R"(","mode":"SSB","comments":"","name":"Park )" + std::to_string(number) +
+           R"(","spotTime":"2026-11-23T00:00:00","locationDesc":"US-ME","reference":"US-1"})";
+}
+
+TEST(ListsTest, AreFilledFilteredAndTunedTo) {
+    ListsStation station([](QTcpSocket& client, const std::string& request) {
+        std::string body = "nothing";
+        if (request.starts_with("GET /spot/activator"))
+            body = '[' + spot(200) + ',' + spot(210) + ',' + spot(220) + ']';
+        client.write(LocalServer::ok(body).c_str());
+    });
+    station.listsWindow.show();
+    station.lists.awakeFromNib();
+    QTableView* table = station.show(0, "potaTable");
+    ASSERT_NE(table, nullptr);
+    ASSERT_TRUE(eventually([&] { return table->model()->rowCount() == 3; }));
+    EXPECT_TRUE(station.lists.display.potaStatusField.stringValue().ends_with("UTC: 3 spots"));
+    EXPECT_TRUE(eventually([&] {
+        return QString::fromStdString(station.lists.display.sotaStatusField.stringValue()).endsWith("not JSON");
+    }));
+
+    station.lists.display.openCloseButton.performClick();
+    ASSERT_TRUE(eventually([&] { return station.lists.radio.vqAorB == "A"; }));
+    QTest::keyClicks(station.listsWindow.findChild<QLineEdit*>("potaTableFilter"), "park 21");
+    EXPECT_EQ(table->model()->rowCount(), 1);
+    EXPECT_EQ(station.listsWindow.findChild<QLabel*>("potaTableCount")->text(), "1 of 3");
+    station.lists.display.listsTab.selectItem(0);
+    const QPoint tune = table->visualRect(table->model()->index(0, 0)).center();
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, tune);
+    EXPECT_TRUE(eventually([&] { return station.radio.transceiver.state().activeTuning().frequency == 14'210'000; }));
+}
+
+TEST(ListsTest, AServerThatNeverAnswersHoldsUpNothing) {
+    ListsStation station([](QTcpSocket&, const std::string&) {});
+    station.listsWindow.show();
+    runEventLoop(50ms);
+    qint64 latest = 0;
+    QElapsedTimer sinceBeat;
+    QTimer heartbeat;
+    heartbeat.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&heartbeat, &QTimer::timeout, &heartbeat,
+                     [&] { latest = std::max(latest, sinceBeat.restart() - 10); });
+    station.lists.awakeFromNib();
+    heartbeat.start(10ms);
+    sinceBeat.start();
+    ASSERT_TRUE(eventually([&] { return station.server.requests.size() == 6; }));
+    EXPECT_TRUE(eventually([&] {
+        return station.lists.display.mwStatusField.stringValue().ends_with("no answer within 2 s") &&
+               station.lists.display.bandStatusField.stringValue().ends_with("no answer within 2 s");
+    }));
+    EXPECT_LE(latest, 50);
+}
+
+}  // namespace
+}  // namespace corvane
