@@ -51,13 +51,18 @@ SerialPortDemoController::~SerialPortDemoController() {
 }
 
 void SerialPortDemoController::awakeFromNib() {
-    if (preferences.vqPortChecked == 1) return;
+    if (preferences.vqPortChecked != 1) restoreFirstTime();
+    // A port may have appeared, and the settings been restored, before the window was there.
+    if (std::exchange(started_, true)) return;
+    fetchBandConditions();
+    autoMemorySample();
+}
+
+void SerialPortDemoController::restoreFirstTime() {
     fillPortPopUp();
     restoreSettings();
     const bool remembered = !userDefaults.text("defaultPort").value_or("").empty();
     if (!link.serialPort && !remembered) setSerialPort(serialPortManager.suggestedPort());
-    fetchBandConditions();
-    autoMemorySample();
 }
 
 void SerialPortDemoController::bindControls() {

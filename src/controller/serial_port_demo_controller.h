@@ -23,6 +23,7 @@
 //   voice and sounds     what is heard, and the help page         app/voice_and_sounds.cpp
 #pragma once
 
+#include <array>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -43,6 +44,7 @@
 namespace corvane {
 
 enum class Feed : int;
+struct BandConditions;
 struct MemoryReply;
 struct ModeGroup;
 
@@ -223,6 +225,7 @@ public:
     Preferences preferences;
 
 private:
+    void restoreFirstTime();
     void bindControls();
     void bindPopUps();
     void bindEntries();
@@ -278,7 +281,8 @@ private:
     FeedRefresh& refreshOf(Feed feed);
     void fetchList(Feed feed, std::function<void()> then = {});
     void fetchConditions(std::function<void()> then = {});
-    void showBandConditions(std::string_view body);
+    void showBandConditions(const BandConditions& conditions);
+    void endRefresh(Feed feed);
     void tuneTo(std::string command, const std::string& name);
     void postConfirmation(const std::string& net, int action, std::function<void()> then);
     std::string operatorKey();
@@ -311,6 +315,9 @@ private:
     CommandPacer afGainPacer_;
     CommandPacer rfGainPacer_;
     std::deque<FeedRefresh> feedRefreshes_;  // by Feed
+    // What is to be done when the refresh under way has ended, or the one that replaces it; by Feed.
+    std::array<std::vector<std::function<void()>>, 6> feedEnds_;
+    bool started_ = false;  // what runs from the start to the end of the program does
 };
 
 }  // namespace corvane

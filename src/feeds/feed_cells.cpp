@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 
 #include "feeds/single_precision.h"
+#include "radio/utf8.h"
 
 namespace corvane {
 
@@ -19,10 +21,14 @@ struct CellRow {
     Show show;
 };
 
+constexpr std::size_t longestCell = 200;  // characters
+constexpr double mostShown = 1e12;
+
 double numberOrZero(std::string_view text) {
     double number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc{} && end == text.data() + text.size() ? number : 0;
+    const bool readable = error == std::errc{} && end == text.data() + text.size();
+    return readable && std::abs(number) < mostShown ? number : 0;
 }
 
 std::string decimals(double number, int count) {
@@ -94,7 +100,7 @@ std::string feedCell(FeedTable table, std::string_view column, const FeedRow& ro
     const auto cell =
         std::ranges::find_if(cells, [&](const CellRow& each) { return each.table == table && each.column == column; });
     if (cell == cells.end() || cell->position >= row.fields.size()) return {};
-    return cell->show(row[cell->position]);
+    return cell->show(std::string(utf8Prefix(row[cell->position], longestCell)));
 }
 
 }  // namespace corvane

@@ -11,16 +11,16 @@ void FeedRefresh::start(const HttpRequest& request, Handle handle) {
     box->response.problem = "no answer within 2 s";
     box_ = box;
     const std::weak_ptr<ResponseBox> current = box;
-    // Of a box that is gone nobody waits for anything.
+    // Nobody waits for a box that is not the present one.
     box->cancel = client_.send(request, [this, current](HttpResponse response) {
-        if (const auto answered = current.lock()) {
+        if (const auto answered = current.lock(); answered && answered == box_) {
             answered->cancel = {};
             answered->response = std::move(response);
             finish();
         }
     });
     later_(patience, [this, current] {
-        if (!current.expired()) finish();
+        if (box_ && box_ == current.lock()) finish();
     });
 }
 

@@ -2,10 +2,13 @@
 // says when that was and what went wrong. Nothing pops up, nothing is tried again by itself.
 #include <array>
 #include <ctime>
+#include <utility>
 
 #include "controller/serial_port_demo_controller.h"
 #include "feeds/band_conditions.h"
 #include "feeds/feed_table.h"
+#include "radio/utf8.h"
+#include "radio/wire_text.h"
 
 namespace corvane {
 
@@ -25,8 +28,19 @@ Color conditionColor(std::string_view value) {
     return value == "Fair" ? Color::orange : Color::red;
 }
 
+// Why a body without a problem gave no rows; nothing for a list that is just empty.
+std::string problemOfNoRows(std::string_view body) {
+    if (body.empty()) return "an empty answer";
+    const std::string_view start = trimmed(body).substr(0, 15);
+    const bool page = start.starts_with("<!DOCTYPE html") || start.starts_with("<!doctype html") ||
+                      start.starts_with("<html") || start.starts_with("<HTML");
+    return page ? "unreadable: a web page" : "";
+}
+
+constexpr std::size_t longestValue = 40;  // characters; what is longer is no value of the service
+
 void show(TextField& field, std::string_view text, Color color) {
-    field.setStringValue(text);
+    field.setStringValue(utf8Prefix(text, longestValue));
     field.setTextColor(color);
 }
 
@@ -51,46 +65,54 @@ FeedRefresh& SerialPortDemoController::refreshOf(Feed feed) { return feedRefresh
 
 void SerialPortDemoController::fetchList(Feed feed, std::function<void()> then) {
     const ListFeed& row = listFeed(feed);
+    if (then) feedEnds_[static_cast<std::size_t>(feed)].push_back(std::move(then));
     (feeds.*row.list).clear();
     (display.*row.table).reloadData();
     (display.*row.status).setStringValue("Refreshing\u2026");
     HttpRequest request;
     request.url = std::string(hosts_.*row.host).append(row.path);
     request.ignoreCaches = row.ignoreCaches;
-    refreshOf(feed).start(
-        request, [this, &row, ended = std::move(then), now = platform_.scheduler.now()](const HttpResponse& response) {
-            // An error page has a body, too: it is read like any other, and finds nothing.
-            DecodedFeed decoded = response.body.empty() ? DecodedFeed{} : row.decode(response.body, now);
-            const std::string& problem = response.problem.empty() ? decoded.problem : response.problem;
-            if (!decoded.problem.empty()) platform_.log.line(std::string(row.path) + ": " + decoded.problem);
-            FeedList& list = feeds.*row.list;
-            list = std::move(decoded.rows);
-            (display.*row.table).reloadData();
-            const std::string count = std::to_string(list.size()) + ' ' + std::string(row.noun);
-            (display.*row.status)
-                .setStringValue(clockTime(platform_.scheduler.now()) + ": " + (problem.empty() ? count : problem));
-            if (ended) ended();
-        });
-}
-
-void SerialPortDemoController::fetchConditions(std::function<void()> then) {
-    HttpRequest request;
-    request.url = hosts_.solarData + std::string(bandConditionsPath);
-    display.bandStatusField.setStringValue("Refreshing\u2026");
-    refreshOf(Feed::bandConditions).start(request, [this, ended = std::move(then)](const HttpResponse& response) {
-        showBandConditions(response.body);
-        display.bandStatusField.setStringValue(clockTime(platform_.scheduler.now()) +
-                                               (response.problem.empty() ? "" : ": " + response.problem));
-        if (ended) ended();
+    refreshOf(feed).start(request, [this, &row, now = platform_.scheduler.now()](const HttpResponse& response) {
+        // An error page has a body, too: it is read like any other, and finds nothing.
+        DecodedFeed decoded = response.body.empty() ? DecodedFeed{} : row.decode(response.body, now);
+        if (!decoded.problem.empty()) platform_.log.line(std::string(row.path) + ": " + decoded.problem);
+        if (decoded.problem.empty() && decoded.rows.empty()) decoded.problem = problemOfNoRows(response.body);
+        const std::string& problem = response.problem.empty() ? decoded.problem : response.problem;
+        FeedList& list = feeds.*row.list;
+        list = std::move(decoded.rows);
+        (display.*row.table).reloadData();
+        const std::string count = std::to_string(list.size()) + ' ' + std::string(row.noun);
+        (display.*row.status)
+            .setStringValue(clockTime(platform_.scheduler.now()) + ": " + (problem.empty() ? count : problem));
+        endRefresh(row.feed);
     });
 }
 
-void SerialPortDemoController::showBandConditions(std::string_view body) {
-    const BandConditions conditions = decodeBandConditions(body);
+void SerialPortDemoController::fetchConditions(std::function<void()> then) {
+    if (then) feedEnds_[static_cast<std::size_t>(Feed::bandConditions)].push_back(std::move(then));
+    HttpRequest request;
+    request.url = hosts_.solarData + std::string(bandConditionsPath);
+    display.bandStatusField.setStringValue("Refreshing\u2026");
+    refreshOf(Feed::bandConditions).start(request, [this](const HttpResponse& response) {
+        const BandConditions conditions = decodeBandConditions(response.body);
+        showBandConditions(conditions);
+        std::string problem = response.problem;
+        if (problem.empty() && conditions == BandConditions{}) problem = "unreadable: not the lines of the service";
+        display.bandStatusField.setStringValue(clockTime(platform_.scheduler.now()) +
+                                               (problem.empty() ? "" : ": " + problem));
+        endRefresh(Feed::bandConditions);
+    });
+}
+
+void SerialPortDemoController::endRefresh(Feed feed) {
+    for (const auto& then : std::exchange(feedEnds_[static_cast<std::size_t>(feed)], {})) then();
+}
+
+void SerialPortDemoController::showBandConditions(const BandConditions& conditions) {
     const std::array fields{&display.day8040Field,   &display.day3020Field,   &display.day1715Field,
                             &display.day1210Field,   &display.night8040Field, &display.night3020Field,
                             &display.night1715Field, &display.night1210Field};
-    display.bandBox.setTitle("Band Conditions - " + conditions.heading);
+    display.bandBox.setTitle("Band Conditions - " + std::string(utf8Prefix(conditions.heading, longestValue)));
     show(display.solarFluxField, conditions.solarFlux, Color::green);
     for (std::size_t i = 0; i < fields.size(); ++i)
         show(*fields[i], conditions.bands[i], conditionColor(conditions.bands[i]));

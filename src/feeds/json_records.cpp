@@ -1,8 +1,10 @@
 #include "feeds/json_records.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <nlohmann/json.hpp>
+#include <variant>
 
 namespace corvane {
 
@@ -10,30 +12,35 @@ namespace {
 
 using Json = nlohmann::json;
 
-// Deeper than any record; what lies below is dropped as it is read, so that a body of brackets fills no memory.
-constexpr int deepest = 8;
-
-class ParsedRecord final : public JsonRecord {
+// The fields of the record that is being read; of a field given twice the last one counts.
+class OpenRecord final : public JsonRecord {
 public:
-    explicit ParsedRecord(const Json& record) : record_(record) {
-        if (!record.is_object()) problem_ = "is no object";
+    struct Other {};  // true, false, a list or an object
+    using Value = std::variant<Other, std::nullptr_t, double, std::string>;
+
+    void begin() {
+        fields_.clear();
+        problem_.clear();
     }
+    void name(std::string name) { fields_.emplace_back(std::move(name), Other{}); }
+    void value(Value value) { fields_.back().second = std::move(value); }
 
     std::string text(std::string_view name) override {
-        const Json* field = find(name);
-        if (field && field->is_string()) return field->get_ref<const std::string&>();
-        return fail("text", name), std::string();
+        const Value* field = find(name);
+        const auto* text = field ? std::get_if<std::string>(field) : nullptr;
+        if (!text) fail("text", name);
+        return text ? *text : std::string();
     }
     std::optional<std::string> optionalText(std::string_view name) override {
-        const Json* field = find(name);
-        if (!field || field->is_null()) return std::nullopt;
+        const Value* field = find(name);
+        if (!field || std::holds_alternative<std::nullptr_t>(*field)) return std::nullopt;
         return text(name);
     }
     std::optional<float> optionalNumber(std::string_view name) override {
-        const Json* field = find(name);
-        if (!field || field->is_null()) return std::nullopt;
-        const double number = field->is_number() ? field->get<double>() : INFINITY;
-        if (std::abs(number) <= std::numeric_limits<float>::max()) return static_cast<float>(number);
+        const Value* field = find(name);
+        if (!field || std::holds_alternative<std::nullptr_t>(*field)) return std::nullopt;
+        const auto* number = std::get_if<double>(field);
+        if (number && std::abs(*number) <= std::numeric_limits<float>::max()) return static_cast<float>(*number);
         fail("number", name);
         return std::nullopt;
     }
@@ -41,35 +48,95 @@ public:
     const std::string& problem() const { return problem_; }
 
 private:
-    const Json* find(std::string_view name) const {
-        if (!record_.is_object()) return nullptr;
-        const auto field = record_.find(name);
-        return field == record_.end() ? nullptr : &*field;
+    const Value* find(std::string_view name) const {
+        const auto field =
+            std::find_if(fields_.rbegin(), fields_.rend(), [&](const auto& f) { return f.first == name; });
+        return field == fields_.rend() ? nullptr : &field->second;
     }
     void fail(std::string_view kind, std::string_view name) {
         if (problem_.empty()) problem_ = "has no " + std::string(kind) + " \"" + std::string(name) + '"';
     }
 
-    const Json& record_;
+    std::vector<std::pair<std::string, Value>> fields_;
     std::string problem_;
+};
+
+// Takes the events of the parser. Only one record is held at a time, so that no body fills the memory; what is nested
+// in a record's fields is passed over. An event that returns false ends the parse.
+class RecordReader final : public nlohmann::json_sax<Json> {
+public:
+    using MakeRow = std::function<std::optional<FeedRow>(JsonRecord&)>;
+
+    explicit RecordReader(const MakeRow& makeRow) : makeRow_(makeRow) {}
+
+    DecodedFeed decoded;
+
+    bool null() override { return value(nullptr); }
+    bool boolean(bool) override { return value(OpenRecord::Other{}); }
+    bool number_integer(number_integer_t number) override { return value(static_cast<double>(number)); }
+    bool number_unsigned(number_unsigned_t number) override { return value(static_cast<double>(number)); }
+    bool number_float(number_float_t number, const string_t&) override { return value(number); }
+    bool string(string_t& text) override { return value(std::move(text)); }
+    bool binary(binary_t&) override { return value(OpenRecord::Other{}); }
+    bool key(string_t& name) override {
+        if (depth_ == insideRecord) record_.name(std::move(name));
+        return true;
+    }
+    bool start_array(std::size_t) override {
+        if (depth_ == insideList) return noObject();
+        ++depth_;
+        return true;
+    }
+    bool end_array() override {
+        --depth_;
+        return true;
+    }
+    bool start_object(std::size_t) override {
+        if (depth_ == outside) return fail("unreadable: no list");
+        if (depth_ == insideList) record_.begin();
+        ++depth_;
+        return true;
+    }
+    bool end_object() override {
+        if (--depth_ != insideList) return true;
+        ++records_;
+        auto row = makeRow_(record_);
+        if (!record_.problem().empty())
+            return fail("unreadable: record " + std::to_string(records_) + ' ' + record_.problem());
+        if (row) decoded.rows.push_back(std::move(*row));
+        return true;
+    }
+    bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override {
+        return fail("unreadable: not JSON");
+    }
+
+private:
+    static constexpr int outside = 0, insideList = 1, insideRecord = 2;
+
+    bool value(OpenRecord::Value value) {
+        if (depth_ == outside) return fail("unreadable: no list");
+        if (depth_ == insideList) return noObject();
+        if (depth_ == insideRecord) record_.value(std::move(value));
+        return true;
+    }
+    bool noObject() { return fail("unreadable: record " + std::to_string(records_ + 1) + " is no object"); }
+    bool fail(std::string problem) {
+        decoded = {{}, std::move(problem)};
+        return false;
+    }
+
+    const MakeRow& makeRow_;
+    OpenRecord record_;
+    int depth_ = outside;
+    std::size_t records_ = 0;
 };
 
 }  // namespace
 
 DecodedFeed decodeRecords(std::string_view body, const std::function<std::optional<FeedRow>(JsonRecord&)>& makeRow) {
-    const auto shallow = [](int depth, Json::parse_event_t, const Json&) { return depth < deepest; };
-    const Json records = Json::parse(body, shallow, false);
-    if (records.is_discarded()) return {{}, "unreadable: not JSON"};
-    if (!records.is_array()) return {{}, "unreadable: no list"};
-    DecodedFeed decoded;
-    for (std::size_t k = 0; k < records.size(); ++k) {
-        ParsedRecord record(records[k]);
-        auto row = makeRow(record);
-        if (!record.problem().empty())
-            return {{}, "unreadable: record " + std::to_string(k + 1) + ' ' + record.problem()};
-        if (row) decoded.rows.push_back(std::move(*row));
-    }
-    return decoded;
+    RecordReader reader(makeRow);
+    Json::sax_parse(body, &reader);
+    return std::move(reader.decoded);
 }
 
 }  // namespace corvane

@@ -24,7 +24,11 @@ std::optional<std::chrono::sys_seconds> spotTime(std::string_view text) {
 }
 
 long long spotAgeMinutes(std::chrono::system_clock::time_point now, std::chrono::sys_seconds spot) {
-    return std::chrono::duration_cast<std::chrono::seconds>(now - spot).count() / 60;
+    // In whole seconds: the years that a text can name do not fit into nanoseconds.
+    const auto whole = std::chrono::floor<std::chrono::seconds>(now);
+    long long seconds = (whole - spot).count();
+    if (seconds < 0 && now > whole) ++seconds;  // cut toward zero
+    return seconds / 60;
 }
 
 }  // namespace corvane

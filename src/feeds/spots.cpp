@@ -70,9 +70,8 @@ std::string ageText(std::string_view time, Instant now) {
 
 bool saysQrt(std::string_view comment) {
     constexpr std::string_view qrt = "qrt";
-    return !std::ranges::search(comment, qrt, {}, [](char c) {
-                return static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-            }).empty();
+    const auto sameLetter = [](char c, char letter) { return std::tolower(static_cast<unsigned char>(c)) == letter; };
+    return std::search(comment.begin(), comment.end(), qrt.begin(), qrt.end(), sameLetter) != comment.end();
 }
 
 // The pieces between the separators, without empty ones.

@@ -1,11 +1,14 @@
 // Tuning to a row of a list, and confirming a check-in to a net.
+#include <memory>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "app/operator_key.h"
 #include "controller/serial_port_demo_controller.h"
 #include "feeds/feed_table.h"
 #include "feeds/single_precision.h"
 #include "feeds/tune_command.h"
+#include "radio/utf8.h"
 
 namespace corvane {
 
@@ -15,7 +18,8 @@ namespace {
 
 constexpr float kilohertz = 1'000.0F;
 constexpr float megahertz = 1'000'000.0F;
-constexpr auto recordingTime = 2s;  // what the directory is given to note a confirmation
+constexpr std::size_t longestName = 200;  // characters that are spoken
+constexpr auto recordingTime = 2s;        // what the directory is given to note a confirmation
 
 // The row of a button, or nullptr when the list has been refreshed since, or the row has fewer fields.
 const FeedRow* rowOf(const FeedList& list, const Button& sender, std::size_t fields) {
@@ -31,7 +35,7 @@ void SerialPortDemoController::goPotaTune(Button& sender) {
     if (!frequency) return;
     link.cmd = tuneCommandForSpot(*frequency, (*spot)[2], ModeWords::spots, radio.vqAorB);
     sendCommand(link.cmd);
-    speak((*spot)[4]);
+    speak(utf8Prefix((*spot)[4], longestName));
 }
 
 void SerialPortDemoController::goSotaTune(Button& sender) {
@@ -66,14 +70,14 @@ void SerialPortDemoController::goMWTune(Button& sender) {
 void SerialPortDemoController::tuneTo(std::string command, const std::string& name) {
     link.cmd = std::move(command);
     writeString(link.cmd);
-    speak(name);
+    speak(utf8Prefix(name, longestName));
 }
 
 void SerialPortDemoController::goNetsConfirm(Button& sender) {
     const FeedRow* net = rowOf(feeds.vqNetsArray, sender, 7);
     if (!net) return;
     postConfirmation((*net)[6], 1, {});
-    speak("thank you for confirming " + (*net)[0]);
+    speak("thank you for confirming " + std::string(utf8Prefix((*net)[0], longestName)));
     later(recordingTime, [this] { fetchNets(); });
 }
 
@@ -96,9 +100,14 @@ void SerialPortDemoController::postConfirmation(const std::string& net, int acti
     request.ignoreCaches = true;
     request.contentType = "Application/json";
     request.body = body.dump();
-    platform_.http.send(request, [ended = std::move(then), alive = std::weak_ptr(alive_)](const HttpResponse&) {
-        if (ended && !alive.expired()) ended();
+    const auto once = std::make_shared<std::function<void()>>(std::move(then));
+    const auto end = [once] {
+        if (const auto task = std::exchange(*once, {})) task();
+    };
+    platform_.http.send(request, [end, alive = std::weak_ptr(alive_)](const HttpResponse&) {
+        if (!alive.expired()) end();
     });
+    later(recordingTime, end);  // a directory that does not answer holds up nothing
 }
 
 // Made at random when it is first needed, and kept: it tells the directory which confirmations are this operator's.

@@ -8,7 +8,7 @@
 namespace corvane {
 
 struct HttpRequest {
-    std::string method = "GET";
+    std::string method = "GET";                // or "POST"
     std::string url;                           // "https://api.pota.app/spot/activator"
     std::chrono::milliseconds timeout{60000};  // for the whole exchange
     bool ignoreCaches = false;                 // neither a local nor a remote cache may answer

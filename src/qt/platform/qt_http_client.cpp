@@ -34,8 +34,7 @@ std::string problemOf(const QNetworkReply& reply) {
         case QNetworkReply::InsecureRedirectError:
             return "redirected in vain";
         default:
-            return status != 0 ? "status " + std::to_string(status)
-                               : "no answer (" + reply.errorString().toStdString() + ")";
+            return status != 0 ? "status " + std::to_string(status) : "no answer";
     }
 }
 
@@ -73,7 +72,7 @@ private:
         if (static_cast<std::size_t>(body_.size()) > largestBody) body_.clear();
         HttpResponse response{body_.toStdString(), std::move(problem)};
         body_.clear();
-        if (reply_->isRunning()) reply_->abort();
+        if (reply_->isRunning() && reply_->error() == QNetworkReply::NoError) reply_->abort();
         reply_->deleteLater();
         if (completed) completed(std::move(response));
     }
@@ -97,8 +96,8 @@ HttpClient::Cancel QtHttpClient::send(const HttpRequest& request, std::function<
     }
     if (!request.contentType.empty())
         asked.setRawHeader("Content-Type", QByteArray::fromStdString(request.contentType));
-    QNetworkReply* reply = manager().sendCustomRequest(asked, QByteArray::fromStdString(request.method),
-                                                       QByteArray::fromStdString(request.body));
+    QNetworkReply* reply = request.method == "POST" ? manager().post(asked, QByteArray::fromStdString(request.body))
+                                                    : manager().get(asked);
     const QPointer<Exchange> exchange = new Exchange(reply, request.timeout, std::move(completed));
     return [exchange] {
         if (exchange) exchange->cancel();

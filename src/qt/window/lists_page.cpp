@@ -70,8 +70,7 @@ QWidget* makeListPage(Display& display, ChangeQueue& queue, const ListPage& list
     top->addWidget(count);
     auto* status = new TextLabel(display.*list.status, queue);
     status->setForegroundRole(QPalette::PlaceholderText);
-    status->setWordWrap(false);
-    top->addWidget(status);
+    top->addWidget(status, 1);
     rows->addLayout(top);
     rows->addWidget(table, 1);
     return page;

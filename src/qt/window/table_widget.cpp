@@ -132,7 +132,7 @@ private:
 }  // namespace
 
 TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent)
-    : QTableView(parent), model_(model), shown_(new FilteredRows(model, this)) {
+    : QTableView(parent), model_(model), shown_(new FilteredRows(model, this)), shownVersion_(model.version()) {
     describe(*this, model);
     setModel(shown_);
     setItemDelegate(new CellDelegate(model, this));
@@ -156,17 +156,19 @@ TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent)
     for (int column = 0; column < static_cast<int>(model.columns().size()); ++column)
         setColumnWidth(column, columnOf(model, column).width * character + 4 * gridStep);
     connect(this, &QTableView::clicked, this, [this](const QModelIndex& cell) { pressCell(cell); });
-    model.addView(queue, [this] {
-        const bool chosen = currentIndex().isValid();
-        const int rowBefore = currentIndex().row();
-        const int column = currentIndex().column();
-        shown_->reload();
-        // The keyboard stays where it was, as far as there are rows.
-        const int row = std::min(rowBefore, shownRows() - 1);
-        if (chosen && !currentIndex().isValid() && row >= 0)
-            selectionModel()->setCurrentIndex(shown_->index(row, column), QItemSelectionModel::ClearAndSelect);
-        emit rowsChanged();
-    });
+    model.addView(queue, [this] { reload(); });
+}
+
+// The keyboard stays where it was as far as there are rows, also across an empty table.
+void TableWidget::reload() {
+    if (currentIndex().isValid()) place_ = {currentIndex().row(), currentIndex().column()};
+    shown_->reload();
+    shownVersion_ = model_.version();
+    if (!currentIndex().isValid() && place_ && shownRows() > 0) {
+        const QModelIndex cell = shown_->index(std::min(place_->first, shownRows() - 1), place_->second);
+        selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect);
+    }
+    emit rowsChanged();
 }
 
 void TableWidget::setFilter(const QString& text) {
@@ -178,6 +180,8 @@ int TableWidget::shownRows() const { return shown_->rowCount({}); }
 int TableWidget::allRows() const { return shown_->sourceModel()->rowCount({}); }
 
 void TableWidget::pressCell(const QModelIndex& cell) {
+    // What is pressed is what is shown: rows that have changed since are other stations.
+    if (model_.version() != shownVersion_) return;
     if (cell.isValid() && columnOf(model_, cell.column()).kind == TableColumn::Kind::button)
         model_.pressCell(shown_->mapToSource(cell).row(), cell.column());
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QTableView>
+#include <optional>
+#include <utility>
 
 #include "display/table_view.h"
 
@@ -28,10 +30,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void reload();
     void pressCell(const QModelIndex& cell);
 
     TableView& model_;
     FilteredRows* shown_;
+    int shownVersion_;
+    std::optional<std::pair<int, int>> place_;  // row and column that last had the keyboard
 };
 
 }  // namespace corvane

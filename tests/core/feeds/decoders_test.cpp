@@ -51,6 +51,9 @@ TEST(SpotTime, IsReadExactly) {
         EXPECT_EQ(spotAgeMinutes(
                       now, std::chrono::time_point_cast<std::chrono::seconds>(now) - std::chrono::seconds(seconds)),
                   minutes);
+    EXPECT_EQ(spotAgeMinutes(now + 500ms, std::chrono::floor<std::chrono::seconds>(now) + 61s), -1);
+    EXPECT_EQ(spotAgeMinutes(now + 500ms, std::chrono::floor<std::chrono::seconds>(now) + 60s), 0);
+    EXPECT_LT(spotAgeMinutes(now, *spotTime("9999-12-31T00:00:00")), -4'000'000'000);
     for (const char* text :
          {"", "2026-11-23", "2026-11-23T13:59:01Z", "2026-11-23T13:59:01.5", "2026-02-30T00:00:00",
           "2026-11-23T24:00:00", "2026-11-23T13:60:00", "2026-11-23 13:59:01", "2026-11-23T1a:59:01"})

@@ -98,6 +98,7 @@ TEST(Feeds, TheLineBesideAListSaysWhatWentWrong) {
         {{"<html>", ""}, "unreadable: not JSON"},
         {{"[{}]", ""}, "unreadable: record 1 has no text \"activator\""},
         {{"[]", ""}, "0 spots"},
+        {{"", ""}, "an empty answer"},
     };
     for (const auto& [response, line] : cases) {
         FeedBench bench;
@@ -289,13 +290,15 @@ TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
     EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php");
     bench.http.answer(1, {nets, ""});
 
+    // Another refresh of the list does not swallow what is to be said.
     table.pressCell(0, 7);
     post.body = R"({"action":0,"key":")" + key + R"(","net_id":"7"})";
     EXPECT_EQ(bench.http.requests.at(2), post);
     bench.http.answer(2, {"", "status 500"});
     EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php");
     EXPECT_THAT(bench.takeSpoken(), IsEmpty());
-    bench.http.answer(3, {nets, ""});
+    bench.controller.fetchNets();
+    bench.http.answer(4, {nets, ""});
     EXPECT_THAT(bench.takeSpoken(), ElementsAre("your confirmation of this net has been retracted"));
 }
 

@@ -38,7 +38,8 @@ TEST(QtHttpClientTest, SendsWhatIsAskedAndGivesTheBody) {
     EXPECT_EQ(answer->problem, "");
     ASSERT_EQ(server.requests.size(), 1U);
     EXPECT_TRUE(server.requests[0].starts_with("GET /nets.php HTTP/1.1\r\n"));
-    EXPECT_EQ(server.requests[0].find("Cache-Control"), std::string::npos);
+    for (const char* header : {"Cache-Control", "Content-Type", "Content-Length"})
+        EXPECT_EQ(server.requests[0].find(header), std::string::npos) << header;
 
     HttpRequest post = get(server.url("/netconf.php"));
     post.method = "POST";

@@ -1,0 +1,34 @@
+// A body of the NetLogger service, of the nets directory or of the list of stations, whatever it is.
+#include <algorithm>
+#include <cstdint>
+
+#include "feeds/feed_cells.h"
+#include "feeds/tagged_lists.h"
+#include "feeds/tune_command.h"
+#include "radio/utf8.h"
+
+#define INVARIANT(condition) \
+    if (!(condition)) __builtin_trap()
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace corvane;
+    const std::string_view body(reinterpret_cast<const char*>(data), size);
+    struct Decoder {
+        DecodedFeed (*decode)(std::string_view body);
+        std::size_t fields;
+    };
+    for (const auto& [decode, fields] :
+         {Decoder{decodeNetLoggerNets, 4}, Decoder{decodeNets, 7}, Decoder{decodeMWStations, 5}}) {
+        const DecodedFeed list = decode(body);
+        INVARIANT(list.problem.empty() || list.rows.empty());
+        for (const FeedRow& row : list.rows) {
+            INVARIANT(row.fields.size() == fields);
+            for (const std::string& field : row.fields) INVARIANT(isUtf8(field));
+            INVARIANT(row[1].find_first_not_of("0123456789.") == std::string::npos);
+            feedCell(FeedTable::netLogger, "freq", row);
+            const std::string command = tuneCommandForNetLogger(row[1], "A");
+            INVARIANT(std::ranges::count(command, ';') == 4 && command.find("FA") == 5);
+        }
+    }
+    return 0;
+}
