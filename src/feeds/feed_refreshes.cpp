@@ -81,7 +81,8 @@ void SerialPortDemoController::fetchList(Feed feed, std::function<void()> then) 
         FeedList& list = feeds.*row.list;
         list = std::move(decoded.rows);
         (display.*row.table).reloadData();
-        const std::string count = std::to_string(list.size()) + ' ' + std::string(row.noun);
+        const std::string_view noun = row.noun.substr(0, row.noun.size() - (list.size() == 1 ? 1 : 0));
+        const std::string count = std::to_string(list.size()) + ' ' + std::string(noun);
         (display.*row.status)
             .setStringValue(clockTime(platform_.scheduler.now()) + ": " + (problem.empty() ? count : problem));
         endRefresh(row.feed);

@@ -25,7 +25,7 @@ struct ListFeed {
     FeedList FeedState::*list;
     TableView Display::*table;
     TextField Display::*status;
-    std::string_view noun;  // what the rows are: "spots"
+    std::string_view noun;  // what the rows are: "spots", of which one is a "spot"
     FeedTable cells;
     Button Display::*tuneButton;
 };

@@ -110,6 +110,11 @@ class CellDelegate final : public QStyledItemDelegate {
 public:
     CellDelegate(const TableView& table, QObject* parent) : QStyledItemDelegate(parent), table_(table) {}
 
+    // Room at both ends, so that a number on the right does not touch the text that follows it.
+    QString displayText(const QVariant& value, const QLocale&) const override {
+        const QChar room(0x2002);
+        return room + value.toString() + room;
+    }
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         if (columnOf(table_, index.column()).kind != TableColumn::Kind::button)
             return QStyledItemDelegate::paint(painter, option, index);
@@ -152,9 +157,12 @@ TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setStretchLastSection(true);
-    const int character = QFontMetrics(font()).averageCharWidth();
-    for (int column = 0; column < static_cast<int>(model.columns().size()); ++column)
-        setColumnWidth(column, columnOf(model, column).width * character + 4 * gridStep);
+    const QFontMetrics metrics(font());
+    for (int column = 0; column < static_cast<int>(model.columns().size()); ++column) {
+        const TableColumn& shown = columnOf(model, column);
+        const int title = metrics.horizontalAdvance(toQString(shown.title));
+        setColumnWidth(column, std::max(shown.width * metrics.averageCharWidth(), title) + 7 * gridStep);
+    }
     connect(this, &QTableView::clicked, this, [this](const QModelIndex& cell) { pressCell(cell); });
     model.addView(queue, [this] { reload(); });
 }

@@ -138,7 +138,6 @@ QString Theme::styleSheet() const {
                "QPlainTextEdit { background: %5; color: %3; border: 1px solid %1; border-radius: 5px; padding: 4px; }"
                "QTableView { background: %6; alternate-background-color: %7; color: %3; border: 1px solid %1;"
                " border-radius: 5px; selection-background-color: %5; selection-color: %3; }"
-               "QTableView::item { padding: 0 10px; }"
                "QPushButton[menu=\"true\"] { background: %5; color: %3; border: 1px solid %1; border-radius: 6px;"
                " padding: 5px 10px; }"
                "QPushButton[menu=\"true\"]:focus { border: 2px solid %4; padding: 4px 9px; }"

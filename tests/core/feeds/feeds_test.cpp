@@ -63,7 +63,7 @@ TEST(Feeds, ARefreshEmptiesTheListAndTakesItsAnswerAtOnce) {
     bench.http.answer(0, {spots, ""});
     ASSERT_EQ(bench.display.potaTable.rows(), 1);
     EXPECT_EQ(bench.display.potaTable.cell(0, 2), "7185.5");
-    EXPECT_EQ(bench.display.potaStatusField.stringValue(), "00:00 UTC: 1 spots");
+    EXPECT_EQ(bench.display.potaStatusField.stringValue(), "00:00 UTC: 1 spot");
     EXPECT_THAT(bench.takeSounds(), ElementsAre("file Funk"));
     bench.advance(5s);
     EXPECT_EQ(bench.display.potaTable.rows(), 1);
