@@ -16,7 +16,9 @@ using namespace std::chrono_literals;
 
 // The window at the services of one server.
 struct ListsStation : Station {
-    explicit ListsStation(LocalServer::Answer answer) : server(std::move(answer)) {}
+    static constexpr double slower = 5;  // leaves a server on this machine 400 ms of the 2 s
+
+    explicit ListsStation(LocalServer::Answer answer) : Station(slower), server(std::move(answer)) {}
 
     QTableView* show(int page, const char* table) {
         lists.display.mainTab.selectItem(Display::listsPage);
@@ -50,14 +52,21 @@ TEST(ListsTest, AreFilledFilteredAndTunedTo) {
     station.lists.awakeFromNib();
     QTableView* table = station.show(0, "potaTable");
     ASSERT_NE(table, nullptr);
-    ASSERT_TRUE(eventually([&] { return table->model()->rowCount() == 3; }));
-    EXPECT_TRUE(station.lists.display.potaStatusField.stringValue().ends_with("UTC: 3 spots"));
+    // A machine that is busy otherwise may need a second try.
+    TextField& status = station.lists.display.potaStatusField;
+    ASSERT_TRUE(eventually([&] {
+        if (status.stringValue().ends_with("no answer within 2 s")) station.lists.fetchPotaSpots();
+        return table->model()->rowCount() == 3;
+    }));
+    EXPECT_TRUE(status.stringValue().ends_with("UTC: 3 spots"));
     EXPECT_TRUE(eventually([&] {
-        return QString::fromStdString(station.lists.display.sotaStatusField.stringValue()).endsWith("not JSON");
+        const std::string sota = station.lists.display.sotaStatusField.stringValue();
+        if (sota.ends_with("no answer within 2 s")) station.lists.fetchSotaSpots();
+        return sota.ends_with("not JSON");
     }));
 
     station.lists.display.openCloseButton.performClick();
-    ASSERT_TRUE(eventually([&] { return station.lists.radio.vqAorB == "A"; }));
+    ASSERT_TRUE(eventually([&] { return station.lists.radio.vqAorB == "A"; }, 10s));
     QTest::keyClicks(station.listsWindow.findChild<QLineEdit*>("potaTableFilter"), "park 21");
     EXPECT_EQ(table->model()->rowCount(), 1);
     EXPECT_EQ(station.listsWindow.findChild<QLabel*>("potaTableCount")->text(), "1 of 3");

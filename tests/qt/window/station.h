@@ -18,7 +18,7 @@ class Station {
 public:
     static constexpr double speed = 25;  // 5 s pass in 200 ms
 
-    Station() {
+    explicit Station(double schedulerSpeed = speed) : schedulerSpeed_(schedulerSpeed) {
         for (const char* preference : {"voice", "sounds"}) platform.settings.setText(preference, "0");
         controller.awakeFromNib();
         window.show();
@@ -53,6 +53,10 @@ public:
         }));
     }
 
+private:
+    const double schedulerSpeed_;
+
+public:
     RadioOnLine radio;
     const QTemporaryDir folder;
     QtPlatform owner{options()};
@@ -72,7 +76,7 @@ private:
         made.dataPath = folder.filePath("data");
         made.soundsFolder = folder.path().toStdString();
         made.extraPorts = {radio.path()};
-        made.schedulerSpeed = speed;
+        made.schedulerSpeed = schedulerSpeed_;
         made.simulatedPort = false;
         return made;
     }
