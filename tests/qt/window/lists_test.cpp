@@ -67,10 +67,10 @@ TEST(ListsTest, AreFilledFilteredAndTunedTo) {
 
     station.lists.display.openCloseButton.performClick();
     ASSERT_TRUE(eventually([&] { return station.lists.radio.vqAorB == "A"; }, 10s));
+    ASSERT_EQ(station.show(0, "potaTable"), table);  // connecting has shown the transceiver's page
     QTest::keyClicks(station.listsWindow.findChild<QLineEdit*>("potaTableFilter"), "park 21");
     EXPECT_EQ(table->model()->rowCount(), 1);
     EXPECT_EQ(station.listsWindow.findChild<QLabel*>("potaTableCount")->text(), "1 of 3");
-    station.lists.display.listsTab.selectItem(0);
     const QPoint tune = table->visualRect(table->model()->index(0, 0)).center();
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, tune);
     EXPECT_TRUE(eventually([&] { return station.radio.transceiver.state().activeTuning().frequency == 14'210'000; }));
