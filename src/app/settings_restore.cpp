@@ -26,7 +26,10 @@ void SerialPortDemoController::restoreSettings() {
     display.vqMemAButton.setTitle("  M-01");
     const int power = display.powerPopUpButton.indexOfSelectedItem();
     display.powerPopUpButton.setEntries(powerEntries());
+    for (int entry = 0; entry < display.powerPopUpButton.titles().size(); ++entry)
+        display.powerPopUpButton.setItemImage(entry, Image::NSImageNameStatusAvailable);
     display.powerPopUpButton.selectItem(power);
+    fillMenuPopUps();
     fetchLists();
 }
 

@@ -53,7 +53,7 @@ SerialPortDemoController::~SerialPortDemoController() {
 void SerialPortDemoController::awakeFromNib() {
     if (preferences.vqPortChecked != 1) restoreFirstTime();
     // A port may have appeared, and the settings been restored, before the window was there.
-    if (std::exchange(started_, true)) return;
+    if (std::exchange(link.vqTimerStarted, 1) == 1) return;
     fetchBandConditions();
     autoMemorySample();
 }
@@ -112,6 +112,9 @@ void SerialPortDemoController::bindPopUps() {
     };
     for (const Row& row : rows)
         (display.*row.popUp).action = [this, act = row.action](PopUpButton& sender) { (this->*act)(sender); };
+    display.menu.forEachPopUp([this](const MenuItemRow& row, PopUpButton& popUp) {
+        if (row.write != MenuWrite::none) popUp.action = [this](PopUpButton& sender) { goSuperPopUp(sender); };
+    });
     display.afGainSlider.action = [this](Slider& sender) { goAF(sender); };
     display.rfGainSlider.action = [this](Slider& sender) { goRF(sender); };
     display.autoMemSquelchSlider.action = [this](Slider& sender) { goAutoMemSquelch(sender); };

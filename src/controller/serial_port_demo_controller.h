@@ -8,10 +8,11 @@
 //   session              the steps after a port opened            radio/session_start.cpp
 //   frequency and mode   FA FB MC IF OI MD VS                     interpret/frequency_responses.cpp
 //   operating state      meters, gains, switches, texts           interpret/operating_state_responses.cpp
+//   menu settings        EX: the transceiver's setup menu         interpret/menu_settings.cpp
 //   front panel          the keys                                 controls/front_panel.cpp
 //   entry fields         a typed frequency, the call sign         controls/entry_fields.cpp
 //   presets              frequencies in one step                  controls/preset_pop_up.cpp
-//   functions            the function pop-ups and sliders         controls/function_pop_ups.cpp
+//   functions            the function pop-ups and sliders         controls/function_pop_ups.cpp, menu_writes.cpp
 //   power-off            switching off after a while              controls/automatic_power_off.cpp
 //   keyer                texts on the air                         controls/keyer.cpp
 //   operator class       what may be done on a frequency          controls/operator_class.cpp
@@ -35,6 +36,7 @@
 #include "display/display.h"
 #include "feeds/feed_refresh.h"
 #include "feeds/feed_state.h"
+#include "interpret/menu_read_state.h"
 #include "interpret/radio_state.h"
 #include "memories/auto_memory_state.h"
 #include "memories/memory_state.h"
@@ -46,6 +48,7 @@ namespace corvane {
 enum class Feed : int;
 struct BandConditions;
 struct MemoryReply;
+struct MenuGroup;
 struct ModeGroup;
 
 class SerialPortDemoController final : public ORSSerialPortDelegate, public SerialPortsObserver {
@@ -123,6 +126,12 @@ public:
     void readNoiseBlankerSwitch(std::string_view response);    // "NB01"
     void readSwitch(std::string_view response);                // "BC01", "CO000001", "BP00001", "BI1"
 
+    // --- menu settings: interpret/menu_settings.cpp
+    // Fills a pop-up of the setup menu with the numbers index * step, e.g. (0, 100, 1, 2010115, 3, 0, 50) "000" to
+    // "100".
+    void fillMenuPopUp(int first, int last, int step, int tag, int digits, int page, int defaultNumber);
+    void readMenuItem(std::string_view response);  // "EX0101040250"
+
     // --- front panel: controls/front_panel.cpp
     void go(Button& sender);                                   // dispatches on the sender's tag
     void stepFrequency(std::string_view direction, int step);  // "up" or "down", hertz
@@ -152,7 +161,7 @@ public:
     void goMPVD(PopUpButton& sender);
     void goAF(Slider& sender);
     void goRF(Slider& sender);
-    void goSuperPopUp(PopUpButton& sender);  // scope, power, power-off and memory editors, by the sender's tag
+    void goSuperPopUp(PopUpButton& sender);  // setup menu, scope, power, power-off, memory editors, by the tag
 
     // --- power-off: controls/automatic_power_off.cpp
     void autoPowerOff();
@@ -218,6 +227,7 @@ public:
     Display display;
     LinkState link;
     RadioState radio;
+    MenuReadState menuRead;
     MemoryState memories;
     AutoMemoryState autoMemories;
     PowerOffState powerOff;
@@ -247,6 +257,13 @@ private:
     void readSideInformation(std::string_view response, char vfo);
     void showMemoryText(int slot, std::string_view text, std::deque<Button>& familyButtons);
 
+    void fillMenuPopUps();
+    void readCallSign(std::string_view value);
+    void startMenuRead(const MenuGroup& group);
+    void showMenuReadProgress(std::string_view problem = {});
+    void menuReadEnded(std::string_view problem);
+    void watchMenuRead();
+
     CommandPacer makePacer(Slider& slider);
     void sendBuilt(std::string command);  // nothing for an empty one
     void fillPresetPopUp();
@@ -258,6 +275,7 @@ private:
     struct MemoryEditor;
     static const MemoryEditor* memoryEditor(int tag);
     void writeMemoryText(PopUpButton& sender);
+    void writeMenuItem(PopUpButton& sender);
     void rememberScratchMemory(const ModeGroup& family);
     void clearTextMessage();
 
@@ -317,7 +335,6 @@ private:
     std::deque<FeedRefresh> feedRefreshes_;  // by Feed
     // What is to be done when the refresh under way has ended, or the one that replaces it; by Feed.
     std::array<std::vector<std::function<void()>>, 6> feedEnds_;
-    bool started_ = false;  // what runs from the start to the end of the program does
 };
 
 }  // namespace corvane

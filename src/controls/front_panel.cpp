@@ -96,7 +96,8 @@ bool SerialPortDemoController::pressMuteKey(Button& sender) {
     link.cmd = mute ? "AG0000;" : "AG0" + radio.vqAFLevel + ';';
     radio.vqMuted = mute ? 1 : 0;
     sender.setTag(mute ? muteTag + onTagOffset : muteTag);
-    sender.setImage(mute ? Image::audioOutputMute : Image::audioOutputVolumeHigh);
+    sender.setImage(mute ? Image::NSImageNameTouchBarAudioOutputMuteTemplate
+                         : Image::NSImageNameTouchBarAudioOutputVolumeHighTemplate);
     sender.setBezelColor(mute ? Color::red : Color::none);
     return true;
 }
@@ -219,6 +220,7 @@ bool SerialPortDemoController::pressClearAutoMemoriesKey(Button&) {
 bool SerialPortDemoController::pressReadMenuKey(Button& sender) {
     const auto group = std::ranges::find(menuGroups, sender.tag(), &MenuGroup::keyTag);
     if (group == menuGroups.end()) return false;
+    startMenuRead(*group);
     sendCommand(group->before);
     for (int subMenu = group->firstSubMenu; subMenu < group->lastSubMenu; ++subMenu)
         sendCommand(subMenuRequest(subMenu));

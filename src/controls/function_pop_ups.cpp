@@ -104,8 +104,7 @@ void SerialPortDemoController::goSuperPopUp(PopUpButton& sender) {
     if (tag == scopeSpeedTag) return sendBuilt(indexCommand("SS00", index, "0000;"));
     if (tag == scopePeakTag) return sendBuilt(indexCommand("SS01", index, "0000;"));
     if (tag == scopeLevelTag) {
-        const std::string_view level = index < 0 ? "+00.0" : sender.titleOfSelectedItem();
-        return sendBuilt("SS04" + std::string(level) + ';');
+        return sendBuilt("SS04" + (index < 0 ? "+00.0" : sender.titleOfSelectedItem()) + ';');
     }
     if (tag == scopeSpanTag) return sendBuilt(indexCommand("SS05", index, "0000;"));
     if (tag == powerOffTag) return planPowerOff(index);
@@ -113,7 +112,8 @@ void SerialPortDemoController::goSuperPopUp(PopUpButton& sender) {
         sendBuilt(powerCommand(index));
         return speak(std::to_string(index + lowestPower) + " watts");
     }
-    if (firstEditorTag <= tag && tag <= lastEditorTag) writeMemoryText(sender);
+    if (firstEditorTag <= tag && tag <= lastEditorTag) return writeMemoryText(sender);
+    writeMenuItem(sender);
 }
 
 }  // namespace corvane

@@ -17,7 +17,7 @@ void SerialPortDemoController::fillPresetPopUp() {
 
 // A title without a row is announced and sends nothing: the command before it must not go out a second time.
 void SerialPortDemoController::goMacro(PopUpButton& sender) {
-    const std::string title(sender.titleOfSelectedItem());
+    const std::string title = sender.titleOfSelectedItem();
     if (const Preset* preset = presetWithTitle(title))
         sendBuilt(std::string(preset->prefix).append(radio.vqAorB).append(preset->suffix));
     speak(title);

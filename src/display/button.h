@@ -3,10 +3,9 @@
 #pragma once
 
 #include "display/control.h"
+#include "display/image.h"
 
 namespace corvane {
-
-enum class Image { none, audioOutputMute, audioOutputVolumeHigh };
 
 inline constexpr int onTagOffset = 1000;
 

@@ -10,6 +10,7 @@
 #include "display/button.h"
 #include "display/front_panel_keys.h"
 #include "display/level_indicator.h"
+#include "display/menu_controls.h"
 #include "display/menu_item.h"
 #include "display/pop_up_button.h"
 #include "display/slider.h"
@@ -26,9 +27,9 @@ struct Display {
     static constexpr int memoriesPage = 3;
     static constexpr int listsPage = 4;
     static constexpr int settingsPage = 5;
-    static constexpr int listsPages = 6;     // five lists and the band conditions
-    static constexpr int settingsPages = 4;  // of the settings tab, one a menu group
-    static constexpr int memories = 5;       // of each family of keyer and text memories
+    static constexpr int listsPages = 6;                       // five lists and the band conditions
+    static constexpr int settingsPages = MenuControls::pages;  // of the settings tab, one a menu group
+    static constexpr int memories = 5;                         // of each family of keyer and text memories
 
     Display();
 
@@ -62,8 +63,8 @@ public:
     TextField portDetailsField{{"portDetailsField", 0, "", "Port details", "What hangs on the chosen port."}};
     Button openCloseButton{
         {"openCloseButton", 0, "Connect", "Connect or disconnect", "Open the chosen port, or close it.", "Ctrl+O"}};
-    TextField callTextField{
-        {"callTextField", 0, "Call sign", "Call sign", "Your call sign, up to 12 characters \u2014 Return saves it."}};
+    TextField callTextField{{"callTextField", menuTagBase + callSignItem, "Call sign", "Call sign",
+                             "Your call sign, up to 12 characters \u2014 Return saves it."}};
     Button saveCallButton{
         {"saveCallButton", 0, "Save", "Save the call sign", "Write the call sign into the transceiver's menu."}};
     TextField callNoticeField{{"callNoticeField", 0, "", "Call sign refused", "Why the call sign cannot be sent."}};
@@ -222,6 +223,9 @@ public:
     TextField signalNoiseField{{"signalNoiseField", 0, "Noise", "Noise level", "Expected noise level."}};
     TextField bandStatusField{
         {"bandStatusField", 0, "", "Band conditions fetched", "When the conditions were fetched, and what came."}};
+
+    // --- settings page: the transceiver's setup menu
+    MenuControls menu;
 
     // --- menu bar
     MenuItem menuItemPreferencesVoice{{"menuItemPreferencesVoice", 900, "Voice guide", "Voice guide",

@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "display/control.h"
+#include "display/entry_titles.h"
+#include "display/image.h"
 
 namespace corvane {
 
@@ -21,33 +23,46 @@ public:
         bool operator==(const Group&) const = default;
     };
 
-    const std::vector<std::string>& entries() const { return entries_; }
-    const std::vector<Group>& groups() const { return groups_; }  // none: the entries are one plain list
-    // Replaces the entries; nothing is selected afterwards.
-    void setEntries(std::vector<std::string> entries, std::vector<Group> groups = {}) {
+    // An entry of this title keeps an index that has no meaning; it cannot be chosen.
+    static constexpr std::string_view unusedEntry = "-";
+
+    const EntryTitles& titles() const { return titles_; }
+    std::vector<std::string> entries() const { return titles_.list(); }  // all titles; for short lists
+    const std::vector<Group>& groups() const { return groups_; }         // none: the entries are one plain list
+    // Replaces the entries, whose images go with them; nothing is selected afterwards.
+    void setEntries(EntryTitles titles, std::vector<Group> groups = {}) {
         selected_ = noSelection;
-        entries_ = std::move(entries);
+        titles_ = std::move(titles);
         groups_ = std::move(groups);
+        images_.clear();
         ++entriesVersion_;
         markChanged();
     }
-    // Counts the calls of setEntries, so that a view fills its list only when there is something new.
+    // Counts the changes of the entries, so that a view fills its list only when there is something new.
     int entriesVersion() const { return entriesVersion_; }
 
+    Image itemImage(int index) const {
+        return index < static_cast<int>(images_.size()) ? images_[static_cast<std::size_t>(index)] : Image::none;
+    }
+    // The picture beside an entry. An index without an entry changes nothing.
+    void setItemImage(int index, Image image) {
+        if (index < 0 || index >= titles_.size()) return;
+        if (index >= static_cast<int>(images_.size())) images_.resize(static_cast<std::size_t>(index) + 1);
+        images_[static_cast<std::size_t>(index)] = image;
+        ++entriesVersion_;
+        markChanged();
+    }
+
     int indexOfSelectedItem() const { return selected_; }
-    std::string_view titleOfSelectedItem() const {
-        return selected_ == noSelection ? std::string_view{}
-                                        : std::string_view{entries_[static_cast<std::size_t>(selected_)]};
+    std::string titleOfSelectedItem() const {  // empty when nothing is selected
+        return selected_ == noSelection ? std::string{} : titles_.at(selected_);
     }
 
     // An index without an entry selects nothing.
-    void selectItem(int index) {
-        assign(selected_, index >= 0 && index < static_cast<int>(entries_.size()) ? index : noSelection);
-    }
+    void selectItem(int index) { assign(selected_, index >= 0 && index < titles_.size() ? index : noSelection); }
     // A title that no entry has leaves the selection as it is.
     void selectItemWithTitle(std::string_view title) {
-        for (std::size_t i = 0; i < entries_.size(); ++i)
-            if (entries_[i] == title) return selectItem(static_cast<int>(i));
+        if (const auto index = titles_.indexOf(title)) selectItem(*index);
     }
 
     // What a choice does. A pop-up without an action only shows its value.
@@ -55,6 +70,7 @@ public:
     // The operator chooses an entry.
     void choose(int index) {
         if (!enabled() || !action) return;
+        if (index >= 0 && index < titles_.size() && titles_.at(index) == unusedEntry) return markChanged();
         selectedBefore_ = selected_;
         selectItem(index);
         action(*this);
@@ -63,7 +79,8 @@ public:
     void takeBack() { selectItem(selectedBefore_); }
 
 private:
-    std::vector<std::string> entries_;
+    EntryTitles titles_;
+    std::vector<Image> images_;  // of the first entries, as far as any has one
     std::vector<Group> groups_;
     int entriesVersion_ = 0;
     int selected_ = noSelection;

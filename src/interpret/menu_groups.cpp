@@ -11,9 +11,15 @@ std::string subMenuRequest(int number) {
     if (subMenu == subMenus.end()) return {};
     std::string request;
     for (int item = 1; item <= subMenu->items; ++item)
-        if (item < subMenu->firstNotAsked || item > subMenu->lastNotAsked)
-            request += "EX" + zeroPadded(number * 100 + item, 6) + ';';
+        if (isAskedFor(number * 100 + item)) request += "EX" + zeroPadded(number * 100 + item, 6) + ';';
     return request;
+}
+
+bool isAskedFor(int item) {
+    const auto subMenu = std::ranges::find(subMenus, item / 100, &SubMenu::number);
+    const int place = item % 100;
+    return subMenu != subMenus.end() && place >= 1 && place <= subMenu->items &&
+           (place < subMenu->firstNotAsked || place > subMenu->lastNotAsked);
 }
 
 }  // namespace corvane

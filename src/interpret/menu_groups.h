@@ -42,4 +42,7 @@ inline constexpr std::array menuGroups{
 // that is not in the table gives none.
 std::string subMenuRequest(int number);
 
+// Whether the read of its group asks for an item: 30107 is asked for, 30108 is not.
+bool isAskedFor(int item);
+
 }  // namespace corvane

@@ -64,12 +64,12 @@ void SerialPortDemoController::readAFGain(std::string_view response) {
     const int level = decimalOrZero(digits);
     if (level < lowestAudibleLevel) {
         radio.vqMuted = 1;
-        display.muteButton.setImage(Image::audioOutputMute);
+        display.muteButton.setImage(Image::NSImageNameTouchBarAudioOutputMuteTemplate);
         display.muteButton.setBezelColor(Color::red);
     } else {
         radio.vqAFLevel = digits;
         if (radio.vqMuted == 1) {
-            display.muteButton.setImage(Image::audioOutputVolumeHigh);
+            display.muteButton.setImage(Image::NSImageNameTouchBarAudioOutputVolumeHighTemplate);
             display.muteButton.setBezelColor(Color::none);
             radio.vqMuted = 0;
         }

@@ -23,6 +23,7 @@ struct RadioState {
     std::string vqVFOB;             // VFO B
     std::string vqAFLevel = "000";  // the last AF gain of 5 or more, three digits
     std::string vqRFLevel = "000";  // the last RF gain, three digits
+    std::string vqCall;             // the call sign in the transceiver's menu
     int vqMuted = 0;                // 1 while the AF gain is below 5
     std::array<std::string, 6> vqTextMemoryArray;  // keyer and text memories as last reported; 1 to 5 are used
     std::string vqTextMemoryRevert;                // memory 5 of whichever family was reported last

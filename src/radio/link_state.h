@@ -29,7 +29,8 @@ struct LinkState {
     int vqSignal = 0;  // the last six digits of the last meter report: meter reading times 1000
     unsigned session =
         0;  // grows with every opening and closing, so that a step left over from an earlier one is known
-    bool answered = false;  // whether anything has come from the transceiver since the port was opened
+    int vqTimerStarted = 0;  // 1 from when what runs as long as the program does has been started
+    bool answered = false;   // whether anything has come from the transceiver since the port was opened
 };
 
 }  // namespace corvane

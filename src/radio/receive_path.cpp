@@ -35,6 +35,7 @@ constexpr std::array responseTable{
     ResponseRow{"CO000000", equals, &Controller::readSwitch},
     ResponseRow{"CO000001", equals, &Controller::readSwitch},
     ResponseRow{"EM", prefix, &Controller::readTextMemory},
+    ResponseRow{"EX", prefix, &Controller::readMenuItem},
     ResponseRow{"FA", prefix, &Controller::readFrequencyA},
     ResponseRow{"FB", prefix, &Controller::readFrequencyB},
     ResponseRow{"GT", prefix, &Controller::readAgc},
@@ -117,6 +118,7 @@ void SerialPortDemoController::interpretResponses(std::string_view text) {
         // 304.
         if (response.starts_with('?') && memories.vqMemRead == "run") response = "MR304";
         if (response.starts_with('?') && memories.vqTagRead == "run") response = "MT304";
+        if (response.starts_with('?') && menuRead.takeRefusal()) showMenuReadProgress();
         const ResponseRow* row = responseRow(response);
         if (!row) return;
         if (row->handler)

@@ -73,6 +73,7 @@ void SerialPortDemoController::serialPortWasClosed(ORSSerialPort&) {
     display.openCloseButton.setBezelColor(Color::red);
     setMemoryKeysEnabled(false);
     memoryReadLostLink();
+    menuReadEnded(": stopped, the link is closed.");
     playSystemSound("Bottle");
     showLinkStatus();
 }
@@ -84,6 +85,7 @@ void SerialPortDemoController::serialPortWasRemovedFromSystem(ORSSerialPort& por
     display.openCloseButton.setTitle("Connect");
     setMemoryKeysEnabled(false);
     memoryReadLostLink();
+    menuReadEnded(": stopped, the link is closed.");
     showLinkMessage(message);
 }
 

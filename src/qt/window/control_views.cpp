@@ -12,55 +12,6 @@
 
 namespace corvane {
 
-PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent) : QComboBox(parent), model_(model) {
-    describe(*this, model);
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(6);
-    setPlaceholderText(QStringLiteral("\u2013"));
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setProperty("shown", !model.action);
-    setFocusPolicy(model.action ? Qt::StrongFocus : Qt::TabFocus);
-    connect(this, &QComboBox::activated, this, [this](int index) { model_.choose(index); });
-    model.addView(queue, [this] { showModel(); });
-    showModel();
-}
-
-void PopUpView::showModel() {
-    if (shownEntries_ != model_.entriesVersion()) {
-        shownEntries_ = model_.entriesVersion();
-        clear();
-        for (const std::string& entry : model_.entries()) addItem(QString::fromStdString(entry));
-    }
-    if (isEnabled() != model_.enabled()) setEnabled(model_.enabled());
-    setCurrentIndex(model_.indexOfSelectedItem());
-    setAccessibleName(model_.action ? labelOf(model_) : spokenWithValue(model_, model_.titleOfSelectedItem()));
-}
-
-void PopUpView::wheelEvent(QWheelEvent* event) { event->ignore(); }
-
-void PopUpView::mousePressEvent(QMouseEvent* event) {
-    if (model_.action) QComboBox::mousePressEvent(event);
-}
-
-// Walking through the entries of a closed list would send every one that is passed: the keys open it instead.
-void PopUpView::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-        case Qt::Key_Tab:
-        case Qt::Key_Backtab:
-            return QComboBox::keyPressEvent(event);
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-        case Qt::Key_Space:
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_F4:
-            if (model_.action) return showPopup();
-            [[fallthrough]];
-        default:
-            event->ignore();
-    }
-}
-
 SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent) : QSlider(Qt::Horizontal, parent) {
     describe(*this, model);
     setRange(model.minimum(), model.maximum());

@@ -2,7 +2,6 @@
 // operator does to it; a model without an action is only shown.
 #pragma once
 
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -17,25 +16,6 @@
 class QMenu;
 
 namespace corvane {
-
-class PopUpView : public QComboBox {
-    Q_OBJECT
-
-public:
-    PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent = nullptr);
-
-protected:
-    // The wheel scrolls the page; it must not change a transceiver by the way.
-    void wheelEvent(QWheelEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    void showModel();
-
-    PopUpButton& model_;
-    int shownEntries_ = -1;
-};
 
 // While its knob is held it follows the hand alone.
 class SliderView : public QSlider {

@@ -132,7 +132,7 @@ void KeyButton::paintFace(QPainter& painter, const QRect& face, const QColor& in
     if (model_.image() != Image::none) {
         const int side = QFontMetrics(font()).height();
         paintLoudspeaker(painter, QRectF(face.left() + gridStep, face.center().y() - side / 2.0, side, side),
-                         model_.image() == Image::audioOutputMute, ink);
+                         model_.image() == Image::NSImageNameTouchBarAudioOutputMuteTemplate, ink);
         textFace.setLeft(face.left() + side + 2 * gridStep);
     }
     const QString shown =

@@ -8,6 +8,7 @@
 #include "qt/window/key_grid.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
+#include "qt/window/pop_up_view.h"
 #include "qt/window/theme.h"
 
 namespace corvane {

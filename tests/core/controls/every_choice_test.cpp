@@ -246,7 +246,7 @@ TEST(EveryChoice, OfAPresetTunesToWhatItsTitleSays) {
         bench.transceiver.operate(vfo);
         bench.settle();
         for (int index = 0; index < static_cast<int>(presets.entries().size()); ++index) {
-            const std::string& title = presets.entries()[static_cast<std::size_t>(index)];
+            const std::string title = presets.entries()[static_cast<std::size_t>(index)];
             const Promise promise = promiseOf(title);
             presets.choose(index);
             bench.settle();

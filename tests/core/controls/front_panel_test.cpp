@@ -198,13 +198,13 @@ TEST(FrontPanel, MuteKeepsTheVolumeForLater) {
     TunedBench bench;
     bench.press(610);
     EXPECT_EQ(bench.radio.vqMuted, 1);
-    EXPECT_EQ(bench.display.muteButton.image(), Image::audioOutputMute);
+    EXPECT_EQ(bench.display.muteButton.image(), Image::NSImageNameTouchBarAudioOutputMuteTemplate);
     bench.receive("AG0000;");
     bench.takeWrites();
     bench.press(610);
     EXPECT_EQ(bench.takeWrites(), (Writes{"AG0128;", "BI1;"}));
     EXPECT_EQ(bench.radio.vqMuted, 0);
-    EXPECT_EQ(bench.display.muteButton.image(), Image::audioOutputVolumeHigh);
+    EXPECT_EQ(bench.display.muteButton.image(), Image::NSImageNameTouchBarAudioOutputVolumeHighTemplate);
 }
 
 TEST(FrontPanel, AVfoKeyShowsItsFrequencyAndSelectsItsSide) {

@@ -59,7 +59,7 @@ TEST_F(ControlTest, EverySetterThatChangesSomethingIsShown) {
         {[&] { button.setTitle("40"); }, "m20Button"}, {[&] { button.setTag(1020); }, "m20Button"},
         {[&] { button.setEnabled(false); }, "m20Button"}, {[&] { button.setVisible(false); }, "m20Button"},
         {[&] { button.setBezelColor(Color::red); }, "m20Button"},
-        {[&] { button.setImage(Image::audioOutputMute); }, "m20Button"},
+        {[&] { button.setImage(Image::NSImageNameTouchBarAudioOutputMuteTemplate); }, "m20Button"},
         {[&] { popUp.setEntries({"OFF", "ON"}); }, "tag2007"}, {[&] { popUp.selectItem(1); }, "tag2007"},
         {[&] { popUp.selectItemWithTitle("OFF"); }, "tag2007"}, {[&] { slider.setIntegerValue(99); }, "slider"},
         {[&] { field.setStringValue("FA;"); }, "field"}, {[&] { level.setIntegerValue(99); }, "level"},

@@ -80,12 +80,12 @@ TEST(OperatingStateResponses, AFGainBelowFiveCountsAsMuted) {
         std::string_view response;
         Volume volume;
     } steps[] = {{"AG0120;", {120, "120", 0, Image::none, Color::none}},
-                 {"AG0003;", {3, "120", 1, Image::audioOutputMute, Color::red}},
-                 {"AG0004;", {4, "120", 1, Image::audioOutputMute, Color::red}},
-                 {"AG0005;", {5, "005", 0, Image::audioOutputVolumeHigh, Color::none}},
-                 {"AG0255;", {255, "255", 0, Image::audioOutputVolumeHigh, Color::none}},
-                 {"AG0999;", {255, "999", 0, Image::audioOutputVolumeHigh, Color::none}},
-                 {"AG0xyz;", {0, "999", 1, Image::audioOutputMute, Color::red}}};
+                 {"AG0003;", {3, "120", 1, Image::NSImageNameTouchBarAudioOutputMuteTemplate, Color::red}},
+                 {"AG0004;", {4, "120", 1, Image::NSImageNameTouchBarAudioOutputMuteTemplate, Color::red}},
+                 {"AG0005;", {5, "005", 0, Image::NSImageNameTouchBarAudioOutputVolumeHighTemplate, Color::none}},
+                 {"AG0255;", {255, "255", 0, Image::NSImageNameTouchBarAudioOutputVolumeHighTemplate, Color::none}},
+                 {"AG0999;", {255, "999", 0, Image::NSImageNameTouchBarAudioOutputVolumeHighTemplate, Color::none}},
+                 {"AG0xyz;", {0, "999", 1, Image::NSImageNameTouchBarAudioOutputMuteTemplate, Color::red}}};
     TestBench bench;
     const Button& mute = bench.display.muteButton;
     for (const auto& [response, volume] : steps) {

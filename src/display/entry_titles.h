@@ -1,0 +1,53 @@
+// The titles of a pop-up's entries.
+#pragma once
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace corvane {
+
+// The numbers from `first` to `last` by `step`, in `digits` digits with leading zeros, with a sign before them if
+// `sign` says so: {-20, 10, 1, 2, true} gives "-20" ... "+00" ... "+10". `step` is above 0; a last below the first
+// gives none.
+struct NumberRun {
+    int first;
+    int last;
+    int step;
+    int digits;
+    bool sign = false;
+
+    int size() const { return last < first ? 0 : (last - first) / step + 1; }
+    std::string at(int index) const;
+    std::optional<int> indexOf(std::string_view title) const;
+    bool operator==(const NumberRun&) const = default;
+};
+
+// A list of texts, or a run of numbers, whose texts are made when they are asked for: ten thousand of them cost
+// nothing.
+class EntryTitles {
+public:
+    EntryTitles() = default;
+    EntryTitles(std::vector<std::string> texts) : titles_(std::move(texts)) {}
+    EntryTitles(std::initializer_list<std::string> texts) : titles_(std::vector(texts)) {}
+    EntryTitles(NumberRun run) : titles_(run) {}
+
+    int size() const;
+    std::string at(int index) const;                           // the index must be below size()
+    std::optional<int> indexOf(std::string_view title) const;  // the first entry of this title
+    std::vector<std::string> list() const;                     // all of them
+
+    bool operator==(const EntryTitles&) const = default;
+
+private:
+    std::variant<std::vector<std::string>, NumberRun> titles_;
+};
+
+// "OFF|FAST|MID" gives three entries, "FIRST..LAST/STEP%D" or "FIRST..LAST/STEP%+D" a run of numbers, e.g.
+// "-20..+10/1%+2"; empty text gives none.
+EntryTitles entryTitles(std::string_view entries);
+
+}  // namespace corvane

@@ -1,0 +1,120 @@
+#include "qt/window/pop_up_view.h"
+
+#include <QAbstractListModel>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QListView>
+#include <QPainter>
+#include <QPixmap>
+#include <QSignalBlocker>
+
+#include "qt/window/control_texts.h"
+#include "qt/window/theme.h"
+
+namespace corvane {
+
+namespace {
+
+QIcon dot(const QColor& color) {
+    constexpr int size = 16;
+    QPixmap picture(size * 2, size * 2);
+    picture.setDevicePixelRatio(2);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawEllipse(QRectF(size / 4.0, size / 4.0, size / 2.0, size / 2.0));
+    return picture;
+}
+
+QVariant pictureOf(Image image) {
+    static const QIcon available = dot(QColor(0x34, 0xc7, 0x59));
+    static const QIcon partiallyAvailable = dot(QColor(0xe0, 0xa8, 0x00));
+    if (image == Image::NSImageNameStatusAvailable) return available;
+    if (image == Image::NSImageNameStatusPartiallyAvailable) return partiallyAvailable;
+    return {};
+}
+
+}  // namespace
+
+// Asks the pop-up for an entry when it is shown, so that ten thousand entries cost no more than the visible ones.
+class EntryModel : public QAbstractListModel {
+public:
+    EntryModel(const PopUpButton& popUp, QObject* parent) : QAbstractListModel(parent), popUp_(popUp) {}
+
+    int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : popUp_.titles().size(); }
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (!index.isValid() || index.row() >= popUp_.titles().size()) return {};
+        if (role == Qt::DecorationRole) return pictureOf(popUp_.itemImage(index.row()));
+        if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
+        return QString::fromStdString(popUp_.titles().at(index.row()));
+    }
+    Qt::ItemFlags flags(const QModelIndex& index) const override {
+        const Qt::ItemFlags flags = QAbstractListModel::flags(index);
+        const bool unused = index.isValid() && popUp_.titles().at(index.row()) == PopUpButton::unusedEntry;
+        return unused ? flags & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable) : flags;
+    }
+    void reset() {
+        beginResetModel();
+        endResetModel();
+    }
+
+private:
+    const PopUpButton& popUp_;
+};
+
+PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent)
+    : QComboBox(parent), model_(model), entries_(new EntryModel(model, this)) {
+    describe(*this, model);
+    setModel(entries_);
+    if (auto* list = qobject_cast<QListView*>(view()))
+        list->setUniformItemSizes(true);  // they are not measured one by one
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(6);
+    setPlaceholderText(QStringLiteral("\u2013"));
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setProperty("shown", !model.action);
+    setFocusPolicy(model.action ? Qt::StrongFocus : Qt::TabFocus);
+    connect(this, &QComboBox::activated, this, [this](int index) { model_.choose(index); });
+    model.addView(queue, [this] { showModel(); });
+    showModel();
+}
+
+void PopUpView::showModel() {
+    if (shownEntries_ != model_.entriesVersion()) {
+        shownEntries_ = model_.entriesVersion();
+        const QSignalBlocker quiet(this);
+        entries_->reset();
+    }
+    if (isEnabled() != model_.enabled()) setEnabled(model_.enabled());
+    setCurrentIndex(model_.indexOfSelectedItem());
+    setAccessibleName(model_.action ? labelOf(model_) : spokenWithValue(model_, model_.titleOfSelectedItem()));
+}
+
+void PopUpView::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+void PopUpView::mousePressEvent(QMouseEvent* event) {
+    if (model_.action) QComboBox::mousePressEvent(event);
+}
+
+// Walking through the entries of a closed list would send every one that is passed: the keys open it instead.
+void PopUpView::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            return QComboBox::keyPressEvent(event);
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_Space:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_F4:
+            if (model_.action) return showPopup();
+            [[fallthrough]];
+        default:
+            event->ignore();
+    }
+}
+
+}  // namespace corvane

@@ -1,0 +1,32 @@
+// The widget of a pop-up. It shows its model for as long as both live; a model without an action is only shown.
+#pragma once
+
+#include <QComboBox>
+
+#include "display/pop_up_button.h"
+
+namespace corvane {
+
+class EntryModel;
+
+class PopUpView : public QComboBox {
+    Q_OBJECT
+
+public:
+    PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+protected:
+    // The wheel scrolls the page; it must not change a transceiver by the way.
+    void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void showModel();
+
+    PopUpButton& model_;
+    EntryModel* entries_;
+    int shownEntries_ = -1;
+};
+
+}  // namespace corvane
