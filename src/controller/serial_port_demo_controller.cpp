@@ -33,6 +33,7 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
     setActiveVfo(radio.vqAorB);
     showLinkStatus();
     serialPortManager.setObserver(this);
+    userDefaults.onProblem = [this] { showSettingsProblem(); };
 }
 
 CommandPacer SerialPortDemoController::makePacer(Slider& slider) {
@@ -43,6 +44,7 @@ CommandPacer SerialPortDemoController::makePacer(Slider& slider) {
 
 SerialPortDemoController::~SerialPortDemoController() {
     serialPortManager.setObserver(nullptr);
+    userDefaults.onProblem = nullptr;
     // The window may have gone before: nobody is left to show what the port says of its closing.
     if (const auto port = std::exchange(link.serialPort, nullptr)) {
         port->setDelegate(nullptr);
@@ -63,6 +65,14 @@ void SerialPortDemoController::restoreFirstTime() {
     restoreSettings();
     const bool remembered = !userDefaults.text("defaultPort").value_or("").empty();
     if (!link.serialPort && !remembered) setSerialPort(serialPortManager.suggestedPort());
+    showSettingsProblem();
+}
+
+void SerialPortDemoController::showSettingsProblem() {
+    const std::string problem = userDefaults.problem();
+    if (problem.empty()) return;
+    platform_.log.line(problem);
+    showLinkMessage(problem);
 }
 
 void SerialPortDemoController::bindControls() {

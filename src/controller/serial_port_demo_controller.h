@@ -236,6 +236,7 @@ public:
 
 private:
     void restoreFirstTime();
+    void showSettingsProblem();
     void bindControls();
     void bindPopUps();
     void bindEntries();

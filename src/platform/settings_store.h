@@ -1,6 +1,7 @@
 // The user's settings between runs: plain words as keys, text or whole numbers as values.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +16,11 @@ public:
     virtual int integer(std::string_view key) const = 0;                      // 0 when absent or not a number
     virtual void setText(std::string_view key, std::string_view value) = 0;
     virtual void setInteger(std::string_view key, int value) = 0;
+
+    // What the operator must know of the settings as a whole, in one line: that they could not be read or kept. Empty
+    // when they are fine. `onProblem` is called when that changes.
+    virtual std::string problem() const { return {}; }
+    std::function<void()> onProblem;
 };
 
 }  // namespace corvane

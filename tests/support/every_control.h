@@ -42,6 +42,11 @@ void forEachControl(Display& display, Each each) {
     };
     // clang-format on
     for (Control* control : controls) each(*control);
+    display.menu.forEachPopUp([&](const MenuItemRow&, PopUpButton& popUp) { each(popUp); });
+    for (int page = 0; page < MenuControls::pages; ++page) {
+        each(display.menu.readField(page));
+        each(display.menu.readProgress(page));
+    }
 }
 
 }  // namespace corvane

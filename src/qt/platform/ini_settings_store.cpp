@@ -1,8 +1,11 @@
 #include "qt/platform/ini_settings_store.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QStringList>
 #include <QVariant>
+#include <algorithm>
 
 namespace corvane {
 
@@ -16,6 +19,48 @@ QString asText(const QVariant& value) {
     return value.toString();
 }
 
+// A value, a section, a comment or nothing.
+bool isSettingsLine(const QByteArray& line) {
+    const QByteArray text = line.trimmed();
+    return text.isEmpty() || text.contains('=') || (text.startsWith('[') && text.endsWith(']')) ||
+           text.startsWith(';') || text.startsWith('#');
+}
+
+// What is wrong with a settings file, or nothing. Every line of it ends with a line end, so that a file that was cut
+// off is known.
+QString faultIn(const QString& path) {
+    QFile file(path);
+    if (!file.exists()) return {};
+    if (!file.open(QIODevice::ReadOnly)) return file.errorString();
+    const QByteArray content = file.readAll();
+    if (content.isEmpty()) return {};
+    if (content.contains('\0') || !QUtf8StringView(content).isValidUtf8()) return QStringLiteral("it is not text");
+    if (!content.endsWith('\n')) return QStringLiteral("it is cut off");
+    const QList<QByteArray> lines = content.split('\n');
+    const bool settings = std::all_of(lines.begin(), lines.end(), isSettingsLine);
+    return settings ? QString() : QStringLiteral("its lines are not settings");
+}
+
+QString freeName(const QString& path) {
+    QString name = path + QLatin1String(".bad");
+    for (int number = 2; QFileInfo::exists(name); ++number)
+        name = path + QLatin1String(".bad") + QString::number(number);
+    return name;
+}
+
+// Moves a file that is no settings file out of the way; says so in one line.
+std::string setAsideIfBad(const QString& path) {
+    const QString fault = faultIn(path);
+    if (fault.isEmpty()) return {};
+    const QString kept = freeName(path);
+    const QString end = QFile::rename(path, kept)
+                            ? QStringLiteral("The old file is kept as %1.").arg(QFileInfo(kept).fileName())
+                            : QStringLiteral("It could not be moved away either; what you set lasts for this run.");
+    return QStringLiteral("The settings in %1 could not be read (%2), so the program starts with its defaults. %3")
+        .arg(path, fault, end)
+        .toStdString();
+}
+
 }  // namespace
 
 QString IniSettingsStore::defaultPath() {
@@ -23,10 +68,11 @@ QString IniSettingsStore::defaultPath() {
            QLatin1String("/corvane/corvane.conf");
 }
 
-IniSettingsStore::IniSettingsStore(const QString& path) : settings_(path, QSettings::IniFormat) {
+IniSettingsStore::IniSettingsStore(const QString& path)
+    : problem_(setAsideIfBad(path)), settings_(path, QSettings::IniFormat) {
     writeSoon_.setSingleShot(true);
     writeSoon_.setInterval(0);
-    QObject::connect(&writeSoon_, &QTimer::timeout, &settings_, &QSettings::sync);
+    QObject::connect(&writeSoon_, &QTimer::timeout, &settings_, [this] { write(); });
 }
 
 std::optional<std::string> IniSettingsStore::text(std::string_view key) const {
@@ -36,6 +82,16 @@ std::optional<std::string> IniSettingsStore::text(std::string_view key) const {
 }
 
 int IniSettingsStore::integer(std::string_view key) const { return asText(settings_.value(fromText(key))).toInt(); }
+
+// A full disk is told of once; the next change tries again.
+void IniSettingsStore::write() {
+    settings_.sync();
+    const bool failed = settings_.status() == QSettings::AccessError;
+    if (!failed || !problem_.empty()) return;
+    problem_ = "The settings cannot be written to " + settings_.fileName().toStdString() +
+               ": look for a full disk or a missing permission. What you set lasts for this run.";
+    if (onProblem) onProblem();
+}
 
 void IniSettingsStore::setText(std::string_view key, std::string_view value) {
     settings_.setValue(fromText(key), fromText(value));

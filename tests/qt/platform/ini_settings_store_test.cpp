@@ -4,7 +4,10 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <csignal>
 #include <string>
+
+#include <sys/resource.h>
 
 #include "event_loop.h"
 
@@ -60,6 +63,60 @@ TEST_F(IniSettingsStoreTest, AFileEditedByHandIsRead) {
     EXPECT_EQ(store.text("call"), "a, b");
     EXPECT_EQ(store.integer("autosquelch"), 0);
     EXPECT_EQ(store.text("voice"), "1");
+}
+
+TEST_F(IniSettingsStoreTest, AFileThatIsNoSettingsFileIsKeptBesideTheNewOne) {
+    struct Case {
+        QByteArray content;
+        const char* reason;
+    };
+    IniSettingsStore(path).setText("sounds", "0");
+    const QByteArray whole = file();
+    int number = 0;
+    for (const Case& each : {Case{whole.left(whole.size() - 1), "cut off"}, Case{whole.left(12), "cut off"},
+                             Case{QByteArray("sounds=0\0\n", 10), "not text"}, Case{"sounds=\xff\xfe\n", "not text"},
+                             Case{"<html>no such page</html>\n", "not settings"}}) {
+        QFile(path).remove();
+        QFile bad(path);
+        ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
+        bad.write(each.content);
+        bad.close();
+        {
+            IniSettingsStore store(path);
+            EXPECT_NE(store.problem().find(each.reason), std::string::npos) << store.problem();
+            EXPECT_EQ(store.problem().find('\n'), std::string::npos);
+            EXPECT_EQ(store.text("sounds"), std::nullopt);
+            store.setText("sounds", "1");
+        }
+        EXPECT_EQ(IniSettingsStore(path).problem(), "");
+        EXPECT_EQ(IniSettingsStore(path).text("sounds"), "1");
+        QFile kept(path + (++number == 1 ? QString(".bad") : ".bad" + QString::number(number)));
+        ASSERT_TRUE(kept.open(QIODevice::ReadOnly)) << kept.fileName().toStdString();
+        EXPECT_EQ(kept.readAll(), each.content);
+    }
+}
+
+TEST_F(IniSettingsStoreTest, AFullDiskLeavesTheOldFileWholeAndIsTold) {
+    IniSettingsStore(path).setText("call", "N0CALL");
+    const QByteArray before = file();
+    IniSettingsStore store(path);
+    int told = 0;
+    store.onProblem = [&] { ++told; };
+    struct rlimit limits;
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limits), 0);
+    const auto ignored = std::signal(SIGXFSZ, SIG_IGN);
+    const struct rlimit nothing { 4, limits.rlim_max };  // bytes a file may have
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &nothing), 0);
+    store.setText("call", "N1CALL");
+    const bool known = eventually([&] { return told > 0; });
+    setrlimit(RLIMIT_FSIZE, &limits);
+    std::signal(SIGXFSZ, ignored);
+    EXPECT_TRUE(known);
+    EXPECT_NE(store.problem().find("full disk"), std::string::npos) << store.problem();
+    EXPECT_EQ(file(), before);
+    store.setText("voice", "0");
+    EXPECT_TRUE(eventually([&] { return file().contains("N1CALL") && file().contains("voice=0"); }));
+    EXPECT_EQ(told, 1);
 }
 
 }  // namespace
