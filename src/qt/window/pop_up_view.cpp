@@ -72,6 +72,7 @@ PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent)
         list->setUniformItemSizes(true);  // they are not measured one by one
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(6);
+    setMaxVisibleItems(18);
     setPlaceholderText(QStringLiteral("\u2013"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setProperty("shown", !model.action);
