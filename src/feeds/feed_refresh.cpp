@@ -4,20 +4,21 @@
 
 namespace corvane {
 
-void FeedRefresh::start(const HttpRequest& request, Handle handle) {
+void FeedRefresh::start(const HttpRequest& request, const Read& read) {
     drop();
-    handle_ = std::move(handle);
     const auto box = std::make_shared<ResponseBox>();
-    box->response.problem = "no answer within 2 s";
+    box->show = read({{}, "no answer within 2 s"});
     box_ = box;
-    const std::weak_ptr<ResponseBox> current = box;
     // Nobody waits for a box that is not the present one.
-    box->cancel = client_.send(request, [this, current](HttpResponse response) {
-        if (const auto answered = current.lock(); answered && answered == box_) {
+    const std::weak_ptr<ResponseBox> current = box;
+    box->cancel = client_.send(request, [this, current, read](const HttpResponse& response) {
+        return [this, current, show = read(response)]() mutable {
+            const auto answered = current.lock();
+            if (!answered || answered != box_) return;
             answered->cancel = {};
-            answered->response = std::move(response);
+            answered->show = std::move(show);
             finish();
-        }
+        };
     });
     later_(patience, [this, current] {
         if (box_ && box_ == current.lock()) finish();
@@ -27,8 +28,7 @@ void FeedRefresh::start(const HttpRequest& request, Handle handle) {
 void FeedRefresh::finish() {
     const auto box = std::exchange(box_, nullptr);
     if (box->cancel) box->cancel();
-    const Handle handle = std::exchange(handle_, {});
-    handle(box->response);
+    box->show();
 }
 
 void FeedRefresh::drop() {

@@ -10,9 +10,9 @@
 
 namespace corvane {
 
-// Where the answer of a request is put; one for every refresh, never used again.
+// Where what was made of an answer is put; one for every refresh, never used again.
 struct ResponseBox {
-    HttpResponse response;
+    HttpClient::Rest show;
     HttpClient::Cancel cancel;
 };
 
@@ -20,7 +20,9 @@ struct ResponseBox {
 class FeedRefresh {
 public:
     using Later = std::function<void(Scheduler::Duration, std::function<void()>)>;
-    using Handle = std::function<void(const HttpResponse& response)>;
+    // Makes of an answer what is then to be done on the user-interface thread. Runs on any thread, also when nobody
+    // waits for it any more, so it may use only what it owns.
+    using Read = std::function<HttpClient::Rest(const HttpResponse& response)>;
 
     static constexpr Scheduler::Duration patience{2000};
 
@@ -30,9 +32,9 @@ public:
     FeedRefresh(const FeedRefresh&) = delete;
     FeedRefresh& operator=(const FeedRefresh&) = delete;
 
-    // Calls `handle` once, when the answer has come or the patience is over; then there is no body, and the problem
-    // says so. What comes later is dropped.
-    void start(const HttpRequest& request, Handle handle);
+    // Ends once with what `read` makes of the answer, or, when the patience is over before that is done, of a response
+    // without a body whose problem says so. What comes later is dropped.
+    void start(const HttpRequest& request, const Read& read);
     bool running() const { return box_ != nullptr; }
 
 private:
@@ -41,7 +43,6 @@ private:
 
     HttpClient& client_;
     Later later_;
-    Handle handle_;
     std::shared_ptr<ResponseBox> box_;
 };
 

@@ -37,6 +37,34 @@ std::string problemOfNoRows(std::string_view body) {
     return page ? "unreadable: a web page" : "";
 }
 
+// What the answer of a list comes to. It is made on any thread.
+struct ListAnswer {
+    FeedList rows;
+    std::size_t found = 0;   // rows of the answer; those beyond mostRows are left out
+    std::string unreadable;  // why the body could not be read; empty: it could
+    std::string problem;     // why there are no rows, for the operator
+};
+
+// An error page has a body, too: it is read like any other, and finds nothing.
+ListAnswer listAnswer(const ListFeed& feed, const HttpResponse& response, Instant now) {
+    DecodedFeed decoded = response.body.empty() ? DecodedFeed{} : feed.decode(response.body, now);
+    ListAnswer answer{std::move(decoded.rows), 0, decoded.problem, response.problem};
+    answer.found = answer.rows.size();
+    if (answer.found > mostRows) {
+        answer.rows.resize(mostRows);
+        answer.rows.shrink_to_fit();
+    }
+    if (answer.problem.empty()) answer.problem = std::move(decoded.problem);
+    if (answer.problem.empty() && answer.found == 0) answer.problem = problemOfNoRows(response.body);
+    return answer;
+}
+
+std::string countText(const ListAnswer& answer, std::string_view noun) {
+    std::string text = std::to_string(answer.rows.size());
+    if (answer.found > answer.rows.size()) text += " of " + std::to_string(answer.found);
+    return text.append(" ").append(noun.substr(0, noun.size() - (answer.found == 1 ? 1 : 0)));
+}
+
 constexpr std::size_t longestValue = 40;  // characters; what is longer is no value of the service
 
 void show(TextField& field, std::string_view text, Color color) {
@@ -73,19 +101,14 @@ void SerialPortDemoController::fetchList(Feed feed, std::function<void()> then) 
     request.url = std::string(hosts_.*row.host).append(row.path);
     request.ignoreCaches = row.ignoreCaches;
     refreshOf(feed).start(request, [this, &row, now = platform_.scheduler.now()](const HttpResponse& response) {
-        // An error page has a body, too: it is read like any other, and finds nothing.
-        DecodedFeed decoded = response.body.empty() ? DecodedFeed{} : row.decode(response.body, now);
-        if (!decoded.problem.empty()) platform_.log.line(std::string(row.path) + ": " + decoded.problem);
-        if (decoded.problem.empty() && decoded.rows.empty()) decoded.problem = problemOfNoRows(response.body);
-        const std::string& problem = response.problem.empty() ? decoded.problem : response.problem;
-        FeedList& list = feeds.*row.list;
-        list = std::move(decoded.rows);
-        (display.*row.table).reloadData();
-        const std::string_view noun = row.noun.substr(0, row.noun.size() - (list.size() == 1 ? 1 : 0));
-        const std::string count = std::to_string(list.size()) + ' ' + std::string(noun);
-        (display.*row.status)
-            .setStringValue(clockTime(platform_.scheduler.now()) + ": " + (problem.empty() ? count : problem));
-        endRefresh(row.feed);
+        return [this, &row, answer = listAnswer(row, response, now)]() mutable {
+            if (!answer.unreadable.empty()) platform_.log.line(std::string(row.path) + ": " + answer.unreadable);
+            const std::string line = answer.problem.empty() ? countText(answer, row.noun) : answer.problem;
+            feeds.*row.list = std::move(answer.rows);
+            (display.*row.table).reloadData();
+            (display.*row.status).setStringValue(clockTime(platform_.scheduler.now()) + ": " + line);
+            endRefresh(row.feed);
+        };
     });
 }
 
@@ -95,13 +118,13 @@ void SerialPortDemoController::fetchConditions(std::function<void()> then) {
     request.url = hosts_.solarData + std::string(bandConditionsPath);
     display.bandStatusField.setStringValue("Refreshing\u2026");
     refreshOf(Feed::bandConditions).start(request, [this](const HttpResponse& response) {
-        const BandConditions conditions = decodeBandConditions(response.body);
-        showBandConditions(conditions);
-        std::string problem = response.problem;
-        if (problem.empty() && conditions == BandConditions{}) problem = "unreadable: not the lines of the service";
-        display.bandStatusField.setStringValue(clockTime(platform_.scheduler.now()) +
-                                               (problem.empty() ? "" : ": " + problem));
-        endRefresh(Feed::bandConditions);
+        return [this, conditions = decodeBandConditions(response.body), problem = response.problem]() mutable {
+            showBandConditions(conditions);
+            if (problem.empty() && conditions == BandConditions{}) problem = "unreadable: not the lines of the service";
+            display.bandStatusField.setStringValue(clockTime(platform_.scheduler.now()) +
+                                                   (problem.empty() ? "" : ": " + problem));
+            endRefresh(Feed::bandConditions);
+        };
     });
 }
 

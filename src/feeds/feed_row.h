@@ -16,6 +16,10 @@ struct FeedRow {
 
 using FeedList = std::vector<FeedRow>;
 
+// What is kept of a list, from its top. Services have some hundred rows; a table can be searched through so many while
+// the operator types.
+inline constexpr std::size_t mostRows = 10'000;
+
 // What a decoder makes of a body: the rows, or none and why not, in a few words for the operator.
 struct DecodedFeed {
     FeedList rows;

@@ -105,7 +105,9 @@ void SerialPortDemoController::postConfirmation(const std::string& net, int acti
         if (const auto task = std::exchange(*once, {})) task();
     };
     platform_.http.send(request, [end, alive = std::weak_ptr(alive_)](const HttpResponse&) {
-        if (!alive.expired()) end();
+        return [end, alive] {
+            if (!alive.expired()) end();
+        };
     });
     later(recordingTime, end);  // a directory that does not answer holds up nothing
 }

@@ -29,13 +29,18 @@ inline constexpr std::size_t largestBody = 8 * 1024 * 1024;  // a larger one is 
 class HttpClient {
 public:
     using Cancel = std::function<void()>;
+    using Rest = std::function<void()>;
+    using Completed = std::function<Rest(HttpResponse)>;
 
     virtual ~HttpClient() = default;
 
-    // Starts the exchange and returns at once; `completed` is called once, from the event loop. What is given back ends
-    // the exchange before its time, without a call; after its end it does nothing. Certificates are checked; redirects
-    // are followed to the same scheme or a safer one.
-    virtual Cancel send(const HttpRequest& request, std::function<void(HttpResponse)> completed) = 0;
+    // Starts the exchange and returns at once. `completed` is called once, on a thread of the client's own, where a
+    // large answer may take its time; it may use only what it owns. The rest that it gives back, if any, is called once
+    // from the event loop.
+    //
+    // What send gives back ends the exchange before its time; then the rest is not called. After the end it does
+    // nothing. Certificates are checked; redirects are followed to the same scheme or a safer one.
+    virtual Cancel send(const HttpRequest& request, Completed completed) = 0;
 };
 
 }  // namespace corvane

@@ -50,16 +50,18 @@ private:
 
 // Requests as they were made; a test answers them one by one.
 struct RecordingHttpClient final : HttpClient {
-    Cancel send(const HttpRequest& request, std::function<void(HttpResponse)> completed) override {
+    Cancel send(const HttpRequest& request, Completed completed) override {
         requests.push_back(request);
         pending.push_back(std::move(completed));
         return [this, index = pending.size() - 1] { cancelled.push_back(index); };
     }
     // Answers the n-th request, also one that nobody waits for any more.
-    void answer(std::size_t index, HttpResponse response) { pending.at(index)(std::move(response)); }
+    void answer(std::size_t index, HttpResponse response) {
+        if (const Rest rest = pending.at(index)(std::move(response))) rest();
+    }
     std::vector<HttpRequest> requests;
     std::vector<std::size_t> cancelled;
-    std::vector<std::function<void(HttpResponse)>> pending;
+    std::vector<Completed> pending;
 };
 
 struct RecordingDataFolder final : DataFolder {

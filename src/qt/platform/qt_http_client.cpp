@@ -4,14 +4,39 @@
 #include <QNetworkReply>
 #include <QPointer>
 #include <QTimer>
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace corvane {
 
 namespace {
 
+constexpr int mostReaders = 2;
+
+struct CertificateFault {
+    QSslError::SslError error;
+    const char* text;
+};
+
+// The faults that the operator or the service can mend, the one that counts most first.
+constexpr std::array certificateFaults{
+    CertificateFault{QSslError::CertificateNotYetValid, "the server's certificate is not valid yet: check the clock"},
+    CertificateFault{QSslError::CertificateExpired, "the server's certificate has expired"},
+    CertificateFault{QSslError::CertificateRevoked, "the server's certificate is revoked"},
+    CertificateFault{QSslError::HostNameMismatch, "the server's certificate is for another name"},
+};
+
+std::string problemOf(const QList<QSslError>& errors) {
+    if (errors.isEmpty()) return "no safe connection";
+    const auto fault = std::ranges::find_if(certificateFaults, [&](const CertificateFault& each) {
+        return std::ranges::any_of(errors, [&](const QSslError& error) { return error.error() == each.error; });
+    });
+    return fault == certificateFaults.end() ? "the server's certificate is not trusted" : fault->text;
+}
+
 // Why a reply is none, in words for the operator.
-std::string problemOf(const QNetworkReply& reply) {
+std::string problemOf(const QNetworkReply& reply, const QList<QSslError>& sslErrors) {
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     switch (reply.error()) {
         case QNetworkReply::NoError:
@@ -29,10 +54,11 @@ std::string problemOf(const QNetworkReply& reply) {
         case QNetworkReply::OperationCanceledError:
             return "no answer in time";
         case QNetworkReply::SslHandshakeFailedError:
-            return "no safe connection (certificate)";
+            return problemOf(sslErrors);
         case QNetworkReply::TooManyRedirectsError:
-        case QNetworkReply::InsecureRedirectError:
             return "redirected in vain";
+        case QNetworkReply::InsecureRedirectError:
+            return "redirected to an unsafe address";
         default:
             return status != 0 ? "status " + std::to_string(status) : "no answer";
     }
@@ -41,10 +67,12 @@ std::string problemOf(const QNetworkReply& reply) {
 // One exchange; deletes itself at its end.
 class Exchange : public QObject {
 public:
-    Exchange(QNetworkReply* reply, std::chrono::milliseconds timeout, std::function<void(HttpResponse)> completed)
-        : QObject(reply), reply_(reply), completed_(std::move(completed)) {
+    Exchange(QNetworkReply* reply, std::chrono::milliseconds timeout, std::function<void(HttpResponse)> ended)
+        : QObject(reply), reply_(reply), ended_(std::move(ended)) {
         connect(reply, &QNetworkReply::readyRead, this, [this] { collect(); });
-        connect(reply, &QNetworkReply::finished, this, [this] { end(problemOf(*reply_)); });
+        connect(reply, &QNetworkReply::finished, this, [this] { end(problemOf(*reply_, sslErrors_)); });
+        connect(reply, &QNetworkReply::sslErrors, this,
+                [this](const QList<QSslError>& errors) { sslErrors_ = errors; });
         // The transfer time-out of Qt starts anew with every byte, which a trickle outlives.
         deadline_.setSingleShot(true);
         connect(&deadline_, &QTimer::timeout, this, [this] { end("no answer in time"); });
@@ -52,7 +80,7 @@ public:
     }
 
     void cancel() {
-        completed_ = {};
+        ended_ = {};
         end({});
     }
 
@@ -65,7 +93,7 @@ private:
     }
 
     void end(std::string problem) {
-        const auto completed = std::exchange(completed_, {});
+        const auto ended = std::exchange(ended_, {});
         disconnect(reply_, nullptr, this, nullptr);
         deadline_.stop();
         if (reply_->isOpen() && problem != "the answer is larger than 8 MiB") body_ += reply_->readAll();
@@ -74,18 +102,22 @@ private:
         body_.clear();
         if (reply_->isRunning() && reply_->error() == QNetworkReply::NoError) reply_->abort();
         reply_->deleteLater();
-        if (completed) completed(std::move(response));
+        if (ended) ended(std::move(response));
     }
 
     QNetworkReply* reply_;
-    std::function<void(HttpResponse)> completed_;
+    std::function<void(HttpResponse)> ended_;
+    QList<QSslError> sslErrors_;
     QByteArray body_;
     QTimer deadline_;
 };
 
 }  // namespace
 
-HttpClient::Cancel QtHttpClient::send(const HttpRequest& request, std::function<void(HttpResponse)> completed) {
+QtHttpClient::QtHttpClient() { readers_.setMaxThreadCount(mostReaders); }
+QtHttpClient::~QtHttpClient() { readers_.clear(); }
+
+HttpClient::Cancel QtHttpClient::send(const HttpRequest& request, Completed completed) {
     QNetworkRequest asked(QUrl(QString::fromStdString(request.url), QUrl::StrictMode));
     asked.setHeader(QNetworkRequest::UserAgentHeader, "Corvane/" + QCoreApplication::applicationVersion());
     asked.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
@@ -98,10 +130,28 @@ HttpClient::Cancel QtHttpClient::send(const HttpRequest& request, std::function<
         asked.setRawHeader("Content-Type", QByteArray::fromStdString(request.contentType));
     QNetworkReply* reply = request.method == "POST" ? manager().post(asked, QByteArray::fromStdString(request.body))
                                                     : manager().get(asked);
-    const QPointer<Exchange> exchange = new Exchange(reply, request.timeout, std::move(completed));
-    return [exchange] {
+    const auto wanted = std::make_shared<std::atomic<bool>>(true);
+    const QPointer<Exchange> exchange =
+        new Exchange(reply, request.timeout, [this, completed = std::move(completed), wanted](HttpResponse response) {
+            handOver(std::move(response), completed, wanted);
+        });
+    return [exchange, wanted] {
+        *wanted = false;
         if (exchange) exchange->cancel();
     };
+}
+
+void QtHttpClient::handOver(HttpResponse response, Completed completed, Wanted wanted) {
+    readers_.start(
+        [this, response = std::move(response), completed = std::move(completed), wanted = std::move(wanted)]() mutable {
+            if (!*wanted) return;
+            // Held by one hand: what was made of a large answer is not to be copied.
+            auto rest = std::make_shared<Rest>(completed(std::move(response)));
+            const auto run = [rest = std::move(rest), wanted = std::move(wanted)] {
+                if (*wanted && *rest) (*rest)();
+            };
+            QMetaObject::invokeMethod(&eventLoop_, run, Qt::QueuedConnection);
+        });
 }
 
 QNetworkAccessManager& QtHttpClient::manager() {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QNetworkAccessManager>
+#include <QThreadPool>
+#include <atomic>
 #include <memory>
 
 #include "platform/http_client.h"
@@ -12,13 +14,21 @@ namespace corvane {
 // the client, without a call.
 class QtHttpClient final : public HttpClient {
 public:
-    Cancel send(const HttpRequest& request, std::function<void(HttpResponse)> completed) override;
+    QtHttpClient();
+    ~QtHttpClient() override;
+
+    Cancel send(const HttpRequest& request, Completed completed) override;
 
 private:
-    QNetworkAccessManager& manager();
+    using Wanted = std::shared_ptr<std::atomic<bool>>;
 
+    QNetworkAccessManager& manager();
+    void handOver(HttpResponse response, Completed completed, Wanted wanted);
+
+    QObject eventLoop_;  // what is left of an exchange is called through it
     std::unique_ptr<QNetworkAccessManager>
-        manager_;  // made for the first request: it is not needed for the first paint
+        manager_;          // made for the first request: it is not needed for the first paint
+    QThreadPool readers_;  // ends first
 };
 
 }  // namespace corvane
