@@ -1,9 +1,12 @@
 // A web server on this machine that answers as a test says.
 #pragma once
 
-#include <QTcpServer>
+#include <QSslConfiguration>
+#include <QSslServer>
 #include <QTcpSocket>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,14 +18,20 @@ public:
     // connection stays silent.
     using Answer = std::function<void(QTcpSocket& client, const std::string& request)>;
 
-    explicit LocalServer(Answer answer) : answer_(std::move(answer)) {
-        server_.listen(QHostAddress::LocalHost);
-        QObject::connect(&server_, &QTcpServer::newConnection, &server_,
-                         [this] { take(*server_.nextPendingConnection()); });
+    // With `tls` the server speaks https.
+    explicit LocalServer(Answer answer, const std::optional<QSslConfiguration>& tls = std::nullopt)
+        : scheme_(tls ? "https" : "http"),
+          server_(tls ? std::unique_ptr<QTcpServer>(new QSslServer) : std::make_unique<QTcpServer>()),
+          answer_(std::move(answer)) {
+        if (auto* safe = qobject_cast<QSslServer*>(server_.get())) safe->setSslConfiguration(*tls);
+        server_->listen(QHostAddress::LocalHost);
+        QObject::connect(server_.get(), &QTcpServer::pendingConnectionAvailable, server_.get(), [this] {
+            while (QTcpSocket* client = server_->nextPendingConnection()) take(*client);
+        });
     }
 
     std::string url(const std::string& path = "") const {
-        return "http://127.0.0.1:" + std::to_string(server_.serverPort()) + path;
+        return scheme_ + "://127.0.0.1:" + std::to_string(server_->serverPort()) + path;
     }
     static std::string ok(const std::string& body, const std::string& head = "") {
         return "HTTP/1.1 200 OK\r\nContent-Length: " + std::to_string(body.size()) + "\r\n" + head + "\r\n" + body;
@@ -45,7 +54,8 @@ private:
         });
     }
 
-    QTcpServer server_;
+    std::string scheme_;
+    std::unique_ptr<QTcpServer> server_;
     Answer answer_;
 };
 

@@ -2,11 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QThread>
 #include <QTimer>
+#include <atomic>
 #include <optional>
+#include <semaphore>
 
 #include "event_loop.h"
 #include "local_server.h"
+#include "test_certificate.h"
 
 namespace corvane {
 namespace {
@@ -17,7 +21,9 @@ using namespace std::chrono_literals;
 std::optional<HttpResponse> fetched(const HttpRequest& request, std::chrono::milliseconds patience = 5s) {
     QtHttpClient client;
     std::optional<HttpResponse> answer;
-    client.send(request, [&](HttpResponse response) { answer = std::move(response); });
+    client.send(request, [&](HttpResponse response) {
+        return [&answer, response = std::move(response)] { answer = response; };
+    });
     EXPECT_FALSE(answer) << "not before the call returns";
     eventually([&] { return answer.has_value(); }, patience);
     return answer;
@@ -110,21 +116,102 @@ TEST(QtHttpClientTest, NeitherAFloodNorATrickleGoesOnForEver) {
 
 TEST(QtHttpClientTest, WhatIsCancelledIsNotHeardOfAgain) {
     int answered = 0;
+    const auto count = [&](const HttpResponse&) { return [&] { ++answered; }; };
     LocalServer server([](QTcpSocket& client, const std::string&) { client.write(LocalServer::ok("x").c_str()); });
     HttpClient::Cancel cancelLater;
     {
         QtHttpClient client;
-        const auto cancel = client.send(get(server.url()), [&](const HttpResponse&) { ++answered; });
+        const auto cancel = client.send(get(server.url()), count);
         cancel();
         cancel();
-        cancelLater = client.send(get(server.url()), [&](const HttpResponse&) { ++answered; });
+        cancelLater = client.send(get(server.url()), count);
         ASSERT_TRUE(eventually([&] { return answered == 1; }));
         cancelLater();
-        client.send(get(server.url()), [&](const HttpResponse&) { ++answered; });
+        client.send(get(server.url()), count);
     }
     runEventLoop(50ms);
     cancelLater();
     EXPECT_EQ(answered, 1);
+}
+
+TEST(QtHttpClientTest, AnAnswerIsReadBesideTheEventLoop) {
+    LocalServer server([](QTcpSocket& client, const std::string&) { client.write(LocalServer::ok("x").c_str()); });
+    std::atomic<int> begun = 0, read = 0;
+    std::counting_semaphore<> go(0);
+    int answered = 0;
+    const auto slow = [&](const HttpResponse&) {
+        EXPECT_NE(QThread::currentThread(), QCoreApplication::instance()->thread());
+        ++begun;
+        go.acquire();
+        ++read;
+        return [&] {
+            EXPECT_EQ(QThread::currentThread(), QCoreApplication::instance()->thread());
+            ++answered;
+        };
+    };
+    {
+        QtHttpClient client;
+        client.send(get(server.url()), slow);
+        const auto cancel = client.send(get(server.url()), slow);
+        ASSERT_TRUE(eventually([&] { return begun == 2; }));
+        cancel();  // while it is being read
+        go.release(2);
+        ASSERT_TRUE(eventually([&] { return answered == 1 && read == 2; }));
+        client.send(get(server.url()), slow);
+        ASSERT_TRUE(eventually([&] { return begun == 3; }));
+        go.release();
+    }
+    runEventLoop(50ms);
+    EXPECT_EQ(answered, 1) << "neither what was cancelled nor what outlives the client";
+}
+
+// What a server of its own for each certificate gets, and what the client says of it.
+TEST(QtHttpClientTest, OnlyAServerThatIsWhoItSaysIsTrusted) {
+    const auto here = [](QTcpSocket& client, const std::string&) { client.write(LocalServer::ok("here").c_str()); };
+    const struct {
+        TestCertificate certificate;
+        bool trusted;
+        std::string problem;
+    } cases[] = {
+        {TestCertificate("IP:127.0.0.1"), true, ""},
+        {TestCertificate("IP:127.0.0.1"), false, "the server's certificate is not trusted"},
+        {TestCertificate("DNS:elsewhere.example"), true, "the server's certificate is for another name"},
+        {TestCertificate("IP:127.0.0.1", -1), true, "the server's certificate has expired"},
+    };
+    for (const auto& each : cases) {
+        ASSERT_FALSE(each.certificate.certificate().isNull());
+        std::optional<Trusted> trusted;
+        if (each.trusted) trusted.emplace(each.certificate);
+        LocalServer server(here, each.certificate.ofServer());
+        const auto answer = fetched(get(server.url("/nets.php")));
+        ASSERT_TRUE(answer);
+        EXPECT_EQ(answer->problem, each.problem);
+        EXPECT_EQ(answer->body, each.problem.empty() ? "here" : "");
+        EXPECT_EQ(server.requests.size(), each.problem.empty() ? 1U : 0U);
+    }
+}
+
+TEST(QtHttpClientTest, ARedirectLeadsToNoLessSafeAServer) {
+    const TestCertificate certificate("IP:127.0.0.1");
+    const Trusted trusted(certificate);
+    std::string target;
+    const auto redirect = [&](QTcpSocket& client, const std::string& request) {
+        const std::string moved = "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: " + target + "\r\n\r\n";
+        client.write(request.starts_with("GET /moved") ? moved.c_str() : LocalServer::ok("here").c_str());
+    };
+    LocalServer plain(redirect);
+    LocalServer safe(redirect, certificate.ofServer());
+    target = plain.url();
+    const auto down = fetched(get(safe.url("/moved")));
+    ASSERT_TRUE(down);
+    EXPECT_EQ(down->problem, "redirected to an unsafe address");
+    EXPECT_EQ(down->body, "");
+    EXPECT_TRUE(plain.requests.empty());
+    target = safe.url();
+    const auto up = fetched(get(plain.url("/moved")));
+    ASSERT_TRUE(up);
+    EXPECT_EQ(up->problem, "");
+    EXPECT_EQ(up->body, "here");
 }
 
 }  // namespace
