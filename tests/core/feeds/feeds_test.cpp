@@ -1,7 +1,8 @@
 #include <gmock/gmock.h>
 
-#include "feeds/feed_cells.h"
+#include "feeds/feed_table.h"
 #include "feeds/tune_command.h"
+#include "radio/utf8.h"
 #include "tests/support/test_bench.h"
 
 namespace corvane {
@@ -107,6 +108,31 @@ TEST(Feeds, TheLineBesideAListSaysWhatWentWrong) {
         EXPECT_EQ(bench.display.potaStatusField.stringValue(), "00:00 UTC: " + std::string(line));
         EXPECT_THAT(bench.around.alerts.shown, IsEmpty());
         EXPECT_THAT(bench.takeSounds(), IsEmpty());
+    }
+}
+
+TEST(Feeds, LongTextsAreCutWhereTheyAreShownAndSpoken) {
+    std::string longText;
+    for (int i = 0; i < 10'000; ++i) longText += "\u00e4";
+    const auto characters = [](std::string_view text) {
+        return std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; });
+    };
+    for (const ListFeed& feed : listFeeds) {
+        FeedBench bench;
+        TableView& table = bench.display.*feed.table;
+        // All texts but the frequency, which is the second or the third, then that one, too.
+        for (std::size_t frequency = 1; frequency < 4; ++frequency) {
+            FeedRow row{std::vector<std::string>(10, longText)};
+            if (frequency < 3) row.fields[frequency] = "7.1";
+            bench.controller.feeds.*feed.list = {row};
+            for (int column = 0; column < static_cast<int>(table.columns().size()); ++column) {
+                EXPECT_LE(characters(table.cell(0, column)), 210) << feed.path << column;
+                EXPECT_TRUE(isUtf8(table.cell(0, column)));
+                table.pressCell(0, column);
+            }
+            for (const std::string& text : bench.takeSpoken()) EXPECT_LE(characters(text), 230) << feed.path;
+            for (const std::string& write : bench.takeWrites()) EXPECT_LE(write.size(), 64U) << feed.path;
+        }
     }
 }
 
