@@ -4,6 +4,9 @@
 #include <QNetworkReply>
 #include <QPointer>
 #include <QTimer>
+
+#include <malloc.h>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -13,6 +16,7 @@ namespace corvane {
 namespace {
 
 constexpr int mostReaders = 2;
+constexpr std::size_t largeBody = 1024 * 1024;
 
 struct CertificateFault {
     QSslError::SslError error;
@@ -145,12 +149,15 @@ void QtHttpClient::handOver(HttpResponse response, Completed completed, Wanted w
     readers_.start(
         [this, response = std::move(response), completed = std::move(completed), wanted = std::move(wanted)]() mutable {
             if (!*wanted) return;
+            const bool large = response.body.size() > largeBody;
             // Held by one hand: what was made of a large answer is not to be copied.
             auto rest = std::make_shared<Rest>(completed(std::move(response)));
             const auto run = [rest = std::move(rest), wanted = std::move(wanted)] {
                 if (*wanted && *rest) (*rest)();
             };
             QMetaObject::invokeMethod(&eventLoop_, run, Qt::QueuedConnection);
+            // The allocator would keep what reading took, many times the body, for a thread that hardly ever needs it.
+            if (large) malloc_trim(0);
         });
 }
 
