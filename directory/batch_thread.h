@@ -1,0 +1,62 @@
+// A thread that works off what others hand it, as much at a time as has come in.
+#pragma once
+
+#include <condition_variable>
+#include <functional>
+#include <mutex>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace corvane::directory {
+
+template <class Job>
+class BatchThread {
+public:
+    using Work = std::function<void(std::vector<Job>& batch)>;
+
+    // `makeWork` is called on the thread, and what it made ends there: connections belong to one thread.
+    explicit BatchThread(std::function<Work()> makeWork)
+        : thread_([this, make = std::move(makeWork)] { loop(make()); }) {}
+    // Everything that was submitted is done first.
+    ~BatchThread() {
+        {
+            const std::lock_guard lock(mutex_);
+            ending_ = true;
+        }
+        wake_.notify_one();
+        thread_.join();
+    }
+    BatchThread(const BatchThread&) = delete;
+    BatchThread& operator=(const BatchThread&) = delete;
+
+    // From any thread.
+    void submit(Job job) {
+        {
+            const std::lock_guard lock(mutex_);
+            waiting_.push_back(std::move(job));
+        }
+        wake_.notify_one();
+    }
+
+private:
+    void loop(const Work& work) {
+        std::unique_lock lock(mutex_);
+        for (;;) {
+            wake_.wait(lock, [this] { return ending_ || !waiting_.empty(); });
+            if (waiting_.empty()) return;
+            std::vector<Job> batch = std::exchange(waiting_, {});
+            lock.unlock();
+            work(batch);
+            lock.lock();
+        }
+    }
+
+    std::mutex mutex_;
+    std::condition_variable wake_;
+    std::vector<Job> waiting_;
+    bool ending_ = false;
+    std::thread thread_;
+};
+
+}  // namespace corvane::directory

@@ -1,0 +1,61 @@
+#include "check_in_writer.h"
+
+namespace corvane::directory {
+
+namespace {
+
+constexpr std::chrono::days kept{7};
+
+// Net ids of that length and of these bytes exist nowhere, and a database may refuse them instead of not finding them.
+bool canBeNet(const std::string& id) { return id.size() <= 200 && id.find('\0') == std::string::npos; }
+
+}  // namespace
+
+CheckInWriter::CheckInWriter(std::string location, Clock clock, std::atomic<long long>& changes, Log& log)
+    : location_(std::move(location)), clock_(std::move(clock)), changes_(changes), log_(log), thread_([this] {
+          return [this, connection = std::make_shared<Connection>()](std::vector<Job>& batch) {
+              write(*connection, batch);
+          };
+      }) {}
+
+// One transaction for all that have come in meanwhile: they share the wait for the disk.
+void CheckInWriter::writeInOne(DirectoryStore& store, std::vector<Job>& batch) {
+    std::vector<Answer> answers;
+    Transaction transaction(store.database());
+    for (const Job& job : batch) answers.push_back(write(store, job));
+    transaction.commit();
+    ++changes_;
+    for (std::size_t i = 0; i < batch.size(); ++i) batch[i].reply(std::move(answers[i]));
+}
+
+// When a shared transaction fails, each goes by itself: one bad apple spoils no others.
+void CheckInWriter::write(Connection& connection, std::vector<Job>& batch) {
+    bool connected = connection != nullptr;
+    try {
+        if (!connection) connection = std::make_unique<DirectoryStore>(location_);
+        connected = true;
+        return writeInOne(*connection, batch);
+    } catch (const std::exception& error) {
+        log_.line("database", {{"problem", error.what()}, {"writes", batch.size()}});
+        connection.reset();
+    }
+    if (!connected || batch.size() == 1) {
+        for (const Job& job : batch) job.reply(textAnswer(503, "The database does not answer."));
+        return;
+    }
+    for (Job& job : batch) {
+        std::vector<Job> alone{std::move(job)};
+        write(connection, alone);
+    }
+}
+
+Answer CheckInWriter::write(DirectoryStore& store, const Job& job) {
+    if (!job.checkIn) {
+        store.forgetSessionsBefore(clock_() - kept);
+        return {};
+    }
+    const bool found = canBeNet(job.checkIn->net) && store.record(*job.checkIn, clock_());
+    return found ? textAnswer(200, "noted") : textAnswer(404, "There is no such net.");
+}
+
+}  // namespace corvane::directory

@@ -1,0 +1,65 @@
+#include "directory_site.h"
+
+#include <algorithm>
+#include <array>
+
+#include "check_in_request.h"
+
+namespace corvane::directory {
+
+struct DirectorySite::Route {
+    std::string_view path;
+    std::string_view method;
+    void (*answer)(DirectorySite& site, const WebRequest& request, Reply reply);
+};
+
+const DirectorySite::Route* DirectorySite::routeOf(const std::string& path) {
+    static constexpr std::array routes{
+        Route{"/nets.php", "GET",
+              [](DirectorySite& site, const WebRequest& request, Reply reply) {
+                  site.reader_.nets(request.key, std::move(reply));
+              }},
+        Route{"/mw.php", "GET",
+              [](DirectorySite& site, const WebRequest&, Reply reply) { site.reader_.stations(std::move(reply)); }},
+        Route{"/netconf.php", "POST",
+              [](DirectorySite& site, const WebRequest& request, Reply reply) {
+                  auto checkIn = checkInFrom(request.body);
+                  if (checkIn)
+                      site.writer_.record(std::move(*checkIn), std::move(reply));
+                  else
+                      reply(textAnswer(400, "The body is no check-in."));
+              }},
+        Route{"/healthz", "GET",
+              [](DirectorySite& site, const WebRequest&, Reply reply) { site.reader_.health(std::move(reply)); }},
+    };
+    const auto* const route = std::ranges::find(routes, path, &Route::path);
+    return route == routes.end() ? nullptr : route;
+}
+
+std::optional<Answer> DirectorySite::answerAtOnce(const WebRequest& request) {
+    if (!limit_.allows(request.address, std::chrono::steady_clock::now())) {
+        Answer answer = textAnswer(429, "Too many requests from this address.");
+        answer.headerName = "Retry-After";
+        answer.headerValue = "60";
+        return answer;
+    }
+    const Answer* const document = documents_.find(request.path);
+    const Route* const route = routeOf(request.path);
+    if (!document && !route) return textAnswer(404, "There is nothing here.");
+    const std::string_view method = document ? "GET" : route->method;
+    if (request.method != method) {
+        Answer answer = textAnswer(405, "This is not how to ask for it.");
+        answer.headerName = "Allow";
+        answer.headerValue = method;
+        return answer;
+    }
+    if (document) return *document;
+    if (!request.key.empty() && !isOperatorKey(request.key)) return textAnswer(400, "This is no operator's key.");
+    return {};
+}
+
+void DirectorySite::answer(const WebRequest& request, Reply reply) {
+    routeOf(request.path)->answer(*this, request, std::move(reply));
+}
+
+}  // namespace corvane::directory

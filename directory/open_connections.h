@@ -1,0 +1,35 @@
+// Watches that no connection is held open by a client that does not get on.
+#pragma once
+
+#include <chrono>
+#include <mutex>
+#include <unordered_map>
+
+struct MHD_Connection;
+
+namespace corvane::directory {
+
+// From any thread.
+class OpenConnections {
+public:
+    using Time = std::chrono::steady_clock::time_point;
+    static constexpr std::chrono::seconds patience{15};
+
+    void opened(MHD_Connection* connection, int socket, Time now);
+    // A request has been answered: the time starts anew.
+    void answered(MHD_Connection* connection, Time now);
+    // Before its socket is closed.
+    void closed(MHD_Connection* connection);
+    // Ends the line of each whose time is over; its server then closes it.
+    void closeLate(Time now);
+
+private:
+    struct Open {
+        int socket;
+        Time since;
+    };
+    std::mutex mutex_;
+    std::unordered_map<MHD_Connection*, Open> connections_;
+};
+
+}  // namespace corvane::directory

@@ -1,0 +1,26 @@
+// What the command line asks for.
+#pragma once
+
+#include <string>
+
+#include "web_server.h"
+
+namespace corvane::directory {
+
+struct Options {
+    enum class Command { serve, importNets, importStations, exportNets, exportStations, help, version };
+
+    Command command = Command::serve;
+    std::string file;  // of an import
+    std::string database;
+    std::string documents;  // folder
+    int requestsAMinute = 120;
+    WebServer::Options server{.port = 8073};
+};
+
+// Throws std::invalid_argument, with a sentence for the user, when there is something that it does not know.
+Options optionsFrom(int argc, char** argv);
+
+std::string helpText();
+
+}  // namespace corvane::directory

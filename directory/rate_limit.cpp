@@ -1,0 +1,44 @@
+#include "rate_limit.h"
+
+#include <arpa/inet.h>
+
+#include <algorithm>
+#include <array>
+
+namespace corvane::directory {
+
+namespace {
+
+constexpr std::size_t mostAddresses = 100'000;
+
+std::string network(const std::string& address) {
+    std::array<unsigned char, 16> bytes{};
+    if (inet_pton(AF_INET6, address.c_str(), bytes.data()) != 1) return address;
+    return {bytes.begin(), bytes.begin() + 8};
+}
+
+}  // namespace
+
+double RateLimit::filled(const Stock& stock, Time now) const {
+    const std::chrono::duration<double, std::ratio<60>> minutes = now - stock.filled;
+    return std::min<double>(perMinute_, stock.requests + minutes.count() * perMinute_);
+}
+
+bool RateLimit::allows(std::string_view address, Time now) {
+    if (perMinute_ == 0) return true;
+    const std::lock_guard lock(mutex_);
+    if (stocks_.size() >= mostAddresses) forgetFullStocks(now);
+    Stock& stock = stocks_.try_emplace(network(std::string(address)), Stock{double(perMinute_), now}).first->second;
+    stock = {filled(stock, now), now};
+    if (stock.requests < 1) return false;
+    stock.requests -= 1;
+    return true;
+}
+
+// What is full needs no note. Should so many be short at once, all start anew rather than take the memory.
+void RateLimit::forgetFullStocks(Time now) {
+    std::erase_if(stocks_, [&](const auto& entry) { return filled(entry.second, now) >= perMinute_; });
+    if (stocks_.size() >= mostAddresses) stocks_.clear();
+}
+
+}  // namespace corvane::directory

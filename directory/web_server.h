@@ -1,0 +1,77 @@
+// Takes requests over HTTP, for a site that answers them.
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <optional>
+
+#include "answer.h"
+#include "log.h"
+#include "open_connections.h"
+
+struct MHD_Connection;
+struct MHD_Daemon;
+
+namespace corvane::directory {
+
+struct WebRequest {
+    std::string method;   // "GET"; "HEAD" comes as "GET"
+    std::string path;     // "/nets.php", decoded
+    std::string key;      // the value of "key" in the query, or empty
+    std::string address;  // who asks: "192.0.2.1"
+    std::string body;
+};
+
+class WebSite {
+public:
+    virtual ~WebSite() = default;
+    // For a request without its body: an answer that needs neither the body nor a wait. From several threads.
+    virtual std::optional<Answer> answerAtOnce(const WebRequest& request) = 0;
+    // For all others, once they are whole. Must not wait; `reply` is called when the answer is there.
+    virtual void answer(const WebRequest& request, Reply reply) = 0;
+};
+
+// A body of more than 16 KiB is answered with 413. A connection on which no request becomes whole and answered within
+// 15 s is closed. Each request is logged, without its query and body.
+class WebServer {
+public:
+    struct Options {
+        std::string address = "127.0.0.1";  // or an IPv6 address
+        int port = 0;                       // 0: one that is free
+        bool behindProxy = false;           // who asks is told by the last entry of X-Forwarded-For
+        unsigned connectionsAnAddress = 64;
+    };
+
+    // Throws std::runtime_error when the port is taken or may not be used.
+    WebServer(const Options& options, WebSite& site, Log& log);
+    // Takes no more connections, and ends those there are once their requests have been answered; 5 s at most.
+    ~WebServer();
+    WebServer(const WebServer&) = delete;
+    WebServer& operator=(const WebServer&) = delete;
+
+    int port() const;
+    // To be called about once a second.
+    void closeLateConnections() { connections_.closeLate(std::chrono::steady_clock::now()); }
+
+private:
+    struct Exchange;
+
+    int take(MHD_Connection* connection, const char* path, const char* method, const char* data, std::size_t* size,
+             void** exchange);
+    int begin(MHD_Connection* connection, Exchange& exchange);
+    int finish(MHD_Connection* connection, Exchange& exchange);
+    int send(MHD_Connection* connection, Exchange& exchange, const Answer& answer) const;
+    void end(MHD_Connection* connection, Exchange* exchange, bool sent);
+
+    const Options options_;
+    WebSite& site_;
+    Log& log_;
+    OpenConnections connections_;
+    std::mutex mutex_;
+    std::condition_variable ended_;
+    int exchanges_ = 0;  // under way
+    std::atomic<bool> ending_ = false;
+    MHD_Daemon* daemon_ = nullptr;
+};
+
+}  // namespace corvane::directory
