@@ -4,6 +4,7 @@
 #include <ctime>
 #include <utility>
 
+#include "app/operator_key.h"
 #include "controller/serial_port_demo_controller.h"
 #include "feeds/band_conditions.h"
 #include "feeds/feed_table.h"
@@ -99,6 +100,7 @@ void SerialPortDemoController::fetchList(Feed feed, std::function<void()> then) 
     (display.*row.status).setStringValue("Refreshing\u2026");
     HttpRequest request;
     request.url = std::string(hosts_.*row.host).append(row.path);
+    if (feed == Feed::nets) request.url += keyQuery(userDefaults.text("operator").value_or(""));
     request.ignoreCaches = row.ignoreCaches;
     refreshOf(feed).start(request, [this, &row, now = platform_.scheduler.now()](const HttpResponse& response) {
         return [this, &row, answer = listAnswer(row, response, now)]() mutable {

@@ -313,7 +313,7 @@ TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
     bench.advance(1999ms);
     EXPECT_EQ(bench.http.requests.size(), 1U);
     bench.advance(1ms);
-    EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php");
+    EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php?key=" + key);
     bench.http.answer(1, {nets, ""});
 
     // Another refresh of the list does not swallow what is to be said.
@@ -321,11 +321,16 @@ TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
     post.body = R"({"action":0,"key":")" + key + R"(","net_id":"7"})";
     EXPECT_EQ(bench.http.requests.at(2), post);
     bench.http.answer(2, {"", "status 500"});
-    EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php");
+    EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php?key=" + key);
     EXPECT_THAT(bench.takeSpoken(), IsEmpty());
     bench.controller.fetchNets();
     bench.http.answer(4, {nets, ""});
     EXPECT_THAT(bench.takeSpoken(), ElementsAre("your confirmation of this net has been retracted"));
+
+    // A key that somebody has written into the settings by hand goes into no address.
+    bench.around.settings.values["operator"] = "me&all=1";
+    bench.controller.fetchNets();
+    EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php");
 }
 
 TEST(FeedCells, ShowKilohertzMinutesAndDashes) {
