@@ -1,5 +1,7 @@
 #include "directory_reader.h"
 
+#include <algorithm>
+
 namespace corvane::directory {
 
 DirectoryReader::DirectoryReader(std::string location, Clock clock, const std::atomic<long long>& changes, Log& log)
@@ -33,6 +35,7 @@ void DirectoryReader::answer(std::unique_ptr<Catalogue>& catalogue, std::vector<
         for (const Job& job : batch)
             own.push_back(job.operatorKey.empty() ? std::vector<Confirmation>{}
                                                   : catalogue->store.confirmationsOf(job.operatorKey, now));
+        if (std::ranges::any_of(batch, [](const Job& job) { return job.list == List::none; })) catalogue->changes = -1;
         catalogue->refresh(changes, now);
         for (std::size_t i = 0; i < batch.size(); ++i) {
             if (batch[i].list == List::nets)

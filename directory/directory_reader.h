@@ -22,7 +22,7 @@ public:
         thread_.submit({List::nets, std::move(operatorKey), std::move(reply)});
     }
     void stations(Reply reply) { thread_.submit({List::stations, {}, std::move(reply)}); }
-    // Whether the database answers.
+    // Whether the database can be read, now.
     void health(Reply reply) { thread_.submit({List::none, {}, std::move(reply)}); }
 
 private:

@@ -7,10 +7,7 @@
 #include <iterator>
 
 #include "catalogue_file.h"
-#include "check_in_writer.h"
-#include "directory_reader.h"
-#include "directory_site.h"
-#include "documents.h"
+#include "directory_service.h"
 #include "new_database.h"
 #include "options.h"
 
@@ -34,26 +31,21 @@ sigset_t blockStopSignals() {
     return stops;
 }
 
-// The members end in the reverse order: first the server, then what its last requests wait for.
 int serve(const Options& options) {
     const sigset_t stopSignals = blockStopSignals();
     Log log(std::cout);
-    prepareDatabase(options.database);
-    const Documents documents(options.documents);
-    if (documents.empty()) log.line("documents", {{"problem", "none found"}, {"folder", options.documents}});
-    std::atomic<long long> changes = 0;
-    CheckInWriter writer(options.database, now, changes, log);
-    DirectoryReader reader(options.database, now, changes, log);
-    DirectorySite site(writer, reader, documents, options.requestsAMinute);
-    WebServer server(options.server, site, log);
-    log.line("start", {{"version", CORVANE_VERSION}, {"address", options.server.address}, {"port", server.port()}});
+    prepareDatabase(options.service.database);
+    DirectoryService service(options.service, now, log);
+    if (!service.hasDocuments()) log.line("documents", {{"missing in", options.service.documents}});
+    log.line("start",
+             {{"version", CORVANE_VERSION}, {"address", options.service.server.address}, {"port", service.port()}});
     const timespec second{1, 0};
     Seconds cleaned{};
     int signal = -1;
     while ((signal = sigtimedwait(&stopSignals, nullptr, &second)) < 0) {
-        server.closeLateConnections();
+        service.closeLateConnections();
         if (now() - cleaned < std::chrono::hours(1)) continue;
-        writer.forgetOldSessions();
+        service.forgetOldSessions();
         cleaned = now();
     }
     log.line("stop", {{"signal", signal}});
@@ -74,8 +66,8 @@ int import(const Options& options, CatalogueFile<Entry> (*read)(std::string_view
         std::cerr << "Nothing was imported.\n";
         return failed;
     }
-    prepareDatabase(options.database);
-    DirectoryStore store(options.database);
+    prepareDatabase(options.service.database);
+    DirectoryStore store(options.service.database);
     Transaction transaction(store.database());
     store.replace(file.entries);
     transaction.commit();
@@ -92,12 +84,12 @@ int run(const Options& options) {
         case Options::Command::importStations:
             return import(options, readStations);
         case Options::Command::exportNets:
-            prepareDatabase(options.database);
-            std::cout << writeNets(DirectoryStore(options.database).nets());
+            prepareDatabase(options.service.database);
+            std::cout << writeNets(DirectoryStore(options.service.database).nets());
             return 0;
         case Options::Command::exportStations:
-            prepareDatabase(options.database);
-            std::cout << writeStations(DirectoryStore(options.database).stations());
+            prepareDatabase(options.service.database);
+            std::cout << writeStations(DirectoryStore(options.service.database).stations());
             return 0;
         case Options::Command::help:
             std::cout << helpText();

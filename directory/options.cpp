@@ -68,23 +68,23 @@ std::string defaultDocuments() {
 void take(Options& options, int option, const char* value) {
     switch (option) {
         case 'b':
-            options.server.address = value;
+            options.service.server.address = value;
             return;
         case 'p':
-            options.server.port = numberFrom("port", value, 65535);
+            options.service.server.port = numberFrom("port", value, 65535);
             return;
         case 'd':
-            options.database = value;
+            options.service.database = value;
             return;
         case 'D':
-            options.documents = value;
+            options.service.documents = value;
             return;
         case 'r':
-            options.requestsAMinute = numberFrom("rate-limit", value, 1'000'000);
-            if (options.requestsAMinute == 0) options.server.connectionsAnAddress = 0;
+            options.service.requestsAMinute = numberFrom("rate-limit", value, 1'000'000);
+            if (options.service.requestsAMinute == 0) options.service.server.connectionsAnAddress = 0;
             return;
         case 'x':
-            options.server.behindProxy = true;
+            options.service.server.behindProxy = true;
             return;
         case 'h':
             options.command = Command::help;
@@ -112,8 +112,8 @@ void takeCommand(Options& options, std::span<char*> words) {
 
 Options optionsFrom(int argc, char** argv) {
     Options options;
-    options.database = defaultDatabase();
-    options.documents = defaultDocuments();
+    options.service.database = defaultDatabase();
+    options.service.documents = defaultDocuments();
     optind = 0;
     for (int option = 0; (option = getopt_long(argc, argv, "", longOptions.data(), nullptr)) != -1;)
         take(options, option, optarg);

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "web_server.h"
+#include "directory_service.h"
 
 namespace corvane::directory {
 
@@ -12,10 +12,7 @@ struct Options {
 
     Command command = Command::serve;
     std::string file;  // of an import
-    std::string database;
-    std::string documents;  // folder
-    int requestsAMinute = 120;
-    WebServer::Options server{.port = 8073};
+    DirectoryService::Options service{{}, {}, 120, {.port = 8073}};
 };
 
 // Throws std::invalid_argument, with a sentence for the user, when there is something that it does not know.

@@ -149,8 +149,10 @@ int WebServer::begin(MHD_Connection* connection, Exchange& exchange) {
     exchange.begun = true;
     exchange.request.address = options_.behindProxy ? lastForwarded(header(connection, "X-Forwarded-For")) : "";
     if (exchange.request.address.empty()) exchange.request.address = peer(connection);
-    const char* const key = MHD_lookup_connection_value(connection, MHD_GET_ARGUMENT_KIND, "key");
-    if (key) exchange.request.key = key;
+    const char* key = nullptr;
+    std::size_t size = 0;
+    if (MHD_lookup_connection_value_n(connection, MHD_GET_ARGUMENT_KIND, "key", 3, &key, &size) == MHD_YES && key)
+        exchange.request.key.assign(key, size);
     const auto answer = site_.answerAtOnce(exchange.request);
     if (answer) return send(connection, exchange, *answer);
     return announcedLength(connection) > longestBody ? send(connection, exchange, tooLong()) : int{MHD_YES};

@@ -1,0 +1,41 @@
+// The whole service on one database: takes requests from its beginning to its end.
+#pragma once
+
+#include "directory_site.h"
+
+namespace corvane::directory {
+
+class DirectoryService {
+public:
+    struct Options {
+        std::string database;   // prepared, see new_database.h
+        std::string documents;  // folder
+        int requestsAMinute = 0;
+        WebServer::Options server;
+    };
+
+    // Throws std::runtime_error when it cannot listen.
+    DirectoryService(const Options& options, const Clock& clock, Log& log)
+        : documents_(options.documents),
+          writer_(options.database, clock, changes_, log),
+          reader_(options.database, clock, changes_, log),
+          site_(writer_, reader_, documents_, options.requestsAMinute),
+          server_(options.server, site_, log) {}
+
+    int port() const { return server_.port(); }
+    bool hasDocuments() const { return !documents_.empty(); }
+    // To be called about once a second, and about once an hour.
+    void closeLateConnections() { server_.closeLateConnections(); }
+    void forgetOldSessions() { writer_.forgetOldSessions(); }
+
+private:
+    // They end in the reverse order: first the server, then what its last requests wait for.
+    const Documents documents_;
+    std::atomic<long long> changes_ = 0;
+    CheckInWriter writer_;
+    DirectoryReader reader_;
+    DirectorySite site_;
+    WebServer server_;
+};
+
+}  // namespace corvane::directory
