@@ -4,9 +4,7 @@
 #include <utility>
 
 #include "controls/text_messages.h"
-#include "display/table_columns.h"
 #include "feeds/feed_table.h"
-#include "memories/table_cells.h"
 
 namespace corvane {
 
@@ -86,8 +84,6 @@ void SerialPortDemoController::bindControls() {
     display.readMemoriesButton.action = [this](Button& sender) { getMemoriesFromRadio(sender); };
     display.writeMemoriesButton.action = [this](Button& sender) { askBeforeWriting(sender); };
     display.autoMemoryNowButton.action = [this](Button& sender) { autoMemoryNow(sender); };
-    display.autoMemsTableTuneButton.action = [this](Button& sender) { goAutoMemsTune(sender); };
-    display.autoMemsTableClearButton.action = [this](Button& sender) { goAutoMemsClear(sender); };
     for (const PreferenceSwitch& row : preferenceSwitches)
         (display.*row.item).action = [this](MenuItem& sender) { goMainMenu(sender); };
 }
@@ -160,50 +156,11 @@ void SerialPortDemoController::bindEntries() {
     }
 }
 
-void SerialPortDemoController::bindTables() {
-    display.memoriesTable.rowCount = [] { return memoryChannels; };
-    display.memoriesTable.text = [this](int row, int column) {
-        return memoriesTableCell(memories.vqMemArray, row, column);
-    };
-    display.autoMemTable.rowCount = [this] { return static_cast<int>(autoMemories.vqAutoMemoryArray.size()); };
-    display.autoMemTable.text = [this](int row, int column) { return autoMemTableCell(autoMemories, row, column); };
-    display.autoMemTable.onPress = [this](int row, int column) {
-        Button& cell =
-            column == autoMemTableTuneColumn ? display.autoMemsTableTuneButton : display.autoMemsTableClearButton;
-        cell.setTag(row);
-        cell.performClick();
-    };
-}
-
 void SerialPortDemoController::bindLists() {
     for (std::size_t i = 0; i < feedCount; ++i)
         feedRefreshes_.emplace_back(platform_.http, [this](Scheduler::Duration delay, std::function<void()> task) {
             later(delay, std::move(task));
         });
-    for (const ListFeed& row : listFeeds) {
-        TableView& table = display.*row.table;
-        table.rowCount = [this, &row] { return static_cast<int>((feeds.*row.list).size()); };
-        table.text = [this, &row, &table](int index, int column) {
-            const TableColumn& shown = table.columns()[static_cast<std::size_t>(column)];
-            if (shown.kind == TableColumn::Kind::button) return std::string(shown.title);
-            return feedCell(row.cells, shown.identifier, (feeds.*row.list)[static_cast<std::size_t>(index)]);
-        };
-        table.onPress = [this, &row](int index, int column) {
-            const bool directory = row.feed == Feed::nets;
-            Button& button = directory && column == netsTableConfirmColumn     ? display.netsTableConfirmButton
-                             : directory && column == netsTableUnconfirmColumn ? display.netsTableUnconfirmButton
-                                                                               : display.*row.tuneButton;
-            button.setTag(index);
-            button.performClick();
-        };
-    }
-    display.potaTableTuneButton.action = [this](Button& sender) { goPotaTune(sender); };
-    display.sotaTableTuneButton.action = [this](Button& sender) { goSotaTune(sender); };
-    display.netLoggerTableTuneButton.action = [this](Button& sender) { goNetLoggerTune(sender); };
-    display.netsTableTuneButton.action = [this](Button& sender) { goNetsTune(sender); };
-    display.netsTableConfirmButton.action = [this](Button& sender) { goNetsConfirm(sender); };
-    display.netsTableUnconfirmButton.action = [this](Button& sender) { goNetsUnconfirm(sender); };
-    display.mwTableTuneButton.action = [this](Button& sender) { goMWTune(sender); };
 }
 
 void SerialPortDemoController::later(Scheduler::Duration delay, std::function<void()> task) {

@@ -17,7 +17,9 @@
 //   keyer                texts on the air                         controls/keyer.cpp
 //   operator class       what may be done on a frequency          controls/operator_class.cpp
 //   memories             the memory channels                      memories/memory_read.cpp, memory_write.cpp
+//   memory table         editing, moving and sorting its rows     memories/memory_table.cpp
 //   auto memories        frequencies where a signal was heard     memories/auto_memories.cpp
+//   tables               what the seven tables show               controller/tables.cpp
 //   on-line lists        fetching them                            feeds/feed_refreshes.cpp
 //   listed stations      tuning to a row, check-ins               feeds/tune_actions.cpp
 //   settings             what is kept between runs                app/settings_restore.cpp
@@ -51,7 +53,9 @@ struct MemoryReply;
 struct MenuGroup;
 struct ModeGroup;
 
-class SerialPortDemoController final : public ORSSerialPortDelegate, public SerialPortsObserver {
+class SerialPortDemoController final : public ORSSerialPortDelegate,
+                                       public SerialPortsObserver,
+                                       public TableViewDataSource {
 public:
     // --- controller: controller/serial_port_demo_controller.cpp
     SerialPortDemoController(const Platform& platform, ServiceHosts hosts);
@@ -181,13 +185,25 @@ public:
     void askBeforeWriting(Button& sender);
     void writeMemoriesToRadio(Button& sender);
 
+    // --- memory table: memories/memory_table.cpp
+    void textEdited(TextField& sender);  // in the cell where the sender is
+    void modeEdited(PopUpButton& sender);
+    std::optional<int> acceptDrop(TableView& table, std::string_view plainText, int row) override;
+    bool mouseDownInHeader(TableView& table, int column) override;
+
     // --- auto memories: memories/auto_memories.cpp
     void autoMemorySample();
     void autoMemoryNow(Button& sender);
-    void goAutoMemsTune(Button& sender);   // the sender's tag is the row
-    void goAutoMemsClear(Button& sender);  // the sender's tag is the row
+    void goAutoMemsTune(Button& sender);     // the sender's tag is the row
+    void goAutoMemsClear(Button& sender);    // the sender's tag is the row
+    void autoNoteEdited(TextField& sender);  // in the cell where the sender is
     void goAutoMemSquelch(Slider& sender);
     void applyAutoMemSquelch(int index);
+
+    // --- tables: controller/tables.cpp
+    int numberOfRows(const TableView& table) const override;
+    TableCell viewFor(const TableView& table, int row, int column) const override;
+    void openLink(std::string_view address) override;
 
     // --- on-line lists: feeds/feed_refreshes.cpp
     void fetchPotaSpots();

@@ -4,6 +4,7 @@
 #include "controls/sendable_text.h"
 #include "controls/typed_frequency.h"
 #include "radio/cat_command.h"
+#include "radio/tuning_range.h"
 
 namespace corvane {
 

@@ -4,14 +4,13 @@
 #include <charconv>
 #include <cmath>
 
+#include "radio/tuning_range.h"
 #include "radio/wire_text.h"
 
 namespace corvane {
 
 namespace {
 
-constexpr double lowest = 0.03;  // MHz
-constexpr double highest = 75.0;
 constexpr double lowestUpperSideBand = 10.0;
 
 // A number typed with six decimals is a whole number of hertz, which binary fractions may miss by a hair.
@@ -26,8 +25,8 @@ TypedFrequency typedFrequency(std::string_view text) {
     double megahertz = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), megahertz);
     const bool number = error == std::errc{} && end == text.data() + text.size() && std::isfinite(megahertz);
-    if (!number || megahertz < lowest) return {};
-    if (megahertz > highest) return {Verdict::tooHigh};
+    if (!number || megahertz < lowestMegahertz) return {};
+    if (megahertz > highestMegahertz) return {Verdict::tooHigh};
     return {Verdict::accepted, static_cast<int>(megahertz * 1'000'000 + hair), megahertz >= lowestUpperSideBand};
 }
 

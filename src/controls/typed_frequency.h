@@ -19,11 +19,4 @@ struct TypedFrequency {
 // comma, a unit, a sign, words and nothing at all are no numbers.
 TypedFrequency typedFrequency(std::string_view text);
 
-struct EntryWarning {
-    std::string_view message;
-    std::string_view detail;
-};
-inline constexpr EntryWarning frequencyTooLow{"Frequency must be in MHz and greater than 0.03", "Example: 0.860"};
-inline constexpr EntryWarning frequencyTooHigh{"Frequency must be in MHz and less than 75.0", "Example: 14.235"};
-
 }  // namespace corvane

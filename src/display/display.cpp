@@ -26,8 +26,10 @@ constexpr MemoryOutlets pskMemories{{{"pskMemory1Button", 0, "", "PSK memory 1",
                                      {"pskMemory4Button", 0, "", "PSK memory 4", memoryHelp},
                                      {"pskMemory5Button", 0, "", "PSK memory 5", memoryHelp}}};
 
-constexpr Outlet memoriesTableOutlet{"memoriesTable", 0, "", "Memory channels",
-                                     "The 99 memory channels, as read from the transceiver."};
+constexpr Outlet memoriesTableOutlet{
+    "memoriesTable", 0, "", "Memory channels",
+    "The 99 memory channels. Drag a row, or press Alt+Up and Alt+Down, to give it another "
+    "channel; Enter edits a cell."};
 constexpr Outlet autoMemTableOutlet{"autoMemTable", 0, "", "Auto memories",
                                     "Frequencies at which a signal was heard, newest first."};
 constexpr Outlet potaTableOutlet{"potaTable", 0, "", "POTA spots", "Parks on the air, youngest spot first."};
@@ -69,6 +71,7 @@ Display::Display()
       mwTable(mwTableOutlet, mwTableColumns) {
     for (PopUpButton* popUp : {&cwMemoryPopUpButton, &rttyMemoryPopUpButton, &pskMemoryPopUpButton})
         fill(*popUp, entryList(editorMemories));
+    memsTableModePopUpButton.setEntries(entryList(memoryModeEntries));
     memoryReadProgress.setVisible(false);
     // The synchronisation does not ask for it, and a nudge from 0 would make the receiver deaf.
     rfGainSlider.setIntegerValue(rfGainSlider.maximum());

@@ -177,7 +177,16 @@ public:
                                 15};
     TextField autoMemSquelchTextField{
         {"autoMemSquelchTextField", 0, "", "Squelch level", "The squelch as the S-meter reads."}};
-    // What the button cells of a row press: before it is pressed, a button's tag becomes the row's index.
+    // The controls in cells: each stands for those of all rows of its column. Before it is pressed, a button's tag
+    // becomes the row's index.
+    PopUpButton memsTableModePopUpButton{{"memsTableModePopUpButton", 0, "Mode", "Mode of the memory channel",
+                                          "Mode that this memory channel is written with."}};
+    TextField memsTableFrequencyField{{"memsTableFrequencyField", 0, "MHz", "Frequency of the memory channel",
+                                       "Frequency in MHz, 0.03 to 75; nothing empties the channel."}};
+    TextField memsTableTagField{
+        {"memsTableTagField", 0, "Name", "Name of the memory channel", "Name, up to 12 unaccented characters."}};
+    TextField autoMemsTableNoteField{
+        {"autoMemsTableNoteField", 0, "Note", "Note of the auto memory", "A note of your own."}};
     Button autoMemsTableTuneButton{
         {"autoMemsTableTuneButton", 0, "Tune", "Tune to this frequency", "Tune to this auto memory."}};
     Button autoMemsTableClearButton{

@@ -19,6 +19,9 @@ std::vector<std::string> powerEntries();           // "5w" to "100w"
 
 inline constexpr std::string_view modeEntries =  // in the order of the mode codes "1" to "F"
     "LSB|USB|CW-U|FM|AM|RTTY-L|CW-L|DATA-L|RTTY-U|DATA-FM|FM-N|DATA-U|AM-N|PSK|DATA-FM-N";
+inline constexpr std::string_view memoryModeEntries =  // the same after an entry for no mode: entry 11 stands for "B"
+    "\u2013|LSB|USB|CW-U|FM|AM|RTTY-L|CW-L|DATA-L|RTTY-U|DATA-FM|FM-N|DATA-U|AM-N|PSK|DATA-FM-N";
+static_assert(memoryModeEntries.ends_with(modeEntries));
 inline constexpr std::string_view agcEntries = "OFF|FAST|MID|SLOW|AUTO";
 inline constexpr std::string_view attenuatorEntries = "OFF|6 dB|12 dB|18 dB";
 inline constexpr std::string_view preAmplifierEntries = "IPO|AMP 1|AMP 2";

@@ -8,39 +8,45 @@
 namespace corvane {
 
 inline constexpr std::array memoriesTableColumns{
-    TableColumn{"memChan", "Channel", 9},
-    TableColumn{"frequency", "Frequency (MHz)", 16, TableColumn::Kind::text, true},
-    TableColumn{"mode", "Mode", 12},
-    TableColumn{"memTag", "Memory Name", 16},
+    TableColumn{"handle", "", 1},
+    TableColumn{"memChan", "Channel", 8},
+    TableColumn{"frequency", "Frequency (MHz)", 18, TableColumn::Alignment::right, true},
+    TableColumn{"mode", "Mode", 13},
+    TableColumn{"memTag", "Memory Name", 16, TableColumn::Alignment::left, true},
 };
+// What is typed in a row goes by these.
+inline constexpr int memoryFrequencyColumn = 2;
+inline constexpr int memoryModeColumn = 3;
+inline constexpr int memoryTagColumn = 4;
+static_assert(memoriesTableColumns[memoryFrequencyColumn].identifier == "frequency");
+static_assert(memoriesTableColumns[memoryModeColumn].identifier == "mode");
+static_assert(memoriesTableColumns[memoryTagColumn].identifier == "memTag");
 
 inline constexpr std::array autoMemTableColumns{
-    TableColumn{"tune", "Tune", 8, TableColumn::Kind::button},
-    TableColumn{"freq", "Frequency (Hz)", 16, TableColumn::Kind::text, true},
-    TableColumn{"mode", "Mode", 12},
-    TableColumn{"clear", "Clear", 8, TableColumn::Kind::button},
+    TableColumn{"tune", "Tune", 8},     TableColumn{"freq", "Frequency (Hz)", 16, TableColumn::Alignment::right},
+    TableColumn{"mode", "Mode", 12},    TableColumn{"clear", "Clear", 8},
     TableColumn{"notes1", "Notes", 16},
 };
-inline constexpr int autoMemTableTuneColumn = 0;
-inline constexpr int autoMemTableClearColumn = 3;
+inline constexpr int autoMemTableNotesColumn = 4;
+static_assert(autoMemTableColumns[autoMemTableNotesColumn].identifier == "notes1");
 
-// Of the on-line lists. A button column says with its title what its buttons do.
+// Of the on-line lists.
 inline constexpr std::array potaTableColumns{
-    TableColumn{"tune", "Tune", 8, TableColumn::Kind::button},
+    TableColumn{"tune", "Tune", 8},
     TableColumn{"activator", "Activator", 12},
-    TableColumn{"frequency", "kHz", 10, TableColumn::Kind::text, true},
+    TableColumn{"frequency", "kHz", 10, TableColumn::Alignment::right},
     TableColumn{"mode", "Mode", 7},
-    TableColumn{"reference", "Park", 10},
+    TableColumn{"reference", "Park", 10, TableColumn::Alignment::center},
     TableColumn{"name", "Name", 34},
     TableColumn{"location", "Location", 12},
     TableColumn{"last", "Age", 9},
     TableColumn{"comment", "Comment", 24},
 };
 inline constexpr std::array sotaTableColumns{
-    TableColumn{"tune2", "Tune", 8, TableColumn::Kind::button},
+    TableColumn{"tune2", "Tune", 8},
     TableColumn{"activator2", "Activator", 12},
     TableColumn{"activatorName", "Operator", 14},
-    TableColumn{"frequency2", "kHz", 10, TableColumn::Kind::text, true},
+    TableColumn{"frequency2", "kHz", 10, TableColumn::Alignment::right},
     TableColumn{"mode2", "Mode", 7},
     TableColumn{"name2", "Summit", 26},
     TableColumn{"location2", "Height", 10},
@@ -49,28 +55,26 @@ inline constexpr std::array sotaTableColumns{
     TableColumn{"comment2", "Comment", 24},
 };
 inline constexpr std::array netLoggerTableColumns{
-    TableColumn{"tune", "Tune", 8, TableColumn::Kind::button},
+    TableColumn{"tune", "Tune", 8},
     TableColumn{"netName", "Net", 40},
-    TableColumn{"freq", "kHz", 12, TableColumn::Kind::text, true},
+    TableColumn{"freq", "kHz", 12, TableColumn::Alignment::right},
     TableColumn{"mode2", "Mode", 8},
     TableColumn{"checkIns", "Subscribers", 12},
 };
 inline constexpr std::array netsTableColumns{
-    TableColumn{"tune3", "Tune", 8, TableColumn::Kind::button},
+    TableColumn{"tune3", "Tune", 8},
     TableColumn{"netName", "Net", 36},
-    TableColumn{"freq", "MHz", 10, TableColumn::Kind::text, true},
+    TableColumn{"freq", "MHz", 10, TableColumn::Alignment::right},
     TableColumn{"utc", "UTC", 10},
     TableColumn{"mode", "Mode", 8},
     TableColumn{"confirmed", "Confirmed", 12},
-    TableColumn{"confirm", "Confirm", 10, TableColumn::Kind::button},
-    TableColumn{"unconfirm", "Retract", 10, TableColumn::Kind::button},
+    TableColumn{"confirm", "Confirm", 10},
+    TableColumn{"unconfirm", "Retract", 10},
 };
-inline constexpr int netsTableConfirmColumn = 6;
-inline constexpr int netsTableUnconfirmColumn = 7;
 inline constexpr std::array mwTableColumns{
-    TableColumn{"tune3", "Tune", 8, TableColumn::Kind::button},
+    TableColumn{"tune3", "Tune", 8},
     TableColumn{"station", "Station", 30},
-    TableColumn{"freq", "kHz", 10, TableColumn::Kind::text, true},
+    TableColumn{"freq", "kHz", 10, TableColumn::Alignment::right},
     TableColumn{"city", "City", 26},
     TableColumn{"power", "Power", 12},
 };

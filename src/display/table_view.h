@@ -1,42 +1,104 @@
-// A table: columns that stay, rows that are asked for. The lists behind the rows are the program's; the table only
-// knows how to ask.
+// A table: columns that stay, rows that are asked for. The lists behind the rows are the program's; the table knows how
+// to ask for them and where what is done to a cell goes.
 #pragma once
 
-#include <functional>
+#include <optional>
 #include <span>
 
-#include "display/control.h"
+#include "display/button.h"
+#include "display/pop_up_button.h"
+#include "display/table_cell.h"
+#include "display/text_field.h"
 
 namespace corvane {
 
 struct TableColumn {
-    enum class Kind { text, button };
+    enum class Alignment { left, center, right };
 
     std::string_view identifier;  // e.g. "memChan"
     std::string_view title;       // above the column
     int width;                    // in characters; the last column takes what is left
-    Kind kind = Kind::text;
-    bool numeric = false;  // stands on the right
+    Alignment alignment = Alignment::left;
+    bool sorts = false;  // whether a press of the header sorts the rows
+};
+
+struct CellPlace {
+    int row;
+    int column;
+
+    bool operator==(const CellPlace&) const = default;
+};
+
+enum class SortDirection { unknown, ascending, descending };
+
+class TableView;
+
+// Where tables get their rows from, and what they hand over. Rows and columns count from 0.
+class TableViewDataSource {
+public:
+    virtual ~TableViewDataSource() = default;
+
+    virtual int numberOfRows(const TableView& table) const = 0;
+    // Of a cell without a button; the row and the column exist.
+    virtual TableCell viewFor(const TableView& table, int row, int column) const = 0;
+    virtual void openLink(std::string_view address) = 0;
+    // What was dragged is dropped on the gap above `row`; below the last row that is the number of rows. Gives where
+    // the row stands now, nothing for a drop that is refused.
+    virtual std::optional<int> acceptDrop(TableView& table, std::string_view plainText, int row) = 0;
+    // Whether the rows were sorted.
+    virtual bool mouseDownInHeader(TableView& table, int column) = 0;
 };
 
 class TableView : public Control {
 public:
-    TableView(const Outlet& outlet, std::span<const TableColumn> columns) : Control(outlet), columns_(columns) {}
+    static constexpr int rowHeight = 27;  // points, of every row of every table
+
+    TableView(const Outlet& outlet, std::span<const TableColumn> columns);
 
     std::span<const TableColumn> columns() const { return columns_; }
+    const TableColumn& column(int index) const { return columns_[static_cast<std::size_t>(index)]; }
+    int columnWithIdentifier(std::string_view identifier) const;  // -1: there is none
 
-    // The data source. Without one the table is empty. `text` is called for rows and columns that exist, counted from
-    // 0; a button cell's text is what stands on the button.
-    std::function<int()> rowCount;
-    std::function<std::string(int row, int column)> text;
-    int rows() const { return rowCount ? rowCount() : 0; }
-    std::string cell(int row, int column) const { return text ? text(row, column) : std::string(); }
+    // Without a data source the table is empty.
+    void setDataSource(TableViewDataSource& source) { source_ = &source; }
+    int rows() const { return source_ ? source_->numberOfRows(*this) : 0; }
+    // The cell, which must exist, and what is read in it.
+    TableCell view(int row, int column) const;
+    std::string cell(int row, int column) const { return textOf(view(row, column)); }
 
-    // What the press of a button cell does.
-    std::function<void(int row, int column)> onPress;
-    void pressCell(int row, int column) {
-        if (onPress && row >= 0 && row < rows()) onPress(row, column);
+    // The control that stands for those of all rows in a column. What is done in a cell is done to it.
+    void setCellControl(std::string_view column, Button& control) { controlOf(column).button = &control; }
+    void setCellControl(std::string_view column, PopUpButton& control) { controlOf(column).popUp = &control; }
+    void setCellControl(std::string_view column, TextField& control) { controlOf(column).field = &control; }
+    const Control* cellControl(int column) const;
+    bool isEditable(int column) const { return controlOf(column).field != nullptr; }
+    // The cell in which such a control was used last; nothing for another control.
+    std::optional<CellPlace> placeOf(const Control& control) const;
+
+    // What the operator does to a cell. Nothing happens where there is no such cell, or it is of another kind.
+    void pressCell(int row, int column);                               // a button, a link
+    void chooseInCell(int row, int column, int entry);                 // an entry of a pop-up
+    void editCell(int row, int column, std::string_view replacement);  // text that may be replaced
+
+    // Dragging a row hands over its index as plain text: "12".
+    void registerForDraggedText() { assign(takesDraggedText_, true); }
+    bool takesDraggedText() const { return takesDraggedText_; }
+    static std::string pasteboardText(int row) { return std::to_string(row); }
+    std::optional<int> drop(std::string_view plainText, int row) {
+        return source_ && takesDraggedText_ ? source_->acceptDrop(*this, plainText, row) : std::nullopt;
     }
+
+    // A column with a prototype is one that the rows were sorted by; each press of its header turns the direction.
+    struct SortDescriptor {
+        std::string key;  // e.g. "Col2"
+        bool ascending = true;
+
+        bool operator==(const SortDescriptor&) const = default;
+    };
+    void setSortDescriptorPrototype(int column, std::optional<SortDescriptor> prototype);
+    const std::optional<SortDescriptor>& sortDescriptorPrototype(int column) const;
+    SortDirection sortDirection(int column) const;
+    void pressHeader(int column);
 
     // The rows are asked for again.
     void reloadData() {
@@ -46,7 +108,24 @@ public:
     int version() const { return version_; }
 
 private:
+    struct CellControl {
+        Button* button = nullptr;
+        PopUpButton* popUp = nullptr;
+        TextField* field = nullptr;
+    };
+    CellControl& controlOf(std::string_view column);
+    const CellControl& controlOf(int column) const { return controls_[static_cast<std::size_t>(column)]; }
+    bool exists(int row, int column) const;
+    void put(const Control& control, CellPlace place);
+
     const std::span<const TableColumn> columns_;
+    std::vector<CellControl> controls_;                      // by column
+    std::vector<std::optional<SortDescriptor>> prototypes_;  // by column
+    std::optional<SortDescriptor> sortedBy_;                 // of the prototypes the one in force
+    TableViewDataSource* source_ = nullptr;
+    const Control* used_ = nullptr;
+    CellPlace place_{};
+    bool takesDraggedText_ = false;
     int version_ = 0;
 };
 

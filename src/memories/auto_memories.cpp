@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "controller/serial_port_demo_controller.h"
+#include "display/table_columns.h"
 #include "memories/squelch_levels.h"
 #include "radio/operating_modes.h"
 
@@ -63,6 +64,16 @@ void SerialPortDemoController::goAutoMemsClear(Button& sender) {
     removeAutoMemory(autoMemories, row);
     display.autoMemTable.reloadData();
     playSystemSound("Basso");
+}
+
+void SerialPortDemoController::autoNoteEdited(TextField& sender) {
+    const auto place = display.autoMemTable.placeOf(sender);
+    auto& notes = autoMemories.vqAutoNotesArray;
+    if (!place || place->column != autoMemTableNotesColumn) return;
+    const auto row = static_cast<std::size_t>(place->row);
+    if (row >= notes.size()) return;
+    notes[row] = sender.stringValue();
+    display.autoMemTable.reloadData();
 }
 
 void SerialPortDemoController::clearAutoMemories() {

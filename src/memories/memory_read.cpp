@@ -1,6 +1,7 @@
 // Reading the memory channels: a chain of request and reply, first frequencies and modes, then tags. The pace is the
 // transceiver's; nothing is sent on a timer.
 #include "controller/serial_port_demo_controller.h"
+#include "display/table_columns.h"
 #include "memories/memory_commands.h"
 #include "radio/wire_text.h"
 
@@ -32,6 +33,8 @@ void SerialPortDemoController::startMemoryRead() {
     memories.vqTagReadCnt = 0;
     ++memories.readNumber;
     memories.whole = false;
+    memories.stalled = false;
+    memories.answered.reset();
     display.memoriesTable.reloadData();
     requestMemory("MR", 1);
     watchMemoryRead();
@@ -51,6 +54,7 @@ void SerialPortDemoController::readMemoryReply(std::string_view response) {
         return readMemoryInUse(response);
     }
     if (describes) takeChannel(reply);
+    memories.stalled = false;
     const int handled = ++memories.vqMemReadCnt;
     if (handled <= memoryChannels) return requestMemory("MR", handled);
     memories.vqMemRead = "0";
@@ -62,13 +66,14 @@ void SerialPortDemoController::takeChannel(const MemoryReply& reply) {
     const auto row = static_cast<std::size_t>(reply.channel - 1);
     memories.vqMemArray[row] = {std::string(reply.frequency), std::string(reply.mode), ""};
     memories.asRead[row] = {memories.vqMemArray[row], std::string(reply.rest)};
+    memories.answered.set(row);
     memories.unsaved = true;
 }
 
 // A read that was begun anew, or an error answer to another command, leaves one reply more on its way than is counted:
 // the last channel then comes after the tags have begun. It belongs in the table; without it a write would erase it.
 bool SerialPortDemoController::takeLateChannel(const MemoryReply& reply) {
-    if (memories.vqMemArray[static_cast<std::size_t>(reply.channel - 1)] != MemoryChannel{}) return false;
+    if (memories.answered.test(static_cast<std::size_t>(reply.channel - 1))) return false;
     takeChannel(reply);
     return true;
 }
@@ -86,6 +91,7 @@ void SerialPortDemoController::readTagReply(std::string_view response) {
         if (describes) showMemoryChannels();
         return;
     }
+    memories.stalled = false;
     const int handled = ++memories.vqTagReadCnt;
     if (handled <= memoryChannels) return requestMemory("MT", handled);
     memories.vqTagRead = "0";
@@ -95,9 +101,11 @@ void SerialPortDemoController::readTagReply(std::string_view response) {
 void SerialPortDemoController::finishMemoryRead() {
     memories.whole = true;
     memories.unsaved = true;
-    // What did not answer holds nothing, whatever an earlier read found there.
+    // What did not answer holds nothing, whatever an earlier read found there. What the operator has typed into a row
+    // meanwhile is not what the transceiver holds.
     for (std::size_t row = 0; row < memories.asRead.size(); ++row)
-        if (memories.asRead[row].row != memories.vqMemArray[row]) memories.asRead[row] = {memories.vqMemArray[row], {}};
+        if (!memories.answered.test(row)) memories.asRead[row] = {};
+    display.memoriesTable.setSortDescriptorPrototype(memoryFrequencyColumn, {});
     showMemoryChannels();
     showMemoryReadProgress();
     showWhereChannelsAreSaved();
@@ -142,14 +150,17 @@ void SerialPortDemoController::watchMemoryRead() {
     const int handled = memories.vqMemReadCnt + memories.vqTagReadCnt;
     later(patience, [this, handled, read = memories.readNumber] {
         if (read != memories.readNumber || !memoryReadProgress(memories).running) return;
-        if (handled == memories.vqMemReadCnt + memories.vqTagReadCnt)
+        if (handled == memories.vqMemReadCnt + memories.vqTagReadCnt) {
+            memories.stalled = true;
             showMemoryReadProgress(": no answer. Press Read memories to start again.");
+        }
         watchMemoryRead();
     });
 }
 
 void SerialPortDemoController::memoryReadLostLink() {
     ++memories.readNumber;
+    memories.stalled = true;
     if (memoryReadProgress(memories).running) showMemoryReadProgress(": stopped, the link is closed.");
 }
 

@@ -28,4 +28,8 @@ MemoryReadProgress memoryReadProgress(const MemoryState& memories) {
     return progress;
 }
 
+bool repliesAreComing(const MemoryState& memories) {
+    return !memories.stalled && (memories.vqMemRead == "run" || memories.vqTagRead == "run");
+}
+
 }  // namespace corvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <string>
 
 namespace corvane {
@@ -36,10 +37,12 @@ struct MemoryState {
     std::string vqTagRead = "0";                            // "run" while tags are read
     int vqMemReadCnt = 0;                                   // replies handled in the present read
     int vqTagReadCnt = 0;
-    unsigned readNumber = 0;  // grows with every read begun or lost, so that a late watch is known
-    bool whole = false;       // whether the last read came to its end
-    ChannelsAsRead asRead;    // what the transceiver is known to hold
-    bool unsaved = false;     // whether that has changed since it was saved last
+    unsigned readNumber = 0;               // grows with every read begun or lost, so that a late watch is known
+    bool whole = false;                    // whether the last read came to its end
+    bool stalled = false;                  // whether the present read waits for an answer that does not come
+    std::bitset<memoryChannels> answered;  // the rows that the present read has filled
+    ChannelsAsRead asRead;                 // what the transceiver is known to hold
+    bool unsaved = false;                  // whether that has changed since it was saved last
 };
 
 // The entry of the memory pop-up for row i: "M-05 20M FT8"; an empty channel shows "M-05" and two blanks.
@@ -52,5 +55,8 @@ struct MemoryReadProgress {
     std::string text;  // "Reading frequencies, channel 37 of 99"
 };
 MemoryReadProgress memoryReadProgress(const MemoryState& memories);
+
+// Whether a read is under way that has not come to a halt.
+bool repliesAreComing(const MemoryState& memories);
 
 }  // namespace corvane

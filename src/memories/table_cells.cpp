@@ -1,69 +1,56 @@
 #include "memories/table_cells.h"
 
-#include <array>
-#include <charconv>
-
 #include "display/table_columns.h"
 #include "radio/cat_command.h"
-#include "radio/operating_modes.h"
+#include "radio/decimal_number.h"
+#include "radio/tuning_range.h"
 
 namespace corvane {
 
-namespace {
-
-constexpr double lowestFrequency = 0.03;  // MHz
-constexpr double highestFrequency = 75.0;
-
-std::string sixDecimals(double megahertz) {
-    std::array<char, 64> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), megahertz, std::chars_format::fixed, 6);
-    return {text.data(), end.ec == std::errc{} ? end.ptr : text.data()};
-}
-
-double numberOrZero(std::string_view text) {
-    double number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc{} && end == text.data() + text.size() ? number : 0;
-}
-
-}  // namespace
-
 std::string shownMemoryFrequency(const std::string& field) {
     if (field.size() == 9 && field.find('.') == std::string::npos) {
-        const std::string shown = sixDecimals(numberOrZero(field) / 1'000'000);
+        const std::string shown = withDecimals(numberOrZero(field) / 1'000'000, 6);
         return shown == "0.000000" ? std::string() : shown;
     }
     const double megahertz = numberOrZero(field);
-    // Written so that what is not a number is not shown either.
-    return megahertz >= lowestFrequency && megahertz <= highestFrequency ? sixDecimals(megahertz) : std::string();
+    const bool tunable = megahertz >= lowestMegahertz && megahertz <= highestMegahertz;
+    return tunable ? withDecimals(megahertz, 6) : std::string();
 }
 
-std::string memoriesTableCell(const MemoryTable& table, int row, int column) {
+int memoryModeEntry(std::string_view field) {
+    constexpr std::string_view codes = "0123456789ABCDEF";
+    if (field == "10") return 10;
+    const std::size_t entry = field.size() == 1 ? codes.find(field.front()) : std::string_view::npos;
+    return entry == std::string_view::npos ? 0 : static_cast<int>(entry);
+}
+
+TableCell memoriesTableCell(const MemoryTable& table, std::span<const std::string> modes, int row, int column) {
     const MemoryChannel& channel = table[static_cast<std::size_t>(row)];
     switch (column) {
         case 0:
-            return "M-" + zeroPadded(row + 1, 2);
+            return HandleCell{};
         case 1:
-            return shownMemoryFrequency(channel.frequency);
-        case 2:
-            return std::string(modeName(channel.mode.size() == 1 ? channel.mode.front() : ' ').value_or(""));
+            return TextCell{"M-" + zeroPadded(row + 1, 2)};
+        case memoryFrequencyColumn:
+            return EditableCell{shownMemoryFrequency(channel.frequency)};
+        case memoryModeColumn:
+            return PopUpCell{modes, memoryModeEntry(channel.mode)};
         default:
-            return channel.tag;
+            return EditableCell{channel.tag};
     }
 }
 
-std::string autoMemTableCell(const AutoMemoryState& autoMemories, int row, int column) {
+TableCell autoMemTableCell(const AutoMemoryState& autoMemories, int row, int column) {
     const auto index = static_cast<std::size_t>(row);
     switch (column) {
-        case autoMemTableTuneColumn:
-        case autoMemTableClearColumn:
-            return std::string(autoMemTableColumns[static_cast<std::size_t>(column)].title);
         case 1:
-            return autoMemories.vqAutoMemoryArray[index];
+            return TextCell{autoMemories.vqAutoMemoryArray[index]};
         case 2:
-            return autoMemories.vqAutoModeArray[index];
+            return TextCell{autoMemories.vqAutoModeArray[index]};
+        case autoMemTableNotesColumn:
+            return EditableCell{autoMemories.vqAutoNotesArray[index]};
         default:
-            return autoMemories.vqAutoNotesArray[index];
+            return {};
     }
 }
 

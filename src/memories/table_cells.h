@@ -1,8 +1,10 @@
 // What the tables of memory channels and auto memories show.
 #pragma once
 
+#include <span>
 #include <string>
 
+#include "display/table_cell.h"
 #include "memories/auto_memory_state.h"
 #include "memories/memory_state.h"
 
@@ -12,8 +14,11 @@ namespace corvane {
 // other text is megahertz; nothing is shown for what is no frequency from 0.03 to 75 MHz.
 std::string shownMemoryFrequency(const std::string& field);
 
-// The rows and columns must exist.
-std::string memoriesTableCell(const MemoryTable& table, int row, int column);
-std::string autoMemTableCell(const AutoMemoryState& autoMemories, int row, int column);
+// The entry of the mode pop-up for a mode field: "2" gives 2, "A" and "10" give 10; anything else gives 0, no mode.
+int memoryModeEntry(std::string_view field);
+
+// The rows and columns must exist. `modes` are the entries of the mode pop-up.
+TableCell memoriesTableCell(const MemoryTable& table, std::span<const std::string> modes, int row, int column);
+TableCell autoMemTableCell(const AutoMemoryState& autoMemories, int row, int column);
 
 }  // namespace corvane

@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <QStyleFactory>
 
+#include "app/app_delegate.h"
 #include "app/service_hosts.h"
 #include "controller/serial_port_demo_controller.h"
 #include "qt/platform/qt_platform.h"
@@ -22,6 +23,7 @@ int main(int argc, char** argv) {
         platform.platform(), corvane::ServiceHosts::from(qEnvironmentVariable("CORVANE_SERVICES").toStdString()));
     corvane::MainWindow window(controller);
     corvane::reportStart(window);
+    corvane::AppDelegate(controller.display).applicationDidFinishLaunching();
     // The list of ports and the icon cost some 20 ms that the first paint need not wait for.
     QObject::connect(&window, &corvane::MainWindow::firstPainted, &window, [&window, &controller] {
         controller.awakeFromNib();

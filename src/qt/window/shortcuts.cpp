@@ -1,6 +1,7 @@
 #include "qt/window/shortcuts.h"
 
 #include <QShortcut>
+#include <array>
 
 #include "qt/window/control_texts.h"
 
@@ -9,6 +10,14 @@ namespace corvane {
 namespace {
 
 ShortcutText textOf(const Outlet& outlet) { return {toQString(outlet.shortcut), toQString(outlet.label)}; }
+
+// In a table.
+const std::array tableKeys{
+    ShortcutText{"Enter, Space", "Table: press, open or edit the cell"},
+    ShortcutText{"Ctrl+Enter", "Table: tune to the row"},
+    ShortcutText{"Alt+Up, Alt+Down", "Memory channels: move the row"},
+    ShortcutText{"Shift+F10", "Table: its menu, with sorting"},
+};
 
 }  // namespace
 
@@ -24,6 +33,7 @@ std::vector<ShortcutText> shortcutTexts(Display& display) {
         textOf(display.textMemoryField.outlet()),
         textOf(display.autoMemoryNowButton.outlet()),
     };
+    texts.insert(texts.end(), tableKeys.begin(), tableKeys.end());
     for (const FrontPanelKey& key : frontPanelKeys)
         if (!key.outlet.shortcut.empty()) texts.push_back(textOf(key.outlet));
     return texts;

@@ -1,149 +1,43 @@
 #include "qt/window/table_widget.h"
 
-#include <QAbstractTableModel>
+#include <QContextMenuEvent>
+#include <QDrag>
 #include <QHeaderView>
-#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
 #include <QPainter>
-#include <QSortFilterProxyModel>
-#include <QStyledItemDelegate>
 #include <algorithm>
 
+#include "qt/window/cell_delegate.h"
 #include "qt/window/control_texts.h"
+#include "qt/window/table_rows.h"
 #include "qt/window/theme.h"
 
 namespace corvane {
 
 namespace {
 
-constexpr int cellHeight = 27;
-
-const TableColumn& columnOf(const TableView& table, int column) {
-    return table.columns()[static_cast<std::size_t>(column)];
+template <class Cell>
+bool is(const TableCell& cell) {
+    return std::holds_alternative<Cell>(cell);
 }
 
-// Asks the table for what is in sight; keeps nothing.
-class TableRows final : public QAbstractTableModel {
-public:
-    TableRows(TableView& table, QObject* parent) : QAbstractTableModel(parent), table_(table), rows_(table.rows()) {}
-
-    int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : rows_; }
-    int columnCount(const QModelIndex& parent) const override {
-        return parent.isValid() ? 0 : static_cast<int>(table_.columns().size());
-    }
-    QVariant data(const QModelIndex& index, int role) const override {
-        // Between a change of the list and its reload there may be fewer rows than are shown.
-        if (!index.isValid() || index.row() >= table_.rows()) return {};
-        const TableColumn& column = columnOf(table_, index.column());
-        if (role == Qt::DisplayRole) return QString::fromStdString(table_.cell(index.row(), index.column()));
-        if (role == Qt::TextAlignmentRole)
-            return QVariant::fromValue<Qt::Alignment>((column.numeric ? Qt::AlignRight : Qt::AlignLeft) |
-                                                      Qt::AlignVCenter);
-        if (role == Qt::AccessibleTextRole)
-            return toQString(column.title) + ", " + QString::fromStdString(table_.cell(index.row(), index.column()));
-        return {};
-    }
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-        if (orientation != Qt::Horizontal) return {};
-        const TableColumn& column = columnOf(table_, section);
-        if (role == Qt::DisplayRole) return toQString(column.title);
-        if (role == Qt::TextAlignmentRole)
-            return QVariant::fromValue<Qt::Alignment>((column.numeric ? Qt::AlignRight : Qt::AlignLeft) |
-                                                      Qt::AlignVCenter);
-        return {};
-    }
-
-    // The rows in sight are asked for again; which one is chosen stays as long as their number does.
-    void reload() {
-        const int rows = table_.rows();
-        if (rows != rows_) {
-            beginResetModel();
-            rows_ = rows;
-            endResetModel();
-        } else if (rows > 0) {
-            emit dataChanged(index(0, 0), index(rows - 1, columnCount({}) - 1));
-        }
-    }
-
-private:
-    TableView& table_;
-    int rows_;
-};
-
-}  // namespace
-
-// The rows that pass the filter.
-class FilteredRows final : public QSortFilterProxyModel {
-public:
-    FilteredRows(TableView& table, QObject* parent) : QSortFilterProxyModel(parent), table_(table), rows_(table, this) {
-        setSourceModel(&rows_);
-    }
-
-    void setFilter(const QString& text) {
-        words_ = text.simplified().split(' ', Qt::SkipEmptyParts);
-        invalidateFilter();
-    }
-    void reload() { rows_.reload(); }
-
-protected:
-    bool filterAcceptsRow(int row, const QModelIndex&) const override {
-        return std::ranges::all_of(words_, [&](const QString& word) { return contains(row, word); });
-    }
-
-private:
-    bool contains(int row, const QString& word) const {
-        for (int column = 0; column < rows_.columnCount({}); ++column) {
-            const bool text = columnOf(table_, column).kind == TableColumn::Kind::text;
-            if (text && rows_.index(row, column).data().toString().contains(word, Qt::CaseInsensitive)) return true;
-        }
-        return false;
-    }
-
-    TableView& table_;
-    TableRows rows_;
-    QStringList words_;
-};
-
-namespace {
-
-// Paints the cells of a button column as keys.
-class CellDelegate final : public QStyledItemDelegate {
-public:
-    CellDelegate(const TableView& table, QObject* parent) : QStyledItemDelegate(parent), table_(table) {}
-
-    // Room at both ends, so that a number on the right does not touch the text that follows it.
-    QString displayText(const QVariant& value, const QLocale&) const override {
-        const QChar room(0x2002);
-        return room + value.toString() + room;
-    }
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        if (columnOf(table_, index.column()).kind != TableColumn::Kind::button)
-            return QStyledItemDelegate::paint(painter, option, index);
-        const Theme& theme = Theme::current();
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        const bool focused = option.state.testFlag(QStyle::State_HasFocus);
-        painter->setPen(QPen(focused ? theme.accent : theme.line, focused ? 2 : 1));
-        painter->setBrush(option.state.testFlag(QStyle::State_MouseOver) ? theme.keyHover : theme.key);
-        painter->drawRoundedRect(QRectF(option.rect).adjusted(3, 2.5, -3, -2.5), 5, 5);
-        painter->setPen(theme.text);
-        painter->drawText(option.rect, Qt::AlignCenter, index.data().toString());
-        painter->restore();
-    }
-
-private:
-    const TableView& table_;
-};
+QString withoutMnemonic(QString text) { return text.replace('&', "&&"); }
 
 }  // namespace
 
 TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent)
-    : QTableView(parent), model_(model), shown_(new FilteredRows(model, this)), shownVersion_(model.version()) {
+    : QTableView(parent),
+      model_(model),
+      rows_(new TableRows(model, this)),
+      delegate_(new CellDelegate(model, *rows_, this)),
+      shownVersion_(model.version()) {
     describe(*this, model);
-    setModel(shown_);
-    setItemDelegate(new CellDelegate(model, this));
+    setModel(rows_);
+    setItemDelegate(delegate_);
     setSelectionBehavior(QAbstractItemView::SelectItems);
     setSelectionMode(QAbstractItemView::SingleSelection);
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setEditTriggers(QAbstractItemView::DoubleClicked);
     setTabKeyNavigation(false);
     setShowGrid(false);
     setAlternatingRowColors(true);
@@ -151,54 +45,278 @@ TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent)
     setWordWrap(false);
     setCornerButtonEnabled(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setDropIndicatorShown(false);
+    setUpHeaders();
+    connect(this, &QTableView::clicked, this, [this](const QModelIndex& cell) {
+        const TableCell shown = rows_->cell(cell);
+        const bool linkMissed =
+            is<LinkCell>(shown) && !delegate_->linkRect(visualRect(cell), font(), cell).contains(released_);
+        if (!is<EditableCell>(shown) && !linkMissed) act(cell);
+    });
+    model.addView(queue, [this] { reload(); });
+    reload();
+}
+
+void TableWidget::setUpHeaders() {
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(cellHeight);
+    verticalHeader()->setMinimumSectionSize(TableView::rowHeight);
+    verticalHeader()->setDefaultSectionSize(TableView::rowHeight);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setSectionsClickable(std::ranges::any_of(model_.columns(), &TableColumn::sorts));
+    horizontalHeader()->setMinimumSectionSize(0);
     horizontalHeader()->setStretchLastSection(true);
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+        if (model_.column(column).sorts) sortBy(column);
+    });
     const QFontMetrics metrics(font());
-    for (int column = 0; column < static_cast<int>(model.columns().size()); ++column) {
-        const TableColumn& shown = columnOf(model, column);
+    for (int column = 0; column < rows_->columnCount(); ++column) {
+        const TableColumn& shown = model_.column(column);
         const int title = metrics.horizontalAdvance(toQString(shown.title));
-        setColumnWidth(column, std::max(shown.width * metrics.averageCharWidth(), title) + 7 * gridStep);
+        const int room = shown.title.empty() ? 4 * gridStep : 7 * gridStep;
+        setColumnWidth(column, std::max(shown.width * metrics.averageCharWidth(), title) + room);
     }
-    connect(this, &QTableView::clicked, this, [this](const QModelIndex& cell) { pressCell(cell); });
-    model.addView(queue, [this] { reload(); });
 }
 
 // The keyboard stays where it was as far as there are rows, also across an empty table.
 void TableWidget::reload() {
     if (currentIndex().isValid()) place_ = {currentIndex().row(), currentIndex().column()};
-    shown_->reload();
+    if (state() == EditingState && !rows_->watchedIsThere()) abandonEditing();
+    rows_->reload();
     shownVersion_ = model_.version();
     if (!currentIndex().isValid() && place_ && shownRows() > 0) {
-        const QModelIndex cell = shown_->index(std::min(place_->first, shownRows() - 1), place_->second);
+        const QModelIndex cell = rows_->index(std::min(place_->first, shownRows() - 1), place_->second);
         selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect);
     }
+    rows_->watch(currentIndex());
+    setDragEnabled(model_.takesDraggedText());
+    setAcceptDrops(model_.takesDraggedText());
     emit rowsChanged();
 }
 
 void TableWidget::setFilter(const QString& text) {
-    shown_->setFilter(text);
+    rows_->setFilter(text);
     emit rowsChanged();
 }
 
-int TableWidget::shownRows() const { return shown_->rowCount({}); }
-int TableWidget::allRows() const { return shown_->sourceModel()->rowCount({}); }
+int TableWidget::shownRows() const { return rows_->rowCount(); }
+int TableWidget::allRows() const { return rows_->allRows(); }
+
+void TableWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    rows_->watch(current);
+}
+
+void TableWidget::act(const QModelIndex& cell) {
+    const TableCell shown = rows_->cell(cell);
+    if (is<ButtonCell>(shown) || is<LinkCell>(shown)) return pressCell(cell);
+    if (is<PopUpCell>(shown)) return openPopUp(cell);
+    if (is<EditableCell>(shown)) edit(cell);
+}
 
 void TableWidget::pressCell(const QModelIndex& cell) {
     // What is pressed is what is shown: rows that have changed since are other stations.
-    if (model_.version() != shownVersion_) return;
-    if (cell.isValid() && columnOf(model_, cell.column()).kind == TableColumn::Kind::button)
-        model_.pressCell(shown_->mapToSource(cell).row(), cell.column());
+    if (rows_->exists(cell) && model_.version() == shownVersion_)
+        model_.pressCell(rows_->tableRow(cell), cell.column());
+}
+
+// The menu may stay open while the table changes: the choice is for the row as it was.
+void TableWidget::openPopUp(const QModelIndex& cell) {
+    const TableCell shown = rows_->cell(cell);
+    const auto* popUp = std::get_if<PopUpCell>(&shown);
+    if (!popUp) return;
+    const int tableRow = rows_->tableRow(cell);
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (const Control* control = model_.cellControl(cell.column())) describe(*menu, *control);
+    for (int entry = 0; entry < static_cast<int>(popUp->entries.size()); ++entry) {
+        const auto choose = [this, tableRow, text = rows_->rowText(tableRow), column = cell.column(), entry] {
+            if (const auto row = rows_->find(text, tableRow)) model_.chooseInCell(*row, column, entry);
+            rows_->watch(currentIndex());
+            viewport()->update();
+        };
+        auto* action = menu->addAction(
+            withoutMnemonic(QString::fromStdString(popUp->entries[static_cast<std::size_t>(entry)])), this, choose);
+        action->setCheckable(true);
+        action->setChecked(entry == popUp->selection);
+        if (entry == popUp->selection) menu->setActiveAction(action);
+    }
+    menu->popup(viewport()->mapToGlobal(visualRect(cell).topLeft()), menu->activeAction());
+}
+
+void TableWidget::pressFirstButton() {
+    for (int column = 0; column < rows_->columnCount(); ++column) {
+        const QModelIndex cell = currentIndex().siblingAtColumn(column);
+        if (is<ButtonCell>(rows_->cell(cell))) return pressCell(cell);
+    }
+}
+
+void TableWidget::sortBy(int column) {
+    finishEditing();
+    model_.pressHeader(column);
+}
+
+// The keyboard goes with the row.
+void TableWidget::moveRow(int tableRow, int gap) {
+    finishEditing();
+    const auto row = model_.drop(TableView::pasteboardText(tableRow), gap);
+    if (row) setCurrentIndex(rows_->index(*row, std::max(0, currentIndex().column())));
+}
+
+void TableWidget::finishEditing() {
+    if (state() != EditingState || !delegate_->editor()) return;
+    commitData(delegate_->editor());
+    closeEditor(delegate_->editor(), QAbstractItemDelegate::NoHint);
+}
+
+void TableWidget::abandonEditing() {
+    if (delegate_->editor()) closeEditor(delegate_->editor(), QAbstractItemDelegate::RevertModelCache);
 }
 
 void TableWidget::keyPressEvent(QKeyEvent* event) {
-    const bool presses =
-        event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
-    if (!presses) return QTableView::keyPressEvent(event);
-    if (!event->isAutoRepeat()) pressCell(currentIndex());
+    const QModelIndex current = currentIndex();
+    const bool alt = event->modifiers() == Qt::AltModifier && current.isValid() && model_.takesDraggedText();
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            if (event->isAutoRepeat()) return;
+            return event->modifiers().testFlag(Qt::ControlModifier) ? pressFirstButton() : act(current);
+        case Qt::Key_Up:
+            return alt ? moveRow(current.row(), current.row() - 1) : QTableView::keyPressEvent(event);
+        case Qt::Key_Down:
+            return alt ? moveRow(current.row(), current.row() + 2) : QTableView::keyPressEvent(event);
+        default:
+            QTableView::keyPressEvent(event);
+    }
+}
+
+void TableWidget::contextMenuEvent(QContextMenuEvent* event) {
+    finishEditing();
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(objectName() + "Menu");
+    menu->setAccessibleName(labelOf(model_));
+    if (currentIndex().isValid()) addRowActions(*menu);
+    for (int column = 0; column < rows_->columnCount(); ++column)
+        if (model_.column(column).sorts)
+            menu->addAction("Sort by " + toQString(model_.column(column).title), this,
+                            [this, column] { sortBy(column); });
+    const bool byKeyboard = event->reason() == QContextMenuEvent::Keyboard;
+    const QPoint cell = viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
+    if (menu->isEmpty()) return menu->deleteLater();
+    menu->popup(byKeyboard && currentIndex().isValid() ? cell : event->globalPos());
+}
+
+// Everything that can be done in the row, each for the row as it was when the menu opened.
+void TableWidget::addRowActions(QMenu& menu) {
+    const int tableRow = rows_->tableRow(currentIndex());
+    const auto inRow = [this, tableRow, text = rows_->rowText(tableRow)](auto act) {
+        return [this, tableRow, text, act] {
+            if (const auto row = rows_->find(text, tableRow)) act(*row);
+        };
+    };
+    for (int column = 0; column < rows_->columnCount(); ++column) {
+        const QModelIndex cell = currentIndex().siblingAtColumn(column);
+        const TableCell shown = rows_->cell(cell);
+        const QString title = toQString(model_.column(column).title);
+        const auto press = inRow([this, column](int row) { model_.pressCell(row, column); });
+        const auto go = [this, place = QPersistentModelIndex(cell)] {
+            setCurrentIndex(place);
+            act(place);
+        };
+        if (const auto* button = std::get_if<ButtonCell>(&shown))
+            menu.addAction(QString::fromStdString(button->label), this, press);
+        else if (is<LinkCell>(shown))
+            menu.addAction("Open " + title + " in the web browser", this, press);
+        else if (is<PopUpCell>(shown))
+            menu.addAction("Choose " + title, this, go);
+        else if (is<EditableCell>(shown))
+            menu.addAction("Edit " + title, this, go);
+    }
+    if (!model_.takesDraggedText()) return;
+    menu.addSeparator();
+    menu.addAction("Move up\tAlt+Up", this, inRow([this](int row) { moveRow(row, row - 1); }));
+    menu.addAction("Move down\tAlt+Down", this, inRow([this](int row) { moveRow(row, row + 2); }));
+    menu.addSeparator();
+}
+
+void TableWidget::mouseMoveEvent(QMouseEvent* event) {
+    QTableView::mouseMoveEvent(event);
+    const QModelIndex cell = indexAt(event->pos());
+    const bool link = cell.isValid() && delegate_->linkRect(visualRect(cell), font(), cell).contains(event->pos());
+    viewport()->setCursor(link ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void TableWidget::mouseReleaseEvent(QMouseEvent* event) {
+    released_ = event->pos();
+    QTableView::mouseReleaseEvent(event);
+}
+
+void TableWidget::startDrag(Qt::DropActions) {
+    const QModelIndex current = currentIndex();
+    if (!current.isValid()) return;
+    auto* drag = new QDrag(this);
+    drag->setMimeData(rows_->mimeData({current}));
+    const QRect row(0, rowViewportPosition(current.row()), viewport()->width(), TableView::rowHeight);
+    drag->setPixmap(viewport()->grab(row));
+    drag->setHotSpot(QPoint(4 * gridStep, TableView::rowHeight / 2));
+    drag->exec(Qt::MoveAction);
+}
+
+// The gap above the row with this number, nearest to the position.
+int TableWidget::gapAt(const QPoint& position) const {
+    const int row = rowAt(position.y());
+    if (row < 0) return position.y() < 0 ? 0 : shownRows();
+    return row + (position.y() - rowViewportPosition(row) > TableView::rowHeight / 2 ? 1 : 0);
+}
+
+void TableWidget::showGap(std::optional<int> gap) {
+    if (gap_ == gap) return;
+    gap_ = gap;
+    viewport()->update();
+}
+
+void TableWidget::dragEnterEvent(QDragEnterEvent* event) {
+    event->ignore();
+    if (!model_.takesDraggedText() || !event->mimeData()->hasText()) return;
+    finishEditing();
+    setState(DraggingState);
+    event->setDropAction(Qt::MoveAction);
+    event->accept();
+}
+
+void TableWidget::dragMoveEvent(QDragMoveEvent* event) {
+    QTableView::dragMoveEvent(event);  // scrolls at the edges
+    if (!model_.takesDraggedText() || !event->mimeData()->hasText()) return event->ignore();
+    showGap(gapAt(event->position().toPoint()));
+    event->setDropAction(Qt::MoveAction);
+    event->accept();
+}
+
+void TableWidget::dragLeaveEvent(QDragLeaveEvent* event) {
+    QTableView::dragLeaveEvent(event);
+    showGap(std::nullopt);
+}
+
+void TableWidget::dropEvent(QDropEvent* event) {
+    stopAutoScroll();
+    setState(NoState);
+    showGap(std::nullopt);
+    finishEditing();
+    const auto row = model_.drop(event->mimeData()->text().toStdString(), gapAt(event->position().toPoint()));
+    if (!row) return event->ignore();
+    setCurrentIndex(rows_->index(*row, std::max(0, currentIndex().column())));
+    event->setDropAction(Qt::MoveAction);
+    event->accept();
+}
+
+void TableWidget::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (!gap_) return;
+    QPainter painter(viewport());
+    const int y = rowViewportPosition(std::max(0, *gap_ - 1)) + (*gap_ > 0 ? TableView::rowHeight : 0);
+    painter.fillRect(QRect(0, std::max(0, y - 1), viewport()->width(), 2), Theme::current().accent);
 }
 
 }  // namespace corvane

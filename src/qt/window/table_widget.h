@@ -1,4 +1,5 @@
-// A table of the window: shows a table model for as long as both live.
+// A table of the window: shows a table model for as long as both live. Everything that the mouse does in it the
+// keyboard does, too.
 #pragma once
 
 #include <QTableView>
@@ -9,7 +10,8 @@
 
 namespace corvane {
 
-class FilteredRows;
+class CellDelegate;
+class TableRows;
 
 class TableWidget : public QTableView {
     Q_OBJECT
@@ -26,17 +28,44 @@ signals:
     void rowsChanged();  // how many there are, or are shown
 
 protected:
-    // Return and Space press the button cell that has the keyboard; Tab leaves the table.
+    // Enter and Space do what a cell is there for: press, open, choose, edit. Ctrl+Enter presses the row's first button,
+    // Alt+Up and Alt+Down move the row; Tab leaves the table.
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+    // Rows are dragged as plain text, their index; a line shows the gap where one would go.
+    void startDrag(Qt::DropActions actions) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
+    void setUpHeaders();
     void reload();
+    void act(const QModelIndex& cell);
     void pressCell(const QModelIndex& cell);
+    void openPopUp(const QModelIndex& cell);
+    void pressFirstButton();
+    void sortBy(int column);
+    void moveRow(int tableRow, int gap);
+    void addRowActions(class QMenu& menu);
+    void finishEditing();
+    void abandonEditing();
+    int gapAt(const QPoint& position) const;
+    void showGap(std::optional<int> gap);
 
     TableView& model_;
-    FilteredRows* shown_;
+    TableRows* rows_;
+    CellDelegate* delegate_;
     int shownVersion_;
     std::optional<std::pair<int, int>> place_;  // row and column that last had the keyboard
+    QPoint released_;                           // where the mouse was let go
+    std::optional<int> gap_;                    // above this row what is dragged would go
 };
 
 }  // namespace corvane

@@ -18,6 +18,7 @@ const Theme darkTheme{
     .text = QColor(0xe9, 0xed, 0xf1),
     .quietText = QColor(0x9d, 0xaa, 0xb7),
     .accent = QColor(0xf5, 0xb9, 0x4f),
+    .link = QColor(0x9c, 0xc3, 0xea),
     .warning = QColor(0x5c, 0x2a, 0x22),
     .blue = QColor(0x2a, 0x72, 0xc4),
     .green = QColor(0x22, 0x80, 0x48),
@@ -40,6 +41,7 @@ const Theme lightTheme{
     .text = QColor(0x1d, 0x21, 0x26),
     .quietText = QColor(0x5a, 0x61, 0x69),
     .accent = QColor(0x95, 0x52, 0x00),
+    .link = QColor(0x1d, 0x5a, 0x99),
     .warning = QColor(0xf6, 0xd9, 0xd2),
     .blue = QColor(0x1f, 0x6f, 0xc4),
     .green = QColor(0x1f, 0x85, 0x49),
@@ -112,7 +114,7 @@ QPalette Theme::palette() const {
     colors.setColor(QPalette::PlaceholderText, quietText);
     colors.setColor(QPalette::Highlight, accent);
     colors.setColor(QPalette::HighlightedText, readableOn(accent));
-    colors.setColor(QPalette::Link, accent);
+    colors.setColor(QPalette::Link, link);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         colors.setColor(QPalette::Disabled, role, mixed(quietText, panel, 0.35));
     return colors;
@@ -139,8 +141,10 @@ QString Theme::styleSheet() const {
                "QPlainTextEdit { background: %5; color: %3; border: 1px solid %1; border-radius: 5px; padding: 4px; }"
                "QTableView { background: %6; alternate-background-color: %7; color: %3; border: 1px solid %1;"
                " border-radius: 5px; selection-background-color: %5; selection-color: %3; }"
+               "QTableView QLineEdit { padding: 0 6px; min-height: 0; border: 1px solid %4; border-radius: 3px; }"
                "QPushButton[menu=\"true\"] { background: %5; color: %3; border: 1px solid %1; border-radius: 6px;"
                " padding: 5px 10px; }"
+               "QTableView QLineEdit { padding: 0 6px; min-height: 0; border: 1px solid %4; border-radius: 3px; }"
                "QPushButton[menu=\"true\"]:focus { border: 2px solid %4; padding: 4px 9px; }"
                "QTableView:focus { border: 1px solid %4; }"
                "QHeaderView::section { background: %6; color: %2; border: 0; border-bottom: 1px solid %1;"

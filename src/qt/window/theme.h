@@ -23,6 +23,7 @@ struct Theme {
     QColor text;       // what is read
     QColor quietText;  // labels, units, what is not active; still readable on panel and window
     QColor accent;     // the one accent: focus, the active digits, the meter
+    QColor link;       // a text that leads elsewhere
     QColor warning;    // behind a message that something went wrong
     // What the named colours of the controls are here; white or black text is readable on each.
     QColor blue, green, orange, red, purple, pink, brown, gray, darkGray;

@@ -67,12 +67,12 @@ TEST(MemoryRead, AsksForEveryChannelInOrderAndFillsTableAndPopUp) {
     ASSERT_EQ(shown.rows(), 99);
     const auto row = [&](int index) {
         Writes cells;
-        for (int column = 0; column < 4; ++column) cells.push_back(shown.cell(index, column));
+        for (int column = 1; column < 5; ++column) cells.push_back(shown.cell(index, column));
         return cells;
     };
     EXPECT_THAT(row(0), ElementsAre("M-01", "14.250000", "USB", "CALLING     "));
     EXPECT_THAT(row(2), ElementsAre("M-03", "7.074000", "DATA-U", "40M FT8, QRP"));
-    EXPECT_THAT(row(98), ElementsAre("M-99", "", "", " "));
+    EXPECT_THAT(row(98), ElementsAre("M-99", "", "\u2013", " "));
 }
 
 TEST(MemoryRead, ShowsHowFarItHasComeAndWhenItHasStopped) {

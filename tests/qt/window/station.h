@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "app/app_delegate.h"
 #include "controller/serial_port_demo_controller.h"
 #include "event_loop.h"
 #include "qt/platform/qt_platform.h"
@@ -21,6 +22,7 @@ public:
     explicit Station(double schedulerSpeed = speed) : schedulerSpeed_(schedulerSpeed) {
         for (const char* preference : {"voice", "sounds"}) platform.settings.setText(preference, "0");
         controller.awakeFromNib();
+        AppDelegate(display).applicationDidFinishLaunching();
         window.show();
         QApplication::setActiveWindow(&window);
     }

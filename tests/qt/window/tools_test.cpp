@@ -148,8 +148,8 @@ TEST(ToolsTest, AWholeReadAsksForEveryChannelInOrder) {
     ASSERT_TRUE(station.memoriesRead());
     EXPECT_EQ(station.radio.takeReceived(), wholeRead());
     const auto* table = station.find<QTableView>("memoriesTable");
-    EXPECT_EQ(table->model()->index(4, 1).data().toString(), "14.050000");
-    EXPECT_EQ(table->model()->index(4, 2).data(Qt::AccessibleTextRole).toString(), "Mode, CW-U");
+    EXPECT_EQ(table->model()->index(4, 2).data().toString(), "14.050000");
+    EXPECT_EQ(table->model()->index(4, 3).data(Qt::AccessibleTextRole).toString(), "Mode, CW-U, pop-up menu");
 }
 
 // Silence, a storm of errors, and a plug pulled in the middle: the next read works.
