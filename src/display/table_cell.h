@@ -11,6 +11,7 @@ namespace corvane {
 
 struct TextCell {
     std::string text;
+    bool quiet = false;  // names something that holds nothing
 
     bool operator==(const TextCell&) const = default;
 };

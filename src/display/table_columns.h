@@ -23,8 +23,10 @@ static_assert(memoriesTableColumns[memoryModeColumn].identifier == "mode");
 static_assert(memoriesTableColumns[memoryTagColumn].identifier == "memTag");
 
 inline constexpr std::array autoMemTableColumns{
-    TableColumn{"tune", "Tune", 8},     TableColumn{"freq", "Frequency (Hz)", 16, TableColumn::Alignment::right},
-    TableColumn{"mode", "Mode", 12},    TableColumn{"clear", "Clear", 8},
+    TableColumn{"tune", "Tune", 8, TableColumn::Alignment::center},
+    TableColumn{"freq", "Frequency (Hz)", 16, TableColumn::Alignment::right},
+    TableColumn{"mode", "Mode", 12},
+    TableColumn{"clear", "Clear", 8, TableColumn::Alignment::center},
     TableColumn{"notes1", "Notes", 16},
 };
 inline constexpr int autoMemTableNotesColumn = 4;
@@ -32,18 +34,18 @@ static_assert(autoMemTableColumns[autoMemTableNotesColumn].identifier == "notes1
 
 // Of the on-line lists.
 inline constexpr std::array potaTableColumns{
-    TableColumn{"tune", "Tune", 8},
+    TableColumn{"tune", "Tune", 8, TableColumn::Alignment::center},
     TableColumn{"activator", "Activator", 12},
     TableColumn{"frequency", "kHz", 10, TableColumn::Alignment::right},
     TableColumn{"mode", "Mode", 7},
     TableColumn{"reference", "Park", 10, TableColumn::Alignment::center},
     TableColumn{"name", "Name", 34},
     TableColumn{"location", "Location", 12},
-    TableColumn{"last", "Age", 9},
+    TableColumn{"last", "Age", 9, TableColumn::Alignment::right},
     TableColumn{"comment", "Comment", 24},
 };
 inline constexpr std::array sotaTableColumns{
-    TableColumn{"tune2", "Tune", 8},
+    TableColumn{"tune2", "Tune", 8, TableColumn::Alignment::center},
     TableColumn{"activator2", "Activator", 12},
     TableColumn{"activatorName", "Operator", 14},
     TableColumn{"frequency2", "kHz", 10, TableColumn::Alignment::right},
@@ -51,32 +53,30 @@ inline constexpr std::array sotaTableColumns{
     TableColumn{"name2", "Summit", 26},
     TableColumn{"location2", "Height", 10},
     TableColumn{"reference2", "Points", 10},
-    TableColumn{"last2", "Age", 9},
+    TableColumn{"last2", "Age", 9, TableColumn::Alignment::right},
     TableColumn{"comment2", "Comment", 24},
 };
 inline constexpr std::array netLoggerTableColumns{
-    TableColumn{"tune", "Tune", 8},
+    TableColumn{"tune", "Tune", 8, TableColumn::Alignment::center},
     TableColumn{"netName", "Net", 40},
     TableColumn{"freq", "kHz", 12, TableColumn::Alignment::right},
     TableColumn{"mode2", "Mode", 8},
-    TableColumn{"checkIns", "Subscribers", 12},
+    TableColumn{"checkIns", "Subscribers", 12, TableColumn::Alignment::right},
 };
 inline constexpr std::array netsTableColumns{
-    TableColumn{"tune3", "Tune", 8},
+    TableColumn{"tune3", "Tune", 8, TableColumn::Alignment::center},
     TableColumn{"netName", "Net", 36},
     TableColumn{"freq", "MHz", 10, TableColumn::Alignment::right},
     TableColumn{"utc", "UTC", 10},
     TableColumn{"mode", "Mode", 8},
     TableColumn{"confirmed", "Confirmed", 12},
-    TableColumn{"confirm", "Confirm", 10},
-    TableColumn{"unconfirm", "Retract", 10},
+    TableColumn{"confirm", "Confirm", 10, TableColumn::Alignment::center},
+    TableColumn{"unconfirm", "Retract", 10, TableColumn::Alignment::center},
 };
 inline constexpr std::array mwTableColumns{
-    TableColumn{"tune3", "Tune", 8},
-    TableColumn{"station", "Station", 30},
-    TableColumn{"freq", "kHz", 10, TableColumn::Alignment::right},
-    TableColumn{"city", "City", 26},
-    TableColumn{"power", "Power", 12},
+    TableColumn{"tune3", "Tune", 8, TableColumn::Alignment::center},  TableColumn{"station", "Station", 30},
+    TableColumn{"freq", "kHz", 10, TableColumn::Alignment::right},    TableColumn{"city", "City", 26},
+    TableColumn{"power", "Power", 12, TableColumn::Alignment::right},
 };
 
 inline constexpr int memoryReadSteps = 200;  // answers that a read of all memory channels waits for

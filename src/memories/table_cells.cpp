@@ -1,6 +1,7 @@
 #include "memories/table_cells.h"
 
 #include "display/table_columns.h"
+#include "memories/memory_commands.h"
 #include "radio/cat_command.h"
 #include "radio/decimal_number.h"
 #include "radio/tuning_range.h"
@@ -30,7 +31,7 @@ TableCell memoriesTableCell(const MemoryTable& table, std::span<const std::strin
         case 0:
             return HandleCell{};
         case 1:
-            return TextCell{"M-" + zeroPadded(row + 1, 2)};
+            return TextCell{"M-" + zeroPadded(row + 1, 2), !isProgrammed(channel)};
         case memoryFrequencyColumn:
             return EditableCell{shownMemoryFrequency(channel.frequency)};
         case memoryModeColumn:

@@ -14,8 +14,8 @@ namespace corvane {
 
 namespace {
 
-constexpr int margin = 2 * gridStep;  // at both ends of a cell
-constexpr int chevron = 7;            // width of the mark of a pop-up
+constexpr int margin = 10;  // at both ends of a cell, as of a header
+constexpr int chevron = 7;  // width of the mark of a pop-up
 constexpr auto rowTextProperty = "rowText";
 
 QRect textRect(const QRect& cell) { return cell.adjusted(margin, 0, -margin, 0); }
@@ -35,7 +35,7 @@ struct Painting {
     }
 
     void operator()(const TextCell& shown) const {
-        text(QString::fromStdString(shown.text), textRect(cell), theme.text);
+        text(QString::fromStdString(shown.text), textRect(cell), shown.quiet ? theme.quietText : theme.text);
     }
     void operator()(const EditableCell& shown) const {
         text(QString::fromStdString(shown.text), textRect(cell), theme.text);
@@ -48,7 +48,7 @@ struct Painting {
     }
     void operator()(const ButtonCell& shown) const {
         painter.setPen(QPen(hovered ? theme.accent : theme.line, 1));
-        painter.setBrush(hovered ? theme.keyHover : Qt::NoBrush);
+        painter.setBrush(hovered ? QBrush(theme.keyHover) : QBrush(Qt::NoBrush));
         painter.drawRoundedRect(QRectF(cell).adjusted(4.5, 3.5, -4.5, -3.5), 5, 5);
         painter.setPen(theme.text);
         painter.drawText(cell, Qt::AlignCenter, QString::fromStdString(shown.title));

@@ -176,22 +176,30 @@ void TableWidget::abandonEditing() {
 void TableWidget::keyPressEvent(QKeyEvent* event) {
     const QModelIndex current = currentIndex();
     const bool alt = event->modifiers() == Qt::AltModifier && current.isValid() && model_.takesDraggedText();
+    const bool shift = event->modifiers() == Qt::ShiftModifier;
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:
-            if (event->isAutoRepeat()) return;
+            // An open editor takes the key for itself and commits a moment later.
+            if (event->isAutoRepeat() || state() == EditingState) return;
             return event->modifiers().testFlag(Qt::ControlModifier) ? pressFirstButton() : act(current);
         case Qt::Key_Up:
             return alt ? moveRow(current.row(), current.row() - 1) : QTableView::keyPressEvent(event);
         case Qt::Key_Down:
             return alt ? moveRow(current.row(), current.row() + 2) : QTableView::keyPressEvent(event);
+        case Qt::Key_F10:
+            return shift ? openMenu(QPoint()) : QTableView::keyPressEvent(event);
         default:
             QTableView::keyPressEvent(event);
     }
 }
 
 void TableWidget::contextMenuEvent(QContextMenuEvent* event) {
+    openMenu(event->reason() == QContextMenuEvent::Keyboard ? QPoint() : event->globalPos());
+}
+
+void TableWidget::openMenu(QPoint position) {
     finishEditing();
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -202,10 +210,9 @@ void TableWidget::contextMenuEvent(QContextMenuEvent* event) {
         if (model_.column(column).sorts)
             menu->addAction("Sort by " + toQString(model_.column(column).title), this,
                             [this, column] { sortBy(column); });
-    const bool byKeyboard = event->reason() == QContextMenuEvent::Keyboard;
-    const QPoint cell = viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
     if (menu->isEmpty()) return menu->deleteLater();
-    menu->popup(byKeyboard && currentIndex().isValid() ? cell : event->globalPos());
+    if (position.isNull()) position = viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
+    menu->popup(position);
 }
 
 // Everything that can be done in the row, each for the row as it was when the menu opened.

@@ -28,8 +28,8 @@ signals:
     void rowsChanged();  // how many there are, or are shown
 
 protected:
-    // Enter and Space do what a cell is there for: press, open, choose, edit. Ctrl+Enter presses the row's first button,
-    // Alt+Up and Alt+Down move the row; Tab leaves the table.
+    // Enter and Space do what a cell is there for: press, open, choose, edit. Ctrl+Enter presses the row's first
+    // button, Alt+Up and Alt+Down move the row; Tab leaves the table.
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -51,6 +51,7 @@ private:
     void pressCell(const QModelIndex& cell);
     void openPopUp(const QModelIndex& cell);
     void pressFirstButton();
+    void openMenu(QPoint position);  // at the cell that has the keyboard when the position is null
     void sortBy(int column);
     void moveRow(int tableRow, int gap);
     void addRowActions(class QMenu& menu);
