@@ -27,26 +27,23 @@ struct ListFeed {
     TextField Display::*status;
     std::string_view noun;  // what the rows are: "spots", of which one is a "spot"
     FeedTable cells;
-    Button Display::*tuneButton;
 };
 
 // In the order in which they are fetched at the start.
 inline constexpr std::array listFeeds{
     ListFeed{Feed::pota, &ServiceHosts::pota, "/spot/activator", false, decodePotaSpots, &FeedState::vqPotaArray,
-             &Display::potaTable, &Display::potaStatusField, "spots", FeedTable::pota, &Display::potaTableTuneButton},
+             &Display::potaTable, &Display::potaStatusField, "spots", FeedTable::pota},
     ListFeed{Feed::netLogger, &ServiceHosts::netLogger, "/api/GetActiveNets.php", false,
              [](std::string_view body, Instant) { return decodeNetLoggerNets(body); }, &FeedState::vqNetLoggerArray,
-             &Display::netLoggerTable, &Display::netLoggerStatusField, "nets", FeedTable::netLogger,
-             &Display::netLoggerTableTuneButton},
+             &Display::netLoggerTable, &Display::netLoggerStatusField, "nets", FeedTable::netLogger},
     ListFeed{Feed::sota, &ServiceHosts::sota, "/api/spots/-3/all", false, decodeSotaSpots, &FeedState::vqSotaArray,
-             &Display::sotaTable, &Display::sotaStatusField, "spots", FeedTable::sota, &Display::sotaTableTuneButton},
+             &Display::sotaTable, &Display::sotaStatusField, "spots", FeedTable::sota},
     ListFeed{Feed::nets, &ServiceHosts::directory, "/nets.php", true,
              [](std::string_view body, Instant) { return decodeNets(body); }, &FeedState::vqNetsArray,
-             &Display::netsTable, &Display::netsStatusField, "nets", FeedTable::nets, &Display::netsTableTuneButton},
+             &Display::netsTable, &Display::netsStatusField, "nets", FeedTable::nets},
     ListFeed{Feed::mediumWave, &ServiceHosts::directory, "/mw.php", true,
              [](std::string_view body, Instant) { return decodeMWStations(body); }, &FeedState::vqMWArray,
-             &Display::mwTable, &Display::mwStatusField, "stations", FeedTable::mediumWave,
-             &Display::mwTableTuneButton},
+             &Display::mwTable, &Display::mwStatusField, "stations", FeedTable::mediumWave},
 };
 
 inline constexpr std::string_view bandConditionsPath = "/solarxml.php";

@@ -8,6 +8,8 @@
 
 #include "display/table_view.h"
 
+class QMenu;
+
 namespace corvane {
 
 class CellDelegate;
@@ -54,7 +56,7 @@ private:
     void openMenu(QPoint position);  // at the cell that has the keyboard when the position is null
     void sortBy(int column);
     void moveRow(int tableRow, int gap);
-    void addRowActions(class QMenu& menu);
+    void addRowActions(QMenu& menu);
     void finishEditing();
     void abandonEditing();
     int gapAt(const QPoint& position) const;

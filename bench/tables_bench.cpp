@@ -1,0 +1,113 @@
+// How a list of ten thousand rows keeps up with hands: painting a screenful, scrolling by a page, a character in the
+// filter, and a new list. Prints milliseconds, the median and the longest of many; ends with 1 when an aim is missed.
+#include <QAbstractItemModel>
+#include <QApplication>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QStyleFactory>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+#include "app/app_delegate.h"
+#include "controller/serial_port_demo_controller.h"
+#include "qt/platform/qt_platform.h"
+#include "qt/window/main_window.h"
+
+namespace corvane {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int rows = 10'000;
+constexpr int samples = 60;
+constexpr double frame = 1000.0 / 60;  // what a hand does not notice
+constexpr double moment = 50;          // what it does not wait for
+
+FeedList manySpots() {
+    FeedList list;
+    for (int row = 0; row < rows; ++row) {
+        const std::string number = std::to_string(row);
+        list.push_back({{"N" + number + "CALL", std::to_string(14'000 + row % 350), row % 3 ? "SSB" : "CW",
+                         "calling CQ, please QRZ on the hour", "State Park and Wildlife Area " + number,
+                         std::to_string(row % 60), "44.3", "-68.2", "US-ME", "US-" + number}});
+    }
+    return list;
+}
+
+bool report(const char* what, double aim, const std::function<void(int sample)>& act) {
+    std::vector<double> times;
+    for (int sample = 0; sample < samples; ++sample) {
+        const auto start = Clock::now();
+        act(sample);
+        times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
+    }
+    std::ranges::sort(times);
+    const bool met = times[samples / 2] <= aim;
+    std::printf("%-28s median %6.2f  longest %6.2f  aim %5.1f ms%s\n", what, times[samples / 2], times.back(), aim,
+                met ? "" : "  MISSED");
+    return met;
+}
+
+int run() {
+    const QTemporaryDir folder;
+    QtPlatformOptions options;
+    options.settingsPath = folder.filePath("corvane.conf");
+    options.dataPath = folder.filePath("data");
+    QtPlatform platform(options);
+    SerialPortDemoController controller(platform.platform(), ServiceHosts::from("http://127.0.0.1:1"));
+    MainWindow window(controller);
+    AppDelegate(controller.display).applicationDidFinishLaunching();
+    window.show();
+    controller.display.mainTab.selectItem(Display::listsPage);
+    QApplication::processEvents();
+    auto* table = window.findChild<QTableView*>("potaTable");
+    auto* filter = window.findChild<QLineEdit*>("potaTableFilter");
+    if (!table || !filter) return 1;
+    controller.feeds.vqPotaArray = manySpots();
+    const auto reload = [&] {
+        controller.display.potaTable.reloadData();
+        QApplication::processEvents();
+    };
+    reload();
+    table->setCurrentIndex(table->model()->index(rows / 2, 0));
+    QApplication::processEvents();
+    const QString typed = "park 12";
+    bool met = true;
+    met &= report("paint a screenful", frame, [&](int) { table->viewport()->repaint(); });
+    met &= report("scroll by a page", frame, [&](int sample) {
+        table->verticalScrollBar()->setValue(100 + 30 * sample);
+        QApplication::processEvents();
+    });
+    met &= report("first character of a filter", moment, [&](int) {
+        filter->clear();
+        controller.display.potaTable.reloadData();
+        QApplication::processEvents();
+        filter->setText("p");
+        QApplication::processEvents();
+    });
+    met &= report("next character of a filter", frame, [&](int sample) {
+        filter->setText(typed.left(1 + sample % typed.size()));
+        QApplication::processEvents();
+    });
+    filter->clear();
+    met &= report("reload", frame, [&](int) { reload(); });
+    met &= report("another list", moment, [&](int sample) {
+        controller.feeds.vqPotaArray[rows / 2].fields[0] = std::to_string(sample);
+        reload();
+    });
+    return met ? 0 : 1;
+}
+
+}  // namespace
+}  // namespace corvane
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    return corvane::run();
+}
