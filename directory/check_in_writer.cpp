@@ -28,21 +28,29 @@ void CheckInWriter::writeInOne(DirectoryStore& store, std::vector<Job>& batch) {
     for (std::size_t i = 0; i < batch.size(); ++i) batch[i].reply(std::move(answers[i]));
 }
 
-// When a shared transaction fails, each goes by itself: one bad apple spoils no others.
-void CheckInWriter::write(Connection& connection, std::vector<Job>& batch) {
-    bool connected = connection != nullptr;
+bool CheckInWriter::connect(Connection& connection) {
     try {
         if (!connection) connection = std::make_unique<DirectoryStore>(location_);
-        connected = true;
+        return true;
+    } catch (const std::exception& error) {
+        log_.line("database", {{"problem", error.what()}});
+        return false;
+    }
+}
+
+// When a shared transaction fails, each goes by itself: one bad apple spoils no others.
+void CheckInWriter::write(Connection& connection, std::vector<Job>& batch) {
+    const auto refuse = [&batch] {
+        for (const Job& job : batch) job.reply(textAnswer(503, "The database does not answer."));
+    };
+    if (!connect(connection)) return refuse();
+    try {
         return writeInOne(*connection, batch);
     } catch (const std::exception& error) {
         log_.line("database", {{"problem", error.what()}, {"writes", batch.size()}});
         connection.reset();
     }
-    if (!connected || batch.size() == 1) {
-        for (const Job& job : batch) job.reply(textAnswer(503, "The database does not answer."));
-        return;
-    }
+    if (batch.size() == 1) return refuse();
     for (Job& job : batch) {
         std::vector<Job> alone{std::move(job)};
         write(connection, alone);

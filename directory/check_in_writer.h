@@ -31,6 +31,7 @@ private:
     };
     using Connection = std::unique_ptr<DirectoryStore>;
 
+    bool connect(Connection& connection);
     void write(Connection& connection, std::vector<Job>& batch);
     void writeInOne(DirectoryStore& store, std::vector<Job>& batch);
     Answer write(DirectoryStore& store, const Job& job);
