@@ -16,7 +16,7 @@
 //   power-off            switching off after a while              controls/automatic_power_off.cpp
 //   keyer                texts on the air                         controls/keyer.cpp
 //   operator class       what may be done on a frequency          controls/operator_class.cpp
-//   memories             the memory channels                      memories/memory_read.cpp, memory_write.cpp
+//   memories             the memory channels                      memories/memory_{read,write,import}.cpp
 //   memory table         editing, moving and sorting its rows     memories/memory_table.cpp
 //   auto memories        frequencies where a signal was heard     memories/auto_memories.cpp
 //   tables               what the seven tables show               controller/tables.cpp
@@ -28,6 +28,7 @@
 
 #include <array>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -49,6 +50,7 @@ namespace corvane {
 
 enum class Feed : int;
 struct BandConditions;
+struct ImportedChannel;
 struct MemoryReply;
 struct MenuGroup;
 struct ModeGroup;
@@ -177,13 +179,15 @@ public:
     // --- operator class: controls/operator_class.cpp
     void showOperatorClass(std::string_view megahertz);  // "14.250000"
 
-    // --- memories: memories/memory_read.cpp, memories/memory_write.cpp
+    // --- memories: memories/memory_read.cpp, memories/memory_write.cpp, memories/memory_import.cpp
     void getMemoriesFromRadio(Button& sender);
     void startMemoryRead();
     void readMemoryReply(std::string_view response);  // "MR001014250000+000000210000"
     void readTagReply(std::string_view response);     // "MT0011CALLING     "
     void askBeforeWriting(Button& sender);
     void writeMemoriesToRadio(Button& sender);
+    bool canTakeChannels() const;
+    void takeImportedChannels(const MemoryTable& shown, std::span<const ImportedChannel> channels);
 
     // --- memory table: memories/memory_table.cpp
     void textEdited(TextField& sender);  // in the cell where the sender is

@@ -164,6 +164,10 @@ public:
                                "Read the 99 memory channels and their tags from the transceiver."}};
     Button writeMemoriesButton{{"writeMemoriesButton", 0, "Write memories\u2026", "Write the memory channels",
                                 "Write all 99 memory channels into the transceiver; empty rows erase theirs."}};
+    Button exportMemoriesButton{{"exportMemoriesButton", 0, "Export\u2026", "Export the memory channels",
+                                 "Save the channels in the table as a CSV file for memory programming tools."}};
+    Button importMemoriesButton{{"importMemoriesButton", 0, "Import\u2026", "Import memory channels",
+                                 "Take channels from a CSV file into the table, after a look at what would change."}};
     TextField memoryReadField{{"memoryReadField", 0, "", "Memory channels", "How far reading the channels has come."}};
     LevelIndicator memoryReadProgress;
     TextField memoryBackupField{{"memoryBackupField", 0, "", "Saved channels",

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <ctime>
 
+#include "memories/csv_text.h"
 #include "memories/memory_commands.h"
 #include "memories/table_cells.h"
 #include "radio/operating_modes.h"
@@ -12,12 +13,9 @@ namespace corvane {
 
 namespace {
 
-std::string quoted(std::string text) {
+std::string withoutBlanksAtEnd(std::string text) {
     text.erase(text.find_last_not_of(' ') + 1);
-    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
-    std::string result = "\"";
-    for (const char c : text) result.append(c == '"' ? "\"\"" : std::string(1, c));
-    return result + '"';
+    return text;
 }
 
 }  // namespace
@@ -28,8 +26,10 @@ std::string memoryTableCsv(const ChannelsAsRead& channels) {
         const MemoryChannel& channel = channels[row].row;
         if (!isProgrammed(channel)) continue;
         const std::string mode(modeName(channel.mode.empty() ? ' ' : channel.mode.front()).value_or(channel.mode));
-        csv += std::to_string(row + 1) + ',' + quoted(channel.tag) + ',' + shownMemoryFrequency(channel.frequency) +
-               ',' + quoted(mode) + ',' + quoted(channels[row].rest) + '\n';
+        csv +=
+            csvLine(std::array{std::to_string(row + 1), withoutBlanksAtEnd(channel.tag),
+                               shownMemoryFrequency(channel.frequency), mode, withoutBlanksAtEnd(channels[row].rest)}) +
+            '\n';
     }
     return csv;
 }

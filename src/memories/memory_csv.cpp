@@ -1,0 +1,220 @@
+#include "memories/memory_csv.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "memories/csv_text.h"
+#include "memories/memory_commands.h"
+#include "memories/memory_mode_names.h"
+#include "memories/table_cells.h"
+#include "radio/cat_command.h"
+#include "radio/operating_modes.h"
+#include "radio/utf8.h"
+#include "radio/wire_text.h"
+
+namespace corvane {
+
+namespace {
+
+enum class Column { location, name, frequency, duplex, tone, mode, comment };
+constexpr std::size_t columnCount = 7;
+
+struct FileColumn {
+    std::string_view title;
+    std::string_view usual;           // what stands in it when there is nothing to say
+    std::optional<Column> read = {};  // what is made of it; columns without one are only written
+};
+
+constexpr std::array fileColumns{
+    FileColumn{"Location", "", Column::location},
+    FileColumn{"Name", "", Column::name},
+    FileColumn{"Frequency", "", Column::frequency},
+    FileColumn{"Duplex", "", Column::duplex},
+    FileColumn{"Offset", "0.000000"},
+    FileColumn{"Tone", "", Column::tone},
+    FileColumn{"rToneFreq", "88.5"},
+    FileColumn{"cToneFreq", "88.5"},
+    FileColumn{"DtcsCode", "023"},
+    FileColumn{"DtcsPolarity", "NN"},
+    FileColumn{"Mode", "", Column::mode},
+    FileColumn{"TStep", "5.00"},
+    FileColumn{"Skip", ""},
+    FileColumn{"Comment", "", Column::comment},
+    FileColumn{"URCALL", ""},
+    FileColumn{"RPT1CALL", ""},
+    FileColumn{"RPT2CALL", ""},
+    FileColumn{"DVCODE", ""},
+};
+constexpr std::string_view lineEnd = "\r\n";
+constexpr std::size_t longestTag = 12;
+constexpr std::size_t longestQuoted = 30;        // characters of a field that is named in a reason
+constexpr int lowestUpperSideBand = 10'000'000;  // Hz
+
+std::string small(std::string_view text) {
+    std::string result(text);
+    for (char& c : result)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    return result;
+}
+
+std::string inQuotes(std::string_view field) {
+    const bool showable = isUtf8(field) && std::ranges::none_of(field, [](char c) { return c >= 0 && c < ' '; });
+    return showable ? '"' + std::string(utf8Prefix(field, longestQuoted)) + '"' : std::string("(unreadable)");
+}
+
+// Which field of a line belongs to a column: the first that bears its title.
+class Header {
+public:
+    explicit Header(const CsvLine& titles) {
+        for (const FileColumn& column : fileColumns) {
+            if (!column.read) continue;
+            const auto title = std::ranges::find(titles.fields, small(column.title),
+                                                 [](const std::string& field) { return small(trimmed(field)); });
+            positions_[static_cast<std::size_t>(*column.read)] =
+                static_cast<std::size_t>(title - titles.fields.begin());
+        }
+        titles_ = titles.fields.size();
+    }
+    bool has(Column column) const { return positions_[static_cast<std::size_t>(column)] < titles_; }
+    // Without white space at both ends; empty where the line is too short.
+    std::string_view field(const CsvLine& line, Column column) const {
+        const std::size_t position = positions_[static_cast<std::size_t>(column)];
+        return has(column) && position < line.fields.size() ? trimmed(line.fields[position]) : std::string_view{};
+    }
+
+private:
+    std::array<std::size_t, columnCount> positions_{};
+    std::size_t titles_ = 0;
+};
+
+// The field of a row: nine digits of hertz; empty for what is no frequency that a channel can have.
+std::string frequencyField(std::string_view megahertz) {
+    // Nine digits without a point would be taken as hertz.
+    std::string text(megahertz);
+    if (text.find('.') == std::string::npos) text += '.';
+    const auto hertz = decimal(without(shownMemoryFrequency(text), "."));
+    return hertz ? zeroPadded(*hertz, 9) : std::string();
+}
+
+// What a tag can hold of a name: ";" would end the command that writes it.
+std::string tagOf(std::string_view name) {
+    std::string tag;
+    for (const char c : name)
+        if (c >= ' ' && c <= '~' && c != ';' && tag.size() < longestTag) tag += c;
+    return tag;
+}
+
+void addNote(std::string& note, const std::string& more) { note += (note.empty() ? "" : "; ") + more; }
+
+// Reads the lines of one file.
+class Importer {
+public:
+    explicit Importer(const Header& header) : header_(header) {}
+
+    MemoryImport result;
+
+    void read(const CsvLine& line) {
+        ImportedChannel imported{line.number, 0, {"", "", ""}, ""};
+        std::string reason = line.quoteLeftOpen ? "a quotation mark is not closed" : readRow(line, imported);
+        if (reason.empty()) reason = readFrequencyAndMode(line, imported);
+        if (!reason.empty()) {
+            result.refused.push_back({line.number, std::move(reason)});
+            return;
+        }
+        lineOf_[static_cast<std::size_t>(imported.row)] = line.number;
+        readName(line, imported);
+        if (const auto duplex = header_.field(line, Column::duplex); !duplex.empty())
+            addNote(imported.note, "the shift " + inQuotes(duplex) + " is left out");
+        if (const auto tone = header_.field(line, Column::tone); !tone.empty())
+            addNote(imported.note, "the tone " + inQuotes(tone) + " is left out");
+        result.channels.push_back(std::move(imported));
+    }
+
+private:
+    std::string readRow(const CsvLine& line, ImportedChannel& imported) const {
+        const std::string_view location = header_.field(line, Column::location);
+        const auto channel = decimal(location);
+        if (!channel || *channel < 1 || *channel > memoryChannels)
+            return "the location " + inQuotes(location) + " is not from 1 to 99";
+        imported.row = *channel - 1;
+        if (const int before = lineOf_[static_cast<std::size_t>(imported.row)]; before != 0)
+            return "location " + std::to_string(*channel) + " stands in line " + std::to_string(before) + " already";
+        return {};
+    }
+    std::string readFrequencyAndMode(const CsvLine& line, ImportedChannel& imported) const {
+        const std::string_view frequency = header_.field(line, Column::frequency);
+        imported.channel.frequency = frequencyField(frequency);
+        if (imported.channel.frequency.empty())
+            return "the frequency " + inQuotes(frequency) + " is not from 0.03 to 75 MHz";
+        const std::string_view mode = header_.field(line, Column::mode);
+        auto code = memoryModeCode(mode, header_.field(line, Column::comment));
+        if (!code && !mode.empty()) return "the mode " + inQuotes(mode) + " is none of the transceiver's";
+        if (!code) {
+            code = decimalOrZero(imported.channel.frequency) < lowestUpperSideBand ? '1' : '2';
+            addNote(imported.note, "no mode: " + std::string(*modeName(*code)) + " is usual there");
+        }
+        imported.channel.mode = std::string(1, *code);
+        return {};
+    }
+    void readName(const CsvLine& line, ImportedChannel& imported) const {
+        const std::string_view name = header_.field(line, Column::name);
+        imported.channel.tag = tagOf(name);
+        if (imported.channel.tag != name)
+            addNote(imported.note, "of the name " + inQuotes(name) + " fit 12 unaccented characters");
+    }
+
+    const Header& header_;
+    std::array<int, memoryChannels> lineOf_{};  // 0: none yet
+};
+
+}  // namespace
+
+std::string memoryCsv(const MemoryTable& channels) {
+    std::vector<std::string> fields;
+    for (const FileColumn& column : fileColumns) fields.emplace_back(column.title);
+    std::string csv = csvLine(fields).append(lineEnd);
+    for (std::size_t row = 0; row < channels.size(); ++row) {
+        const MemoryChannel& channel = channels[row];
+        const std::string frequency = isProgrammed(channel) ? shownMemoryFrequency(channel.frequency) : "";
+        if (frequency.empty()) continue;
+        const auto* name = memoryModeName(channel.mode.size() == 1 ? channel.mode.front() : ' ');
+        for (std::size_t i = 0; i < fileColumns.size(); ++i) {
+            std::string& field = fields[i] = fileColumns[i].usual;
+            const auto column = fileColumns[i].read;
+            if (column == Column::location) field = std::to_string(row + 1);
+            if (column == Column::name) field = trimmed(channel.tag);
+            if (column == Column::frequency) field = frequency;
+            if (column == Column::mode) field = name ? std::string(name->name) : channel.mode;
+            if (column == Column::comment && name && !name->exact) field = *modeName(name->code);
+        }
+        csv.append(csvLine(fields)).append(lineEnd);
+    }
+    return csv;
+}
+
+MemoryImport readMemoryCsv(std::string_view text) {
+    const std::vector<CsvLine> lines = csvLines(text);
+    if (lines.empty()) return {"The file is empty.", {}, {}};
+    const Header header(lines.front());
+    for (const auto& [column, title] : {std::pair{Column::location, "Location"}, {Column::frequency, "Frequency"}})
+        if (!header.has(column)) return {std::string("Its first line has no column \"") + title + "\".", {}, {}};
+    Importer importer(header);
+    for (const CsvLine& line : std::span(lines).subspan(1)) importer.read(line);
+    return std::move(importer.result);
+}
+
+bool sameChannel(const MemoryChannel& left, const MemoryChannel& right) {
+    if (!isProgrammed(left) || !isProgrammed(right)) return isProgrammed(left) == isProgrammed(right);
+    return left.frequency == right.frequency && left.mode == right.mode && trimmed(left.tag) == trimmed(right.tag);
+}
+
+std::string channelInWords(const MemoryChannel& channel) {
+    if (!isProgrammed(channel)) return "empty";
+    std::string words = shownMemoryFrequency(channel.frequency);
+    words.append(" ").append(modeName(channel.mode.size() == 1 ? channel.mode.front() : ' ').value_or("(no mode)"));
+    if (const auto tag = trimmed(channel.tag); !tag.empty()) words.append(" ").append(tag);
+    return words;
+}
+
+}  // namespace corvane

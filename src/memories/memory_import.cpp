@@ -1,0 +1,25 @@
+// Taking memory channels from a file into the table. The transceiver gets them with the next write.
+#include "controller/serial_port_demo_controller.h"
+#include "memories/memory_csv.h"
+
+namespace corvane {
+
+// Replies of a read that is under way would replace what is taken.
+bool SerialPortDemoController::canTakeChannels() const {
+    return !memoryReadProgress(memories).running || !link.serialPort || !link.serialPort->isOpen();
+}
+
+// What was shown may have changed by the time of the answer.
+void SerialPortDemoController::takeImportedChannels(const MemoryTable& shown,
+                                                    std::span<const ImportedChannel> channels) {
+    if (!canTakeChannels() || memories.vqMemArray != shown)
+        return showWarning("Nothing was imported: the channels have changed meanwhile", "Import the file again.");
+    for (const ImportedChannel& imported : channels)
+        memories.vqMemArray.at(static_cast<std::size_t>(imported.row)) = imported.channel;
+    display.memoriesTable.reloadData();
+    display.memoryReadField.setStringValue(std::to_string(channels.size()) +
+                                           (channels.size() == 1 ? " channel" : " channels") +
+                                           " imported, not written to the transceiver yet");
+}
+
+}  // namespace corvane
