@@ -1,0 +1,33 @@
+// A file of memory channels, whatever it is; what is taken of it comes back from an export.
+#include <bitset>
+#include <cstdint>
+
+#include "memories/memory_csv.h"
+#include "radio/operating_modes.h"
+#include "radio/wire_text.h"
+
+#define INVARIANT(condition) \
+    if (!(condition)) __builtin_trap()
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace corvane;
+    const MemoryImport import = readMemoryCsv({reinterpret_cast<const char*>(data), size});
+    INVARIANT(import.problem.empty() || (import.channels.empty() && import.refused.empty()));
+    MemoryTable table;
+    std::bitset<memoryChannels> taken;
+    for (const auto& [line, row, channel, note] : import.channels) {
+        INVARIANT(row >= 0 && row < memoryChannels && !taken.test(static_cast<std::size_t>(row)));
+        taken.set(static_cast<std::size_t>(row));
+        const int hertz = decimalOrZero(channel.frequency);
+        INVARIANT(channel.frequency.size() == 9 && hertz >= 30'000 && hertz <= 75'000'000);
+        INVARIANT(channel.mode.size() == 1 && modeName(channel.mode.front()));
+        INVARIANT(channel.tag.size() <= 12 && isAscii(channel.tag) && channel.tag.find(';') == std::string::npos);
+        table[static_cast<std::size_t>(row)] = channel;
+    }
+    const MemoryImport again = readMemoryCsv(memoryCsv(table));
+    INVARIANT(again.refused.empty() && again.channels.size() == import.channels.size());
+    for (const ImportedChannel& imported : again.channels)
+        INVARIANT(sameChannel(imported.channel, table[static_cast<std::size_t>(imported.row)]) &&
+                  imported.note.empty());
+    return 0;
+}
