@@ -24,6 +24,8 @@ Panel* channelsPanel(Display& display, ChangeQueue& queue) {
     auto* keys = row();
     keys->addWidget(new KeyButton(display.readMemoriesButton, queue));
     keys->addWidget(new KeyButton(display.writeMemoriesButton, queue));
+    keys->addWidget(new KeyButton(display.exportMemoriesButton, queue));
+    keys->addWidget(new KeyButton(display.importMemoriesButton, queue));
     panel->content().addLayout(keys);
     panel->content().addWidget(new TextLabel(display.memoryReadField, queue));
     panel->content().addWidget(new ProgressView(display.memoryReadProgress, queue));

@@ -1,0 +1,38 @@
+// What a file of memory channels would change, for the operator to take or leave.
+#pragma once
+
+#include <QDialog>
+#include <vector>
+
+#include "memories/memory_csv.h"
+
+class QLabel;
+class QPushButton;
+class QTableWidget;
+
+namespace corvane {
+
+class MemoryImportPreview : public QDialog {
+    Q_OBJECT
+
+public:
+    // Lists the channels that would not stay as they are in `table`, each with a tick, and the lines that are refused.
+    MemoryImportPreview(MemoryImport import, const MemoryTable& table, QWidget* parent);
+
+    // The channels that are ticked.
+    std::vector<ImportedChannel> chosen() const;
+
+private:
+    QTableWidget* makeChanges(const MemoryTable& table);
+    QTableWidget* makeRefused();
+    QLabel* makeSummary() const;
+    void showChoice();
+
+    MemoryImport import_;
+    std::size_t unchanged_ = 0;
+    std::vector<ImportedChannel> changes_;  // by row of the table that lists them
+    QTableWidget* table_;
+    QPushButton* take_;
+};
+
+}  // namespace corvane
