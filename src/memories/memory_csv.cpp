@@ -125,9 +125,9 @@ public:
         lineOf_[static_cast<std::size_t>(imported.row)] = line.number;
         readName(line, imported);
         if (const auto duplex = header_.field(line, Column::duplex); !duplex.empty())
-            addNote(imported.note, "the shift " + inQuotes(duplex) + " is left out");
+            addNote(imported.note, "without shift " + inQuotes(duplex));
         if (const auto tone = header_.field(line, Column::tone); !tone.empty())
-            addNote(imported.note, "the tone " + inQuotes(tone) + " is left out");
+            addNote(imported.note, "without tone " + inQuotes(tone));
         result.channels.push_back(std::move(imported));
     }
 
@@ -160,8 +160,7 @@ private:
     void readName(const CsvLine& line, ImportedChannel& imported) const {
         const std::string_view name = header_.field(line, Column::name);
         imported.channel.tag = tagOf(name);
-        if (imported.channel.tag != name)
-            addNote(imported.note, "of the name " + inQuotes(name) + " fit 12 unaccented characters");
+        if (imported.channel.tag != name) addNote(imported.note, "shortened from " + inQuotes(name));
     }
 
     const Header& header_;

@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -22,10 +23,26 @@ QString counted(std::size_t count, const QString& noun) {
     return QString::number(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
+// Room in front of a text, so that it stands below its title.
+class RoomyCells final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QString displayText(const QVariant& value, const QLocale&) const override {
+        return QChar(0x2002) + value.toString();
+    }
+};
+
+// The points of the frequencies stand below each other.
+QString aligned(const MemoryChannel& channel) {
+    const QString words = toQString(channelInWords(channel));
+    return words.indexOf('.') == 1 ? QChar(0x2007) + words : words;
+}
+
 QTableWidget* listOf(const QStringList& titles, int rows, const QString& name) {
     auto* list = new QTableWidget(rows, static_cast<int>(titles.size()));
     list->setHorizontalHeaderLabels(titles);
     list->setAccessibleName(name);
+    list->setItemDelegate(new RoomyCells(list));
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->setSelectionBehavior(QAbstractItemView::SelectRows);
     list->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -67,7 +84,7 @@ MemoryImportPreview::MemoryImportPreview(MemoryImport import, const MemoryTable&
     rows->setSpacing(2 * gridStep);
     rows->addWidget(makeSummary());
     table_ = makeChanges(table);
-    rows->addWidget(table_, 3);
+    rows->addWidget(table_, 2);
     if (!import_.refused.empty()) {
         rows->addWidget(new QLabel("Lines that cannot be used:"));
         rows->addWidget(makeRefused(), 1);
@@ -82,7 +99,7 @@ MemoryImportPreview::MemoryImportPreview(MemoryImport import, const MemoryTable&
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(table_, &QTableWidget::itemChanged, this, &MemoryImportPreview::showChoice);
     showChoice();
-    resize(760, 560);
+    resize(860, 600);
 }
 
 QLabel* MemoryImportPreview::makeSummary() const {
@@ -109,8 +126,8 @@ QTableWidget* MemoryImportPreview::makeChanges(const MemoryTable& table) {
         channel->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         channel->setCheckState(Qt::Checked);
         list->setItem(row, 0, channel);
-        setCell(*list, row, 1, toQString(channelInWords(table.at(static_cast<std::size_t>(change.row)))));
-        setCell(*list, row, 2, toQString(channelInWords(change.channel)));
+        setCell(*list, row, 1, aligned(table.at(static_cast<std::size_t>(change.row))));
+        setCell(*list, row, 2, aligned(change.channel));
         setCell(*list, row, 3, toQString(change.note));
     }
     const int width = list->fontMetrics().averageCharWidth();

@@ -129,10 +129,9 @@ TEST(MemoryCsv, TakesWhatItCanAndSaysWhyNotTheRest) {
         {"Location,Name,Frequency,Duplex,Tone,Mode\n"
          "1,THIRTEEN CHAR,7.1,,,LSB\n2,Caf\u00e9;,7.1,,,LSB\n3,A,29.6,-,TSQL,FM\n4,\"open\n5,B,7.1,,,LSB\n",
          {"",
-          {taken(2, 0, {"007100000", "1", "THIRTEEN CHA"},
-                 "of the name \"THIRTEEN CHAR\" fit 12 unaccented characters"),
-           taken(3, 1, {"007100000", "1", "Caf"}, "of the name \"Caf\u00e9;\" fit 12 unaccented characters"),
-           taken(4, 2, {"029600000", "4", "A"}, "the shift \"-\" is left out; the tone \"TSQL\" is left out")},
+          {taken(2, 0, {"007100000", "1", "THIRTEEN CHA"}, "shortened from \"THIRTEEN CHAR\""),
+           taken(3, 1, {"007100000", "1", "Caf"}, "shortened from \"Caf\u00e9;\""),
+           taken(4, 2, {"029600000", "4", "A"}, "without shift \"-\"; without tone \"TSQL\"")},
           {{5, "a quotation mark is not closed"}}}},
     };
     for (const auto& each : cases) {

@@ -93,7 +93,9 @@ TEST(MemoryFilesTest, AnImportChangesWhatIsTickedInItsPreview) {
                         .startsWith("3 channels would change, 1 is as in the file, 2 lines cannot be used."));
         auto* changes = preview->findChild<QTableWidget*>("memoryImportChanges");
         ASSERT_EQ(changes->rowCount(), 3);
-        const auto text = [&](int row, int column) { return changes->item(row, column)->text().toStdString(); };
+        const auto text = [&](int row, int column) {
+            return changes->item(row, column)->text().simplified().toStdString();
+        };
         EXPECT_EQ(text(0, 0), "M-02");
         EXPECT_EQ(text(0, 1), "7.030000 CW-U CW");
         EXPECT_EQ(text(0, 2), "7.031000 CW-L SLOW CW");
