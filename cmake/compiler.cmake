@@ -14,8 +14,11 @@ endif()
 
 find_program(CCACHE ccache)
 if(CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
-    set(ENV{CCACHE_SLOPPINESS} pch_defines,time_macros)
+    # Precompiled headers are made anew by every build folder.
+    set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime ${CCACHE})
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        add_compile_options(-fpch-preprocess)
+    endif()
 endif()
 
 if(CORVANE_SANITIZERS)

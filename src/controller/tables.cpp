@@ -39,7 +39,7 @@ int SerialPortDemoController::numberOfRows(const TableView& table) const {
 
 TableCell SerialPortDemoController::viewFor(const TableView& table, int row, int column) const {
     if (&table == &display.memoriesTable)
-        return memoriesTableCell(memories.vqMemArray, display.memsTableModePopUpButton.entries(), row, column);
+        return memoriesTableCell(memories.vqMemArray, display.memsTableModePopUpButton.titles(), row, column);
     if (&table == &display.autoMemTable) return autoMemTableCell(autoMemories, row, column);
     const ListFeed* feed = feedOf(display, table);
     if (!feed) return {};

@@ -10,7 +10,7 @@ struct Reader {
     std::string operator()(const LinkCell& cell) const { return cell.text; }
     std::string operator()(const ButtonCell& cell) const { return cell.title; }
     std::string operator()(const PopUpCell& cell) const {
-        return cell.entries[static_cast<std::size_t>(cell.selection)];
+        return cell.entries->at(cell.selection);
     }
     std::string operator()(const EditableCell& cell) const { return cell.text; }
 };

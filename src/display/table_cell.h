@@ -1,11 +1,11 @@
 // What stands in a cell of a table, as plain values.
 #pragma once
 
-#include <algorithm>
-#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
+
+#include "display/entry_titles.h"
 
 namespace corvane {
 
@@ -37,11 +37,11 @@ struct ButtonCell {
 };
 
 struct PopUpCell {
-    std::span<const std::string> entries;  // of the pop-up that stands for the column's; they live as long
+    const EntryTitles* entries = nullptr;  // of the pop-up that stands for the column's; they live as long
     int selection = 0;                     // the entry that is shown; there must be one
 
     bool operator==(const PopUpCell& other) const {
-        return selection == other.selection && std::ranges::equal(entries, other.entries);
+        return selection == other.selection && *entries == *other.entries;
     }
 };
 

@@ -55,7 +55,7 @@ void TableView::pressCell(int row, int column) {
 
 void TableView::chooseInCell(int row, int column, int entry) {
     PopUpButton* popUp = exists(row, column) ? controlOf(column).popUp : nullptr;
-    if (!popUp || entry < 0 || entry >= static_cast<int>(popUp->entries().size())) return;
+    if (!popUp || entry < 0 || entry >= popUp->titles().size()) return;
     put(*popUp, {row, column});
     popUp->choose(entry);
 }

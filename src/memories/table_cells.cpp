@@ -25,7 +25,7 @@ int memoryModeEntry(std::string_view field) {
     return entry == std::string_view::npos ? 0 : static_cast<int>(entry);
 }
 
-TableCell memoriesTableCell(const MemoryTable& table, std::span<const std::string> modes, int row, int column) {
+TableCell memoriesTableCell(const MemoryTable& table, const EntryTitles& modes, int row, int column) {
     const MemoryChannel& channel = table[static_cast<std::size_t>(row)];
     switch (column) {
         case 0:
@@ -35,7 +35,7 @@ TableCell memoriesTableCell(const MemoryTable& table, std::span<const std::strin
         case memoryFrequencyColumn:
             return EditableCell{shownMemoryFrequency(channel.frequency)};
         case memoryModeColumn:
-            return PopUpCell{modes, memoryModeEntry(channel.mode)};
+            return PopUpCell{&modes, memoryModeEntry(channel.mode)};
         default:
             return EditableCell{channel.tag};
     }

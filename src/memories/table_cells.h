@@ -1,7 +1,6 @@
 // What the tables of memory channels and auto memories show.
 #pragma once
 
-#include <span>
 #include <string>
 
 #include "display/table_cell.h"
@@ -18,7 +17,7 @@ std::string shownMemoryFrequency(const std::string& field);
 int memoryModeEntry(std::string_view field);
 
 // The rows and columns must exist. `modes` are the entries of the mode pop-up.
-TableCell memoriesTableCell(const MemoryTable& table, std::span<const std::string> modes, int row, int column);
+TableCell memoriesTableCell(const MemoryTable& table, const EntryTitles& modes, int row, int column);
 TableCell autoMemTableCell(const AutoMemoryState& autoMemories, int row, int column);
 
 }  // namespace corvane

@@ -4,7 +4,6 @@
 #include <QAbstractItemModel>
 #include <QTableView>
 
-#include "display/table_columns.h"
 #include "running_service.h"
 #include "station.h"
 
@@ -67,12 +66,12 @@ TEST_F(CheckInOnScreen, ConfirmAndRetractChangeTheRow) {
     const auto confirmed = [&] { return row() < 0 ? "" : text(row(), confirmedColumn); };
     EXPECT_EQ(confirmed(), "no (0)");
 
-    press(row(), netsTableConfirmColumn);
+    press(row(), lists->display.netsTable.columnWithIdentifier("confirm"));
     EXPECT_TRUE(comesToShow([&] { return confirmed() == "yes (1)"; })) << confirmed().toStdString();
     EXPECT_EQ(service->confirm(directory::bob, "intercon"), 200);
     lists->fetchNets();
     EXPECT_TRUE(comesToShow([&] { return confirmed() == "yes (2)"; })) << confirmed().toStdString();
-    press(row(), netsTableUnconfirmColumn);
+    press(row(), lists->display.netsTable.columnWithIdentifier("unconfirm"));
     EXPECT_TRUE(comesToShow([&] { return confirmed() == "no (1)"; })) << confirmed().toStdString();
     EXPECT_TRUE(lists->display.mwStatusField.stringValue().ends_with("stations"));
 }

@@ -129,14 +129,14 @@ void TableWidget::openPopUp(const QModelIndex& cell) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (const Control* control = model_.cellControl(cell.column())) describe(*menu, *control);
-    for (int entry = 0; entry < static_cast<int>(popUp->entries.size()); ++entry) {
+    for (int entry = 0; entry < popUp->entries->size(); ++entry) {
         const auto choose = [this, tableRow, text = rows_->rowText(tableRow), column = cell.column(), entry] {
             if (const auto row = rows_->find(text, tableRow)) model_.chooseInCell(*row, column, entry);
             rows_->watch(currentIndex());
             viewport()->update();
         };
         auto* action = menu->addAction(
-            withoutMnemonic(QString::fromStdString(popUp->entries[static_cast<std::size_t>(entry)])), this, choose);
+            withoutMnemonic(QString::fromStdString(popUp->entries->at(entry))), this, choose);
         action->setCheckable(true);
         action->setChecked(entry == popUp->selection);
         if (entry == popUp->selection) menu->setActiveAction(action);
