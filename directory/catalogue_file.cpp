@@ -90,8 +90,10 @@ CatalogueFile<Entry> read(std::string_view text, const std::array<Column<Entry>,
     CatalogueFile<Entry> file;
     if (text.starts_with("\xef\xbb\xbf")) text.remove_prefix(3);  // spreadsheets like to begin with it
     const CsvLines csv = readCsv(text);
-    if (csv.lines.empty() || csv.lines.front().values != namesOf(columns))
-        file.problems.push_back("line 1: the columns must be " + csvLine(namesOf(columns)));
+    if (csv.lines.empty() || csv.lines.front().values != namesOf(columns)) {
+        const std::string header = csvLine(namesOf(columns));
+        file.problems.push_back("line 1: the columns must be " + header.substr(0, header.size() - 1));
+    }
     std::set<std::string> seen;
     for (std::size_t i = 1; i < csv.lines.size(); ++i) {
         const auto& [number, values] = csv.lines[i];

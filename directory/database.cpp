@@ -57,7 +57,10 @@ Database::Database(const std::string& location) : connection_(connectionTo(locat
         QSqlDatabase::removeDatabase(name);
         fail(error);
     }
-    if (isPostgres()) return;
+    if (isPostgres()) {
+        run("SET client_min_messages TO warning");  // not that a table is there already
+        return;
+    }
     // What has been acknowledged survives a power cut, too: FULL waits for the disk at each commit.
     for (const char* pragma : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL", "PRAGMA foreign_keys=ON"})
         run(pragma);

@@ -94,6 +94,18 @@ TEST_F(HostileRequests, OneAddressMayAskOnlySoOften) {
     EXPECT_THAT(refused.head, HasSubstr("Retry-After: "));
 }
 
+// The last entry is the proxy's; those before it are whatever the client claims.
+TEST_F(HostileRequests, BehindAProxyTheAddressIsTheOneItNames) {
+    const RunningService running(database.location(), 1, true);
+    const auto status = [&](const std::string& addresses) {
+        return ask(running.port(), "GET", "/healthz", "", "X-Forwarded-For: " + addresses + "\r\n").status;
+    };
+    EXPECT_EQ(status("192.0.2.1"), 200);
+    EXPECT_EQ(status("192.0.2.1, 192.0.2.2"), 200);
+    EXPECT_EQ(status("192.0.2.3, 192.0.2.1"), 429);
+    EXPECT_EQ(ask(running.port(), "GET", "/healthz").status, 200);
+}
+
 TEST(RateLimit, FillsUpAgainOverAMinuteForEachHousehold) {
     RateLimit limit(2);
     RateLimit::Time now{};

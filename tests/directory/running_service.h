@@ -28,9 +28,7 @@ public:
     }
     ~TestDatabase() {
         if (server_.empty()) return;
-        Database dropping(server_);
-        dropping.run("SET client_min_messages TO warning");  // not the name of each table that goes
-        dropping.run(("DROP SCHEMA " + schema_ + " CASCADE").c_str());
+        Database(server_).run(("DROP SCHEMA " + schema_ + " CASCADE").c_str());
     }
     TestDatabase(const TestDatabase&) = delete;
     TestDatabase& operator=(const TestDatabase&) = delete;
@@ -102,8 +100,9 @@ inline std::string checkIn(const std::string& key, const std::string& net, int a
 }
 
 struct RunningService {
-    explicit RunningService(const std::string& database, int requestsAMinute = 0) {
-        const DirectoryService::Options options{database, CORVANE_SOURCE "/docs", requestsAMinute, {}};
+    explicit RunningService(const std::string& database, int requestsAMinute = 0, bool behindProxy = false) {
+        DirectoryService::Options options{database, CORVANE_SOURCE "/docs", requestsAMinute, {}};
+        options.server.behindProxy = behindProxy;
         service.emplace(
             options, [this] { return now.load(); }, log);
     }
