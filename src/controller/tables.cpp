@@ -44,11 +44,7 @@ TableCell SerialPortDemoController::viewFor(const TableView& table, int row, int
     const ListFeed* feed = feedOf(display, table);
     if (!feed) return {};
     const FeedRow& listed = (feeds.*feed->list)[static_cast<std::size_t>(row)];
-    const std::string_view shown = table.column(column).identifier;
-    std::string address = feedLink(feed->cells, shown, listed, hosts_);
-    std::string text = feedCell(feed->cells, shown, listed);
-    if (address.empty()) return TextCell{std::move(text)};
-    return LinkCell{std::move(text), std::move(address)};
+    return feedTableCell(feed->cells, table.column(column).identifier, listed, hosts_);
 }
 
 void SerialPortDemoController::openLink(std::string_view address) { platform_.browser.open(address); }

@@ -1,5 +1,7 @@
 #include "display/table_cell.h"
 
+#include <utility>
+
 namespace corvane {
 
 namespace {
@@ -25,6 +27,12 @@ std::string orEmpty(std::string text) {
 }  // namespace
 
 std::string textOf(const TableCell& cell) { return std::visit(Reader{}, cell); }
+
+std::string textOf(TableCell&& cell) {
+    if (auto* text = std::get_if<TextCell>(&cell)) return std::move(text->text);
+    if (auto* link = std::get_if<LinkCell>(&cell)) return std::move(link->text);
+    return std::visit(Reader{}, cell);
+}
 
 std::string spokenTextOf(const TableCell& cell) {
     if (std::holds_alternative<HandleCell>(cell)) return "handle";

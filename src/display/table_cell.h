@@ -56,6 +56,7 @@ using TableCell = std::variant<TextCell, HandleCell, LinkCell, ButtonCell, PopUp
 
 // What is read in the cell: its text, a button's title, a pop-up's chosen entry; nothing for a handle.
 std::string textOf(const TableCell& cell);
+std::string textOf(TableCell&& cell);
 
 // The same in words, with what kind of cell it is: "Tune to this spot, button", "US-0001, link", "USB, pop-up menu",
 // "empty".

@@ -71,6 +71,7 @@ public:
     void setCellControl(std::string_view column, PopUpButton& control) { controlOf(column).popUp = &control; }
     void setCellControl(std::string_view column, TextField& control) { controlOf(column).field = &control; }
     const Control* cellControl(int column) const;
+    bool isButton(int column) const { return controlOf(column).button != nullptr; }
     bool isEditable(int column) const { return controlOf(column).field != nullptr; }
     // The cell in which such a control was used last; nothing for another control.
     std::optional<CellPlace> placeOf(const Control& control) const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "feeds/single_precision.h"
 #include "radio/decimal_number.h"
@@ -12,7 +13,7 @@ namespace corvane {
 
 namespace {
 
-using Show = std::string (*)(const std::string& field);
+using Show = std::string (*)(std::string_view field);
 
 // The web address behind a cell; empty for none.
 using Link = std::string (*)(const FeedRow& row, const ServiceHosts& hosts);
@@ -28,26 +29,26 @@ struct CellRow {
 constexpr std::size_t longestCell = 200;  // characters
 constexpr double mostShown = 1e12;
 
-double shownNumber(const std::string& field) {
+double shownNumber(std::string_view field) {
     const double number = numberOrZero(field);
     return std::abs(number) < mostShown ? number : 0;
 }
 
-std::string asIs(const std::string& field) { return field; }
-std::string kilohertz(const std::string& field) { return withDecimals(shownNumber(field), 1); }
-std::string megahertzInKilohertz(const std::string& field) { return withDecimals(shownNumber(field) * 1000, 1); }
-std::string minutes(const std::string& field) { return field.empty() ? field : field + " min"; }
-std::string kilowatts(const std::string& field) { return field + " kW"; }
+std::string asIs(std::string_view field) { return std::string(field); }
+std::string kilohertz(std::string_view field) { return withDecimals(shownNumber(field), 1); }
+std::string megahertzInKilohertz(std::string_view field) { return withDecimals(shownNumber(field) * 1000, 1); }
+std::string minutes(std::string_view field) { return field.empty() ? std::string() : std::string(field) + " min"; }
+std::string kilowatts(std::string_view field) { return std::string(field) + " kW"; }
 
 template <char const* unknown>
-std::string dashFor(const std::string& field) {
-    return field == unknown ? "--" : field;
+std::string dashFor(std::string_view field) {
+    return std::string(field == unknown ? "--" : field);
 }
 constexpr char unknownActivator[] = "Not recognised";
 constexpr char unknownSummit[] = "Summit not recognised";
 
 // Megahertz or, above 70, kilohertz; shown in kilohertz with one decimal: "14.25" gives "14250.0".
-std::string eitherInKilohertz(const std::string& field) {
+std::string eitherInKilohertz(std::string_view field) {
     const auto number = singlePrecision(field);
     if (!number) return {};
     const double value = shownNumber(field);
@@ -108,16 +109,24 @@ const CellRow* cellRow(FeedTable table, std::string_view column, const FeedRow& 
     return cell == cells.end() || cell->position >= row.fields.size() ? nullptr : &*cell;
 }
 
+std::string shownText(const CellRow& cell, const FeedRow& row) {
+    const std::string& field = row[cell.position];
+    return cell.show(field.size() <= longestCell ? field : utf8Prefix(field, longestCell));
+}
+
 }  // namespace
 
 std::string feedCell(FeedTable table, std::string_view column, const FeedRow& row) {
     const CellRow* cell = cellRow(table, column, row);
-    return cell ? cell->show(std::string(utf8Prefix(row[cell->position], longestCell))) : std::string();
+    return cell ? shownText(*cell, row) : std::string();
 }
 
-std::string feedLink(FeedTable table, std::string_view column, const FeedRow& row, const ServiceHosts& hosts) {
+TableCell feedTableCell(FeedTable table, std::string_view column, const FeedRow& row, const ServiceHosts& hosts) {
     const CellRow* cell = cellRow(table, column, row);
-    return cell && cell->link && !row[cell->position].empty() ? cell->link(row, hosts) : std::string();
+    if (!cell) return {};
+    std::string address = cell->link && !row[cell->position].empty() ? cell->link(row, hosts) : std::string();
+    if (address.empty()) return TextCell{shownText(*cell, row)};
+    return LinkCell{shownText(*cell, row), std::move(address)};
 }
 
 }  // namespace corvane

@@ -120,10 +120,8 @@ QMimeData* TableRows::mimeData(const QModelIndexList& indexes) const {
 
 std::string TableRows::rowText(int tableRow) const {
     std::string text;
-    for (int column = 0; column < columnCount(); ++column) {
-        const TableCell cell = table_.view(tableRow, column);
-        if (!isButton(cell)) text.append(textOf(cell)).append("\n");
-    }
+    for (int column = 0; column < columnCount(); ++column)
+        if (!table_.isButton(column)) text.append(table_.cell(tableRow, column)).append("\n");
     return text;
 }
 
@@ -150,8 +148,10 @@ std::vector<int> TableRows::filteredRows() {
     std::iota(rows.begin(), rows.end(), 0);
     if (words_.isEmpty()) return rows;
     // Folding every cell anew for every character typed is what would be felt.
-    if (filterTexts_.empty())
+    if (filterTexts_.empty()) {
+        filterTexts_.reserve(rows.size());
         for (const int row : rows) filterTexts_.push_back(QString::fromStdString(rowText(row)).toCaseFolded());
+    }
     std::erase_if(rows, [this](int row) { return !passes(row); });
     return rows;
 }
