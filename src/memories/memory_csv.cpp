@@ -6,9 +6,9 @@
 
 #include "memories/csv_text.h"
 #include "memories/memory_commands.h"
+#include "memories/memory_entry.h"
 #include "memories/memory_mode_names.h"
 #include "memories/table_cells.h"
-#include "radio/cat_command.h"
 #include "radio/operating_modes.h"
 #include "radio/utf8.h"
 #include "radio/wire_text.h"
@@ -47,7 +47,6 @@ constexpr std::array fileColumns{
     FileColumn{"DVCODE", ""},
 };
 constexpr std::string_view lineEnd = "\r\n";
-constexpr std::size_t longestTag = 12;
 constexpr std::size_t longestQuoted = 30;        // characters of a field that is named in a reason
 constexpr int lowestUpperSideBand = 10'000'000;  // Hz
 
@@ -88,21 +87,13 @@ private:
     std::size_t titles_ = 0;
 };
 
-// The field of a row: nine digits of hertz; empty for what is no frequency that a channel can have.
-std::string frequencyField(std::string_view megahertz) {
-    // Nine digits without a point would be taken as hertz.
-    std::string text(megahertz);
-    if (text.find('.') == std::string::npos) text += '.';
-    const auto hertz = decimal(without(shownMemoryFrequency(text), "."));
-    return hertz ? zeroPadded(*hertz, 9) : std::string();
-}
-
-// What a tag can hold of a name: ";" would end the command that writes it.
+// As if it had been typed; of a name in another coding its ASCII characters.
 std::string tagOf(std::string_view name) {
-    std::string tag;
+    const bool text = isUtf8(name);
+    std::string printable;
     for (const char c : name)
-        if (c >= ' ' && c <= '~' && c != ';' && tag.size() < longestTag) tag += c;
-    return tag;
+        if ((c >= ' ' && c <= '~') || (text && !isAscii({&c, 1}))) printable += c;
+    return memoryTag(printable);
 }
 
 void addNote(std::string& note, const std::string& more) { note += (note.empty() ? "" : "; ") + more; }
@@ -144,7 +135,7 @@ private:
     }
     std::string readFrequencyAndMode(const CsvLine& line, ImportedChannel& imported) const {
         const std::string_view frequency = header_.field(line, Column::frequency);
-        imported.channel.frequency = frequencyField(frequency);
+        imported.channel.frequency = memoryFrequencyEntry(frequency).field;
         if (imported.channel.frequency.empty())
             return "the frequency " + inQuotes(frequency) + " is not from 0.03 to 75 MHz";
         const std::string_view mode = header_.field(line, Column::mode);

@@ -1,12 +1,13 @@
 // Taking memory channels from a file into the table. The transceiver gets them with the next write.
 #include "controller/serial_port_demo_controller.h"
+#include "display/table_columns.h"
 #include "memories/memory_csv.h"
 
 namespace corvane {
 
 // Replies of a read that is under way would replace what is taken.
 bool SerialPortDemoController::canTakeChannels() const {
-    return !memoryReadProgress(memories).running || !link.serialPort || !link.serialPort->isOpen();
+    return !repliesAreComing(memories);
 }
 
 // What was shown may have changed by the time of the answer.
@@ -16,6 +17,7 @@ void SerialPortDemoController::takeImportedChannels(const MemoryTable& shown,
         return showWarning("Nothing was imported: the channels have changed meanwhile", "Import the file again.");
     for (const ImportedChannel& imported : channels)
         memories.vqMemArray.at(static_cast<std::size_t>(imported.row)) = imported.channel;
+    display.memoriesTable.setSortDescriptorPrototype(memoryFrequencyColumn, {});
     display.memoriesTable.reloadData();
     display.memoryReadField.setStringValue(std::to_string(channels.size()) +
                                            (channels.size() == 1 ? " channel" : " channels") +
