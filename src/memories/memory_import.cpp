@@ -6,9 +6,7 @@
 namespace corvane {
 
 // Replies of a read that is under way would replace what is taken.
-bool SerialPortDemoController::canTakeChannels() const {
-    return !repliesAreComing(memories);
-}
+bool SerialPortDemoController::canTakeChannels() const { return !repliesAreComing(memories); }
 
 // What was shown may have changed by the time of the answer.
 void SerialPortDemoController::takeImportedChannels(const MemoryTable& shown,
