@@ -24,10 +24,10 @@ namespace {
 
 // A service that dies while we write to it must not take the program along.
 void ignoreBrokenPipes() {
-    sigset_t signals;
-    sigemptyset(&signals);
-    sigaddset(&signals, SIGPIPE);
-    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    sigset_t blocked;
+    sigemptyset(&blocked);
+    sigaddset(&blocked, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &blocked, nullptr);
 }
 
 }  // namespace
