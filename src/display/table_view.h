@@ -17,7 +17,7 @@ struct TableColumn {
 
     std::string_view identifier;  // e.g. "memChan"
     std::string_view title;       // above the column
-    int width;                    // in characters; the last column takes what is left
+    int width;                    // in characters; one column takes what is left
     Alignment alignment = Alignment::left;
     bool sorts = false;  // whether a press of the header sorts the rows
 };

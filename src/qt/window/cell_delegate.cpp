@@ -147,7 +147,8 @@ bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
         if (option.fontMetrics.horizontalAdvance(text) <= textRect(option.rect).width()) return false;
     }
     // Texts of the services are no mark-up.
-    QToolTip::showText(event->globalPos(), "<p>" + text.toHtmlEscaped() + "</p>", view->viewport());
+    const QString style = std::holds_alternative<LinkCell>(shown) ? " style='white-space:nowrap'" : "";
+    QToolTip::showText(event->globalPos(), "<p" + style + ">" + text.toHtmlEscaped() + "</p>", view->viewport());
     return true;
 }
 

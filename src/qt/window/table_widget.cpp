@@ -65,7 +65,6 @@ void TableWidget::setUpHeaders() {
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(std::ranges::any_of(model_.columns(), &TableColumn::sorts));
     horizontalHeader()->setMinimumSectionSize(0);
-    horizontalHeader()->setStretchLastSection(true);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
         if (model_.column(column).sorts) sortBy(column);
     });
@@ -76,6 +75,11 @@ void TableWidget::setUpHeaders() {
         const int room = shown.title.empty() ? 4 * gridStep : 7 * gridStep;
         setColumnWidth(column, std::max(shown.width * metrics.averageCharWidth(), title) + room);
     }
+    // A key as wide as half the window, or a number far from its row, is no help: then the longest text gets the room.
+    const auto columns = model_.columns();
+    const bool last = columns.back().alignment == TableColumn::Alignment::left;
+    const auto longest = last ? columns.end() - 1 : std::ranges::max_element(columns, {}, &TableColumn::width);
+    horizontalHeader()->setSectionResizeMode(static_cast<int>(longest - columns.begin()), QHeaderView::Stretch);
 }
 
 // The keyboard stays where it was as far as there are rows, also across an empty table.
