@@ -1,5 +1,5 @@
 // The help page tells of what the window has.
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <fstream>
 #include <iterator>
@@ -9,15 +9,13 @@
 namespace corvane {
 namespace {
 
-using testing::HasSubstr;
-
 TEST(HelpPage, HasEveryShortcut) {
     std::ifstream stream(CORVANE_SOURCE "/docs/help.html");
     const std::string page{std::istreambuf_iterator<char>(stream), {}};
     Display display;
     for (const ShortcutText& shortcut : shortcutTexts(display)) {
         const QString row = "<td><kbd>" + shortcut.keys + "</kbd></td><td>" + shortcut.meaning;
-        EXPECT_THAT(page, HasSubstr(row.toStdString()));
+        EXPECT_NE(page.find(row.toStdString()), std::string::npos) << row.toStdString();
     }
 }
 
