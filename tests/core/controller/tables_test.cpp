@@ -11,7 +11,6 @@ namespace corvane {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 struct ListBench : TestBench {
     ListBench() {

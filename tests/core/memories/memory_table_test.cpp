@@ -255,7 +255,7 @@ TEST(MemoryTable, SortingIsStableWhateverTheRowsHold) {
             sortByFrequency(sorted = table, before);
             std::vector<int> withoutFrequency;
             for (const MemoryChannel& row : sorted)
-                if (row.frequency == "" || row.frequency == " " || row.frequency == "nan")
+                if (row.frequency.empty() || row.frequency == " " || row.frequency == "nan")
                     withoutFrequency.push_back(std::stoi(row.mode));
             EXPECT_TRUE(std::ranges::is_sorted(withoutFrequency));
         }
