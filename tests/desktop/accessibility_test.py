@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """Operates Corvane as a screen reader does: by roles, names and actions on the accessibility bus.
 
-Connects to the simulated transceiver, goes to 40 meters and to 20 meters, and reads VFO A each time.
+Connects to the simulated transceiver, goes to 40 meters and to 20 meters, and reads VFO A each time. Then reads the memory
+channels, renames channel 3 in its row, writes the channels into the transceiver and reads them back.
 """
 
 import sys
@@ -96,6 +97,53 @@ def go_to_band(root, name, vfo_start):
     return vfo.get_name()
 
 
+def showing(root, name, role):
+    return find(
+        root,
+        lambda each: each.get_role() == role
+        and each.get_name() == name
+        and each.get_state_set().contains(Atspi.StateType.SHOWING),
+    )
+
+
+def keys(*symbols):
+    for symbol in symbols:
+        Atspi.generate_keyboard_event(symbol, None, Atspi.KeySynthType.SYM)
+        time.sleep(0.1)  # the events carry no answer to wait for
+
+
+TAB, ENTER, HOME, END, DOWN = 0xFF09, 0xFF0D, 0xFF50, 0xFF57, 0xFF54
+CHANNEL, NAME_COLUMN = 3, 4
+
+
+def name_of_channel(root):
+    table = showing(root, "Memory channels", Atspi.Role.TABLE)
+    return Atspi.Table.get_accessible_at(table, CHANNEL - 1, NAME_COLUMN).get_name() if table else ""
+
+
+def read_channels(root):
+    press(until("the key that reads", lambda: control(root, "Read the memory channels")))
+    until("a read under way", lambda: find(root, lambda each: each.get_name().startswith("Memory channels, Reading")))
+    until("the end of the read", lambda: find(root, lambda each: each.get_name().startswith("Memory channels, Read:")))
+    return name_of_channel(root)
+
+
+def rename_channel(root, name):
+    press(until("the page of memories", lambda: showing(root, "Memories", Atspi.Role.PAGE_TAB)))
+    before = read_channels(root)
+    Atspi.Component.grab_focus(until("the key before the table", lambda: control(root, "Import memory channels")))
+    keys(TAB, HOME, *[DOWN] * (CHANNEL - 1), END, ENTER)
+    keys(*[ord(letter) for letter in name], ENTER)
+    renamed = "Memory Name, " + name
+    until("the new name in the row", lambda: name_of_channel(root) == renamed)
+    press(control(root, "Write the memory channels"))
+    press(until("the question", lambda: showing(root, "Write", Atspi.Role.PUSH_BUTTON)))
+    until("the end of the question", lambda: not showing(root, "Write", Atspi.Role.PUSH_BUTTON))
+    if read_channels(root) != renamed:
+        sys.exit(f"accessibility: FAILED: channel {CHANNEL} came back as {name_of_channel(root)!r}")
+    return before, renamed
+
+
 def main():
     root = until("the program on the accessibility bus", program)
     port = until("the list of ports", lambda: labelled(root, "Port", Atspi.Role.COMBO_BOX))
@@ -106,6 +154,7 @@ def main():
     until("the synchronisation", lambda: find(root, lambda each: each.get_name().startswith("VFO A, 14.")))
     until("the link in words", lambda: find(root, lambda each: each.get_name() == "Link, Simulated transceiver: connected"))
     heard = [go_to_band(root, "40 meters", "VFO A, 7."), go_to_band(root, "20 meters", "VFO A, 14.")]
+    before, renamed = rename_channel(root, "TEST 3")
     nameless = [
         each.get_role_name()
         for each in accessibles(root)
@@ -115,7 +164,7 @@ def main():
     ]
     if nameless:
         sys.exit(f"accessibility: FAILED: controls without a name: {nameless}")
-    print(f"accessibility: passed: {heard[0]!r}, then {heard[1]!r}")
+    print(f"accessibility: passed: {heard[0]!r}, then {heard[1]!r}; channel {CHANNEL}: {before!r}, then {renamed!r}")
 
 
 if __name__ == "__main__":

@@ -47,6 +47,10 @@ await "$work/display" "screen"
 DISPLAY=":$(cat "$work/display")"
 export DISPLAY
 
+# The keyboard goes to the window that a window manager makes active.
+openbox >"$work/openbox.log" 2>&1 &
+started="$! $started"
+
 dbus-daemon --session --nofork --print-address=3 3>"$work/bus" 2>"$work/bus.log" &
 started="$! $started"
 await "$work/bus" "session bus"
