@@ -8,8 +8,8 @@ namespace corvane {
 // 32 hexadecimal digits from the system's source of randomness.
 std::string randomKey();
 
-// What tells the directory whose confirmations to show: "?key=0123456789abcdef0123456789abcdef". Nothing for a text that
-// is no such key, the empty one of who has never confirmed anything above all.
+// What tells the directory whose confirmations to show: "?key=0123456789abcdef0123456789abcdef". Nothing for a text
+// that is no such key, the empty one of who has never confirmed anything above all.
 std::string keyQuery(const std::string& key);
 
 }  // namespace corvane

@@ -11,9 +11,7 @@ struct Reader {
     std::string operator()(const HandleCell&) const { return {}; }
     std::string operator()(const LinkCell& cell) const { return cell.text; }
     std::string operator()(const ButtonCell& cell) const { return cell.title; }
-    std::string operator()(const PopUpCell& cell) const {
-        return cell.entries->at(cell.selection);
-    }
+    std::string operator()(const PopUpCell& cell) const { return cell.entries->at(cell.selection); }
     std::string operator()(const EditableCell& cell) const { return cell.text; }
 };
 

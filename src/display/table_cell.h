@@ -40,9 +40,7 @@ struct PopUpCell {
     const EntryTitles* entries = nullptr;  // of the pop-up that stands for the column's; they live as long
     int selection = 0;                     // the entry that is shown; there must be one
 
-    bool operator==(const PopUpCell& other) const {
-        return selection == other.selection && *entries == *other.entries;
-    }
+    bool operator==(const PopUpCell& other) const { return selection == other.selection && *entries == *other.entries; }
 };
 
 // Text that the operator may replace.

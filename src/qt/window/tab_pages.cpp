@@ -1,6 +1,7 @@
 #include "qt/window/tab_pages.h"
 
 #include <QScrollArea>
+#include <QSignalBlocker>
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <utility>
@@ -27,9 +28,11 @@ void TabPages::addPage(const QString& title, std::function<QWidget*()> make) {
     place->setWidgetResizable(true);
     place->setFrameShape(QFrame::NoFrame);
     place->setFocusPolicy(Qt::NoFocus);
+    // The first tab comes to the front by itself; that is nobody's choice.
+    const QSignalBlocker quiet(this);
     const int index = addTab(place, title);
-    if (index == currentIndex()) makePage(index);
-    if (model_.viewRequested(index)) makePage(index);
+    if (index == model_.indexOfSelectedItem()) setCurrentIndex(index);
+    if (index == currentIndex() || model_.viewRequested(index)) makePage(index);
 }
 
 void TabPages::showModel() {

@@ -139,8 +139,8 @@ void TableWidget::openPopUp(const QModelIndex& cell) {
             rows_->watch(currentIndex());
             viewport()->update();
         };
-        auto* action = menu->addAction(
-            withoutMnemonic(QString::fromStdString(popUp->entries->at(entry))), this, choose);
+        auto* action =
+            menu->addAction(withoutMnemonic(QString::fromStdString(popUp->entries->at(entry))), this, choose);
         action->setCheckable(true);
         action->setChecked(entry == popUp->selection);
         if (entry == popUp->selection) menu->setActiveAction(action);
