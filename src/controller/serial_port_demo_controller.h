@@ -309,6 +309,8 @@ private:
     void showMemoryReadProgress(std::string_view problem = {});
     void watchMemoryRead();
     void memoryReadLostLink();
+    void endMemoryRead();
+    void endHaltedRead();
     bool saveMemoriesAsRead();
     void showWhereChannelsAreSaved();
     void setMemoryKeysEnabled(bool enabled);

@@ -29,10 +29,10 @@ void SerialPortDemoController::fillMenuPopUp(int first, int last, int step, int 
 void SerialPortDemoController::fillMenuPopUps() {
     const bool again = menuRead.filled;
     for (const NumericPopUp& row : numericPopUps) {
-        const PopUpButton* popUp = display.menu.popUp(row.page, row.tag);
+        PopUpButton* popUp = display.menu.popUp(row.page, row.tag);
         const int selected = popUp ? popUp->indexOfSelectedItem() : PopUpButton::noSelection;
         fillMenuPopUp(row.first, row.last, row.step, row.tag, row.digits, row.page, row.defaultNumber);
-        if (again) display.menu.popUp(row.page, row.tag)->selectItem(selected);
+        if (again && popUp) popUp->selectItem(selected);
     }
     menuRead.filled = true;
 }

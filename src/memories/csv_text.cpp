@@ -85,7 +85,7 @@ std::vector<CsvLine> csvLines(std::string_view text) {
     std::vector<CsvLine> lines;
     for (Reader reader(text); !reader.atEnd();) {
         CsvLine line = reader.line();
-        if (line.fields != std::vector<std::string>{""}) lines.push_back(std::move(line));
+        if (line.quoteLeftOpen || line.fields != std::vector<std::string>{""}) lines.push_back(std::move(line));
     }
     return lines;
 }

@@ -19,10 +19,9 @@ struct CsvLine {
     bool operator==(const CsvLine&) const = default;
 };
 
-// The lines of any bytes, without empty ones and without a mark of the byte order in front. They end with "\n", "\r\n"
-// or
-// "\r". A field in quotes may hold commas, line ends and, doubled, quotes; what follows its closing quote up to the
-// next comma belongs to it.
+// The lines of any bytes, without empty ones and without a mark of the byte order in front. They end with a line feed,
+// a carriage return or both. A field in quotes may hold commas, line ends and, doubled, quotes; what follows its
+// closing quote up to the next comma belongs to it.
 std::vector<CsvLine> csvLines(std::string_view text);
 
 }  // namespace corvane

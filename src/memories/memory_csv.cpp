@@ -175,7 +175,7 @@ std::string memoryCsv(const MemoryTable& channels) {
             if (column == Column::location) field = std::to_string(row + 1);
             if (column == Column::name) field = trimmed(channel.tag);
             if (column == Column::frequency) field = frequency;
-            if (column == Column::mode) field = name ? std::string(name->name) : channel.mode;
+            if (column == Column::mode) field = name ? name->name : std::string_view{};
             if (column == Column::comment && name && !name->exact) field = *modeName(name->code);
         }
         csv.append(csvLine(fields)).append(lineEnd);
@@ -186,6 +186,7 @@ std::string memoryCsv(const MemoryTable& channels) {
 MemoryImport readMemoryCsv(std::string_view text) {
     const std::vector<CsvLine> lines = csvLines(text);
     if (lines.empty()) return {"The file is empty.", {}, {}};
+    if (lines.front().quoteLeftOpen) return {"Its first line has a quotation mark that is not closed.", {}, {}};
     const Header header(lines.front());
     for (const auto& [column, title] : {std::pair{Column::location, "Location"}, {Column::frequency, "Frequency"}})
         if (!header.has(column)) return {std::string("Its first line has no column \"") + title + "\".", {}, {}};

@@ -34,6 +34,7 @@ void SerialPortDemoController::startMemoryRead() {
     ++memories.readNumber;
     memories.whole = false;
     memories.stalled = false;
+    memories.readSession = link.session;
     memories.answered.reset();
     display.memoriesTable.reloadData();
     requestMemory("MR", 1);
@@ -159,9 +160,26 @@ void SerialPortDemoController::watchMemoryRead() {
 }
 
 void SerialPortDemoController::memoryReadLostLink() {
+    if (!memoryReadProgress(memories).running) return void(++memories.readNumber);
+    showMemoryReadProgress(": stopped, the link is closed.");
+    endMemoryRead();
+}
+
+// What still comes of it is no channel any more.
+void SerialPortDemoController::endMemoryRead() {
     ++memories.readNumber;
-    memories.stalled = true;
-    if (memoryReadProgress(memories).running) showMemoryReadProgress(": stopped, the link is closed.");
+    memories.vqMemRead = "0";
+    memories.vqTagRead = "0";
+    memories.stalled = false;
+    display.memoryReadProgress.setVisible(false);
+}
+
+// Late replies name channels, and rows that have changed their places are other channels.
+void SerialPortDemoController::endHaltedRead() {
+    if (!memories.stalled) return;
+    endMemoryRead();
+    display.memoryReadField.setStringValue(
+        "Reading ended early: rows have changed. Press Read memories to start again.");
 }
 
 }  // namespace corvane

@@ -38,6 +38,7 @@ struct MemoryState {
     int vqMemReadCnt = 0;                                   // replies handled in the present read
     int vqTagReadCnt = 0;
     unsigned readNumber = 0;               // grows with every read begun or lost, so that a late watch is known
+    unsigned readSession = 0;              // the opening of the port in which a read was begun last
     bool whole = false;                    // whether the last read came to its end
     bool stalled = false;                  // whether the present read waits for an answer that does not come
     std::bitset<memoryChannels> answered;  // the rows that the present read has filled

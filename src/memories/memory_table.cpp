@@ -39,6 +39,7 @@ std::optional<int> SerialPortDemoController::acceptDrop(TableView& table, std::s
     const bool drop = &table == &display.memoriesTable && row >= 0 && row <= memoryChannels;
     if (!drop || !source || *source < 0 || *source >= memoryChannels || repliesAreComing(memories)) return std::nullopt;
     const int destination = dropDestination(*source, row);
+    endHaltedRead();
     moveChannel(memories.vqMemArray, *source, destination);
     display.memoriesTable.reloadData();
     return destination;
@@ -46,6 +47,7 @@ std::optional<int> SerialPortDemoController::acceptDrop(TableView& table, std::s
 
 bool SerialPortDemoController::mouseDownInHeader(TableView& table, int column) {
     if (&table != &display.memoriesTable || !table.column(column).sorts || repliesAreComing(memories)) return false;
+    endHaltedRead();
     const SortDirection before = table.sortDirection(column);
     if (column == memoryFrequencyColumn)
         sortByFrequency(memories.vqMemArray, before);

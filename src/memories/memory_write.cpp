@@ -5,6 +5,8 @@
 #include "controller/serial_port_demo_controller.h"
 #include "memories/memory_backup.h"
 #include "memories/memory_commands.h"
+#include "radio/cat_command.h"
+#include "radio/operating_modes.h"
 
 namespace corvane {
 
@@ -14,11 +16,24 @@ namespace {
 
 constexpr auto pauseBeforeLast = 200ms;
 
+// "M-14, M-20"
+std::string channelsWithoutMode(const MemoryTable& channels) {
+    std::string rows;
+    for (std::size_t row = 0; row < channels.size(); ++row) {
+        const MemoryChannel& channel = channels[row];
+        if (!isProgrammed(channel) || (channel.mode.size() == 1 && modeName(channel.mode.front()))) continue;
+        rows.append(rows.empty() ? "M-" : ", M-").append(zeroPadded(static_cast<int>(row) + 1, 2));
+    }
+    return rows;
+}
+
 std::string question(const MemoryState& memories) {
     const auto written = std::ranges::count_if(memories.vqMemArray, isProgrammed);
     std::string text = "Write the memory channels to the transceiver?\n\n";
     text += std::to_string(written) + " will be written, " + std::to_string(memoryChannels - written) +
             " will be erased. Clarifier, tone and shift of every channel are reset.";
+    if (const std::string rows = channelsWithoutMode(memories.vqMemArray); !rows.empty())
+        text += "\n\nChoose a mode first for " + rows + ": without one the transceiver does not take a channel.";
     if (!memories.whole)
         text +=
             "\n\nThe channels have not been read to the end. What has not been read will be erased and cannot be "

@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QVariant>
 #include <algorithm>
+#include <utility>
 
 namespace corvane {
 
@@ -69,7 +70,7 @@ QString IniSettingsStore::defaultPath() {
 }
 
 IniSettingsStore::IniSettingsStore(const QString& path)
-    : problem_(setAsideIfBad(path)), settings_(path, QSettings::IniFormat) {
+    : problem_(setAsideIfBad(path)), settings_(faultIn(path).isEmpty() ? path : freeName(path), QSettings::IniFormat) {
     writeSoon_.setSingleShot(true);
     writeSoon_.setInterval(0);
     QObject::connect(&writeSoon_, &QTimer::timeout, &settings_, [this] { write(); });
@@ -87,7 +88,7 @@ int IniSettingsStore::integer(std::string_view key) const { return asText(settin
 void IniSettingsStore::write() {
     settings_.sync();
     const bool failed = settings_.status() == QSettings::AccessError;
-    if (!failed || !problem_.empty()) return;
+    if (!failed || std::exchange(writeFailureTold_, true)) return;
     problem_ = "The settings cannot be written to " + settings_.fileName().toStdString() +
                ": look for a full disk or a missing permission. What you set lasts for this run.";
     if (onProblem) onProblem();

@@ -31,6 +31,7 @@ private:
     void write();
 
     std::string problem_;
+    bool writeFailureTold_ = false;
     QSettings settings_;
     QTimer writeSoon_;
 };

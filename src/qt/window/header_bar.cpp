@@ -43,7 +43,7 @@ protected:
 private:
     void showModel() {
         setText(QString::fromStdString(link_.stringValue()));
-        setToolTip(text());
+        setToolTip("<p>" + text().toHtmlEscaped() + "</p>");
         setAccessibleName(spokenWithValue(link_, link_.stringValue()));
         update();
     }

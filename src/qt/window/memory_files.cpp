@@ -70,7 +70,7 @@ void importFile(QWidget& window, SerialPortDemoController& controller, const QSt
     const QByteArray bytes = file.read(largestFile + 1);
     if (file.error() != QFile::NoError) return tell(window, what, path + ": " + file.errorString() + ".");
     if (bytes.size() > largestFile)
-        return tell(window, what, path + ": a file of 1 MiB and more holds something else.");
+        return tell(window, what, path + ": a file of more than 1 MiB holds something else.");
     MemoryImport import = readMemoryCsv({bytes.data(), static_cast<std::size_t>(bytes.size())});
     if (!import.problem.empty()) return tell(window, what, path + ": " + toQString(import.problem));
     preview(window, controller, std::move(import));
@@ -78,7 +78,8 @@ void importFile(QWidget& window, SerialPortDemoController& controller, const QSt
 
 void importMemories(QWidget& window, SerialPortDemoController& controller) {
     if (!controller.canTakeChannels())
-        return tell(window, "The memory channels are being read", "Import a file when that has ended.");
+        return tell(window, "The memory channels have not been read yet",
+                    "Connect, and import a file when reading has ended: it would replace what is imported before.");
     auto* dialog = fileDialog(window, "Import memory channels");
     dialog->setFileMode(QFileDialog::ExistingFile);
     QObject::connect(dialog, &QFileDialog::fileSelected, &window,

@@ -61,7 +61,7 @@ QTableWidget* listOf(const QStringList& titles, int rows, const QString& name) {
 
 void setCell(QTableWidget& list, int row, int column, const QString& text) {
     auto* cell = new QTableWidgetItem(text);
-    cell->setToolTip(text);
+    cell->setToolTip("<p>" + text.toHtmlEscaped() + "</p>");  // or it would be guessed to be mark-up
     list.setItem(row, column, cell);
 }
 

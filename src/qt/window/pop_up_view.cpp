@@ -52,7 +52,8 @@ public:
     }
     Qt::ItemFlags flags(const QModelIndex& index) const override {
         const Qt::ItemFlags flags = QAbstractListModel::flags(index);
-        const bool unused = index.isValid() && popUp_.titles().at(index.row()) == PopUpButton::unusedEntry;
+        const bool unused = index.isValid() && index.row() < popUp_.titles().size() &&
+                            popUp_.titles().at(index.row()) == PopUpButton::unusedEntry;
         return unused ? flags & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable) : flags;
     }
     void reset() {

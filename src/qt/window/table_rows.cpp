@@ -120,6 +120,7 @@ QMimeData* TableRows::mimeData(const QModelIndexList& indexes) const {
 
 std::string TableRows::rowText(int tableRow) const {
     std::string text;
+    if (tableRow < 0 || tableRow >= table_.rows()) return text;  // it has gone, and the table not been reloaded yet
     for (int column = 0; column < columnCount(); ++column)
         if (!table_.isButton(column)) text.append(table_.cell(tableRow, column)).append("\n");
     return text;

@@ -200,6 +200,8 @@ void TableWidget::keyPressEvent(QKeyEvent* event) {
 }
 
 void TableWidget::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+    if (byMouse && !indexAt(event->pos()).isValid()) return;  // below the rows
     openMenu(event->reason() == QContextMenuEvent::Keyboard ? QPoint() : event->globalPos());
 }
 
@@ -209,7 +211,7 @@ void TableWidget::openMenu(QPoint position) {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setObjectName(objectName() + "Menu");
     menu->setAccessibleName(labelOf(model_));
-    if (currentIndex().isValid()) addRowActions(*menu);
+    if (rows_->exists(currentIndex())) addRowActions(*menu);
     for (int column = 0; column < rows_->columnCount(); ++column)
         if (model_.column(column).sorts)
             menu->addAction("Sort by " + toQString(model_.column(column).title), this,
@@ -232,10 +234,11 @@ void TableWidget::addRowActions(QMenu& menu) {
         const TableCell shown = rows_->cell(cell);
         const QString title = toQString(model_.column(column).title);
         const auto press = inRow([this, column](int row) { model_.pressCell(row, column); });
-        const auto go = [this, place = QPersistentModelIndex(cell)] {
+        const auto go = inRow([this, place = QPersistentModelIndex(cell)](int row) {
+            if (rows_->tableRow(place) != row) return;
             setCurrentIndex(place);
             act(place);
-        };
+        });
         if (const auto* button = std::get_if<ButtonCell>(&shown))
             menu.addAction(QString::fromStdString(button->label), this, press);
         else if (is<LinkCell>(shown))

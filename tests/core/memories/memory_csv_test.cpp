@@ -47,6 +47,7 @@ TEST(CsvText, ReadsLinesAsTheyAreWritten) {
         {"\"a,\"\"b\"\"\r\nc\",d\ne", {{1, {"a,\"b\"\r\nc", "d"}}, {3, {"e"}}}},
         {"\"a\"b,c\"d\n", {{1, {"ab", "c\"d"}}}},
         {"a\n\"b,c\n", {{1, {"a"}}, {2, {"b,c\n"}, true}}},
+        {"a\n\"", {{1, {"a"}}, {2, {""}, true}}},
     };
     for (const auto& each : cases) EXPECT_EQ(csvLines(each.text), each.lines) << each.text;
     const std::vector<std::string> fields{"a,b", "\"", "c\r\nd", "", " e "};
@@ -133,6 +134,8 @@ TEST(MemoryCsv, TakesWhatItCanAndSaysWhyNotTheRest) {
            taken(4, 2, {"029600000", "4", "A"}, "without shift \"-\"; without tone \"TSQL\"")},
           {{5, "a quotation mark is not closed"}}}},
     };
+    EXPECT_EQ(readMemoryCsv("Location,Name,Frequency,\"Mode\n1,A,7.1,LSB\n").problem,
+              "Its first line has a quotation mark that is not closed.");
     for (const auto& each : cases) {
         const MemoryImport import = readMemoryCsv(each.text);
         EXPECT_EQ(import.problem, each.import.problem) << each.text;
@@ -174,6 +177,7 @@ TEST(MemoryImport, ChangesTheTableAsAnEditDoes) {
     RadioBench bench;
     const auto& table = bench.controller.memories.vqMemArray;
     const std::vector<ImportedChannel> channels{{2, 50, {"007074000", "C", "FT8"}, ""}};
+    EXPECT_FALSE(bench.controller.canTakeChannels()) << "the opening's own read is still to come";
     bench.display.readMemoriesButton.performClick();
     EXPECT_FALSE(bench.controller.canTakeChannels());
     bench.controller.takeImportedChannels(table, channels);

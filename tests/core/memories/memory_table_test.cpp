@@ -286,6 +286,26 @@ TEST(MemoryTable, RowsStayInPlaceWhileAReadIsUnderWay) {
 }
 
 // What is saved before a write is what the transceiver held, not what was typed while it was read.
+// What a halted read still brings names channels; by then the rows may be others.
+TEST(MemoryTable, AMoveEndsAHaltedRead) {
+    TableBench bench;
+    bench.outlastOpening();
+    bench.display.readMemoriesButton.performClick();
+    bench.receive("MR001014250000+000000210000;");
+    bench.advance(7s);  // no further answer
+    bench.name({"1", "2", "3"});
+    EXPECT_EQ(bench.table.drop("0", 3), 2);
+    EXPECT_TRUE(bench.display.memoryReadField.stringValue().starts_with("Reading ended early"));
+    EXPECT_FALSE(bench.display.memoryReadProgress.visible());
+    const MemoryTable moved = bench.rows;
+    bench.takeWrites();
+    for (const char* late : {"MR002007100000+000000110000;", "?;", "MT0021LATE        ;"}) bench.receive(late);
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
+    EXPECT_EQ(bench.row(0).frequency, moved[0].frequency);
+    EXPECT_EQ(bench.row(1).frequency, moved[1].frequency);
+    EXPECT_FALSE(bench.controller.memories.whole);
+}
+
 TEST(MemoryTable, AnEditDuringAReadIsNoPartOfWhatWasRead) {
     RadioBench bench;
     bench.display.readMemoriesButton.performClick();

@@ -137,6 +137,8 @@ TEST(MemoryWrite, AsksFirstAndSaysWhatItWillDo) {
     bench.display.writeMemoriesButton.performClick();
     bench.controller.memories.whole = true;
     bench.display.writeMemoriesButton.performClick();
+    bench.controller.memories.vqMemArray[13] = {"007100000", " ", "NO MODE"};
+    bench.display.writeMemoriesButton.performClick();
     bench.advance(1s);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
     const std::string question =
@@ -145,7 +147,10 @@ TEST(MemoryWrite, AsksFirstAndSaysWhatItWillDo) {
     EXPECT_THAT(bench.around.alerts.shown,
                 ElementsAre(question + "\n\nThe channels have not been read to the end. What has not been read will be "
                                        "erased and cannot be saved first. [Write]",
-                            question + " [Write]"));
+                            question + " [Write]",
+                            "Write the memory channels to the transceiver?\n\n2 will be written, 97 will be erased. "
+                            "Clarifier, tone and shift of every channel are reset.\n\nChoose a mode first "
+                            "for M-14: without one the transceiver does not take a channel. [Write]"));
 }
 
 TEST(MemoryWrite, AnAnswerToAnOldQuestionWritesNothing) {

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <csignal>
 #include <string>
@@ -117,6 +119,23 @@ TEST_F(IniSettingsStoreTest, AFullDiskLeavesTheOldFileWholeAndIsTold) {
     store.setText("voice", "0");
     EXPECT_TRUE(eventually([&] { return file().contains("N1CALL") && file().contains("voice=0"); }));
     EXPECT_EQ(told, 1);
+}
+
+TEST_F(IniSettingsStoreTest, AFullDiskIsToldOfAlsoAfterABadFile) {
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    QFile bad(path);
+    ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
+    bad.write("rubbish\n");
+    bad.close();
+    IniSettingsStore store(path);
+    ASSERT_FALSE(store.problem().empty());
+    QFile(path).remove();
+    ASSERT_TRUE(QDir().mkdir(path));  // nothing can be written there
+    int told = 0;
+    store.onProblem = [&] { ++told; };
+    store.setText("call", "N0CALL");
+    EXPECT_TRUE(eventually([&] { return told == 1; }));
+    EXPECT_NE(store.problem().find("cannot be written"), std::string::npos) << store.problem();
 }
 
 }  // namespace

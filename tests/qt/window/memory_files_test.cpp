@@ -19,7 +19,11 @@ using namespace std::chrono_literals;
 // The window over a folder of its own, with three programmed channels.
 struct FilesStation : Station {
     FilesStation() {
+        synchronise();
+        EXPECT_TRUE(eventually([this] { return controller.memories.whole; }, 20s));
+        settle();
         auto& table = controller.memories.vqMemArray;
+        table.fill({});
         table[0] = {"014250000", "2", "CALLING     "};
         table[1] = {"007030000", "3", "CW"};
         table[4] = {"014074000", "C", "FT8"};
