@@ -121,10 +121,22 @@ def name_of_channel(root):
     return Atspi.Table.get_accessible_at(table, CHANNEL - 1, NAME_COLUMN).get_name() if table else ""
 
 
+def current_name(accessible):
+    accessible.clear_cache()
+    return accessible.get_name()
+
+
 def read_channels(root):
+    # A whole read is over sooner than a search through the window.
+    field = until(
+        "how far the read is",
+        lambda: find(
+            root, lambda each: each.get_role() == Atspi.Role.LABEL and each.get_name().startswith("Memory channels, ")
+        ),
+    )
     press(until("the key that reads", lambda: control(root, "Read the memory channels")))
-    until("a read under way", lambda: find(root, lambda each: each.get_name().startswith("Memory channels, Reading")))
-    until("the end of the read", lambda: find(root, lambda each: each.get_name().startswith("Memory channels, Read:")))
+    until("a read under way", lambda: current_name(field).startswith("Memory channels, Reading"))
+    until("the end of the read", lambda: current_name(field).startswith("Memory channels, Read:"))
     return name_of_channel(root)
 
 
