@@ -2,7 +2,7 @@
 #include <cstdint>
 
 #include "feeds/band_conditions.h"
-#include "radio/utf8.h"
+#include "wire/utf8.h"
 
 #define INVARIANT(condition) \
     if (!(condition)) __builtin_trap()

@@ -3,8 +3,8 @@
 #include <cstdint>
 
 #include "memories/memory_csv.h"
-#include "radio/operating_modes.h"
-#include "radio/wire_text.h"
+#include "wire/operating_modes.h"
+#include "wire/wire_text.h"
 
 #define INVARIANT(condition) \
     if (!(condition)) __builtin_trap()

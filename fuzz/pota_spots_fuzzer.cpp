@@ -4,7 +4,7 @@
 
 #include "feeds/feed_cells.h"
 #include "feeds/spots.h"
-#include "radio/utf8.h"
+#include "wire/utf8.h"
 
 #define INVARIANT(condition) \
     if (!(condition)) __builtin_trap()

@@ -2,8 +2,8 @@
 #include <cstdint>
 
 #include "radio/response_assembler.h"
-#include "radio/utf8.h"
 #include "tests/support/test_bench.h"
+#include "wire/utf8.h"
 
 #define INVARIANT(condition) \
     if (!(condition)) __builtin_trap()

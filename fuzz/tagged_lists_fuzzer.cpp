@@ -5,7 +5,7 @@
 #include "feeds/feed_cells.h"
 #include "feeds/tagged_lists.h"
 #include "feeds/tune_command.h"
-#include "radio/utf8.h"
+#include "wire/utf8.h"
 
 #define INVARIANT(condition) \
     if (!(condition)) __builtin_trap()

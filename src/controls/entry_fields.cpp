@@ -3,8 +3,8 @@
 #include "controls/call_sign.h"
 #include "controls/sendable_text.h"
 #include "controls/typed_frequency.h"
-#include "radio/cat_command.h"
-#include "radio/tuning_range.h"
+#include "wire/cat_command.h"
+#include "wire/tuning_range.h"
 
 namespace corvane {
 

@@ -4,9 +4,9 @@
 #include "controller/serial_port_demo_controller.h"
 #include "controls/front_panel_actions.h"
 #include "interpret/menu_groups.h"
-#include "radio/cat_command.h"
-#include "radio/operating_modes.h"
-#include "radio/wire_text.h"
+#include "wire/cat_command.h"
+#include "wire/operating_modes.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

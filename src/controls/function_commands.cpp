@@ -1,7 +1,7 @@
 #include "controls/function_commands.h"
 
-#include "interpret/setting_codes.h"
-#include "radio/cat_command.h"
+#include "wire/cat_command.h"
+#include "wire/setting_codes.h"
 
 namespace corvane {
 

@@ -2,7 +2,7 @@
 // reports.
 #include "controller/serial_port_demo_controller.h"
 #include "controls/function_commands.h"
-#include "interpret/setting_codes.h"
+#include "wire/setting_codes.h"
 
 namespace corvane {
 

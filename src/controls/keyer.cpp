@@ -3,7 +3,7 @@
 
 #include "controller/serial_port_demo_controller.h"
 #include "controls/text_messages.h"
-#include "radio/operating_modes.h"
+#include "wire/operating_modes.h"
 
 namespace corvane {
 

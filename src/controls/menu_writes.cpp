@@ -1,7 +1,7 @@
 #include "controls/menu_writes.h"
 
 #include "controller/serial_port_demo_controller.h"
-#include "radio/cat_command.h"
+#include "wire/cat_command.h"
 
 namespace corvane {
 

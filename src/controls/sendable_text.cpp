@@ -1,6 +1,6 @@
 #include "controls/sendable_text.h"
 
-#include "radio/utf8.h"
+#include "wire/utf8.h"
 
 namespace corvane {
 

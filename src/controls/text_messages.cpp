@@ -1,6 +1,6 @@
 #include "controls/text_messages.h"
 
-#include "radio/utf8.h"
+#include "wire/utf8.h"
 
 namespace corvane {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "radio/operating_modes.h"
+#include "wire/operating_modes.h"
 
 namespace corvane {
 

@@ -4,8 +4,8 @@
 #include <charconv>
 #include <cmath>
 
-#include "radio/tuning_range.h"
-#include "radio/wire_text.h"
+#include "wire/tuning_range.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

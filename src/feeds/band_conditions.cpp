@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "radio/utf8.h"
-#include "radio/wire_text.h"
+#include "wire/utf8.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "feeds/single_precision.h"
-#include "radio/decimal_number.h"
-#include "radio/utf8.h"
+#include "wire/decimal_number.h"
+#include "wire/utf8.h"
 
 namespace corvane {
 

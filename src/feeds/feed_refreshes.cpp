@@ -8,8 +8,8 @@
 #include "controller/serial_port_demo_controller.h"
 #include "feeds/band_conditions.h"
 #include "feeds/feed_table.h"
-#include "radio/utf8.h"
-#include "radio/wire_text.h"
+#include "wire/utf8.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

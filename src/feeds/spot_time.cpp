@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "radio/wire_text.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

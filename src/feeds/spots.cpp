@@ -6,7 +6,7 @@
 #include "feeds/json_records.h"
 #include "feeds/single_precision.h"
 #include "feeds/spot_time.h"
-#include "radio/wire_text.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "feeds/scrape_tags.h"
-#include "radio/utf8.h"
-#include "radio/wire_text.h"
+#include "wire/utf8.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

@@ -8,7 +8,7 @@
 #include "feeds/feed_table.h"
 #include "feeds/single_precision.h"
 #include "feeds/tune_command.h"
-#include "radio/utf8.h"
+#include "wire/utf8.h"
 
 namespace corvane {
 

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "feeds/single_precision.h"
-#include "radio/wire_text.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

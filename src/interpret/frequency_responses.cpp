@@ -2,8 +2,8 @@
 #include "controller/serial_port_demo_controller.h"
 #include "interpret/band_table.h"
 #include "interpret/spoken_frequency.h"
-#include "radio/operating_modes.h"
-#include "radio/wire_text.h"
+#include "wire/operating_modes.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "radio/cat_command.h"
+#include "wire/cat_command.h"
 
 namespace corvane {
 

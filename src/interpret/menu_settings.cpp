@@ -3,7 +3,7 @@
 #include "controller/serial_port_demo_controller.h"
 #include "interpret/menu_values.h"
 #include "interpret/numeric_pop_ups.h"
-#include "radio/wire_text.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

@@ -1,6 +1,6 @@
 #include "interpret/menu_values.h"
 
-#include "radio/wire_text.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

@@ -4,9 +4,9 @@
 #include <array>
 
 #include "controller/serial_port_demo_controller.h"
-#include "interpret/setting_codes.h"
-#include "radio/utf8.h"
-#include "radio/wire_text.h"
+#include "wire/setting_codes.h"
+#include "wire/utf8.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

@@ -4,7 +4,7 @@
 #include "controller/serial_port_demo_controller.h"
 #include "display/table_columns.h"
 #include "memories/squelch_levels.h"
-#include "radio/operating_modes.h"
+#include "wire/operating_modes.h"
 
 namespace corvane {
 

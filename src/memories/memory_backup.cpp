@@ -7,7 +7,7 @@
 #include "memories/csv_text.h"
 #include "memories/memory_commands.h"
 #include "memories/table_cells.h"
-#include "radio/operating_modes.h"
+#include "wire/operating_modes.h"
 
 namespace corvane {
 

@@ -1,7 +1,7 @@
 #include "memories/memory_commands.h"
 
-#include "radio/cat_command.h"
-#include "radio/wire_text.h"
+#include "wire/cat_command.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

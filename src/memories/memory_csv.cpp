@@ -9,9 +9,9 @@
 #include "memories/memory_entry.h"
 #include "memories/memory_mode_names.h"
 #include "memories/table_cells.h"
-#include "radio/operating_modes.h"
-#include "radio/utf8.h"
-#include "radio/wire_text.h"
+#include "wire/operating_modes.h"
+#include "wire/utf8.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 
-#include "radio/cat_command.h"
-#include "radio/decimal_number.h"
-#include "radio/utf8.h"
-#include "radio/wire_text.h"
+#include "wire/cat_command.h"
+#include "wire/decimal_number.h"
+#include "wire/utf8.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

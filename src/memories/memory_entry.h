@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "memories/memory_state.h"
-#include "radio/tuning_range.h"
+#include "wire/tuning_range.h"
 
 namespace corvane {
 

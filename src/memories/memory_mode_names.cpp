@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "radio/operating_modes.h"
+#include "wire/operating_modes.h"
 
 namespace corvane {
 

@@ -4,8 +4,8 @@
 #include <functional>
 #include <utility>
 
-#include "radio/decimal_number.h"
-#include "radio/wire_text.h"
+#include "wire/decimal_number.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

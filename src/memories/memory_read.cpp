@@ -3,7 +3,7 @@
 #include "controller/serial_port_demo_controller.h"
 #include "display/table_columns.h"
 #include "memories/memory_commands.h"
-#include "radio/wire_text.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

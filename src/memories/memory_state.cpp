@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "memories/memory_commands.h"
-#include "radio/cat_command.h"
+#include "wire/cat_command.h"
 
 namespace corvane {
 

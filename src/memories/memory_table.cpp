@@ -3,7 +3,7 @@
 #include "display/table_columns.h"
 #include "memories/memory_entry.h"
 #include "memories/memory_order.h"
-#include "radio/wire_text.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

@@ -5,8 +5,8 @@
 #include "controller/serial_port_demo_controller.h"
 #include "memories/memory_backup.h"
 #include "memories/memory_commands.h"
-#include "radio/cat_command.h"
-#include "radio/operating_modes.h"
+#include "wire/cat_command.h"
+#include "wire/operating_modes.h"
 
 namespace corvane {
 

@@ -2,9 +2,9 @@
 
 #include "display/table_columns.h"
 #include "memories/memory_commands.h"
-#include "radio/cat_command.h"
-#include "radio/decimal_number.h"
-#include "radio/tuning_range.h"
+#include "wire/cat_command.h"
+#include "wire/decimal_number.h"
+#include "wire/tuning_range.h"
 
 namespace corvane {
 

@@ -3,9 +3,9 @@
 #include <array>
 
 #include "controller/serial_port_demo_controller.h"
-#include "radio/cat_command.h"
-#include "radio/utf8.h"
-#include "radio/wire_text.h"
+#include "wire/cat_command.h"
+#include "wire/utf8.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

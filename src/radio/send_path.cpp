@@ -1,8 +1,8 @@
 // Everything that leaves for the transceiver leaves here. Without a current port it is dropped without a word: the
 // display follows the transceiver's own reports, so nothing is shown that did not happen.
 #include "controller/serial_port_demo_controller.h"
-#include "radio/cat_command.h"
-#include "radio/utf8.h"
+#include "wire/cat_command.h"
+#include "wire/utf8.h"
 
 namespace corvane {
 

@@ -4,7 +4,7 @@
 #include <map>
 
 #include "platform/settings_store.h"
-#include "radio/wire_text.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

@@ -2,8 +2,8 @@
 
 #include "feeds/feed_table.h"
 #include "feeds/tune_command.h"
-#include "radio/utf8.h"
 #include "tests/support/test_bench.h"
+#include "wire/utf8.h"
 
 namespace corvane {
 namespace {

@@ -3,8 +3,8 @@
 
 #include "controls/menu_writes.h"
 #include "interpret/numeric_pop_ups.h"
-#include "radio/cat_command.h"
 #include "tests/support/radio_bench.h"
+#include "wire/cat_command.h"
 
 namespace corvane {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "memories/csv_text.h"
 #include "memories/memory_backup.h"
-#include "radio/operating_modes.h"
 #include "tests/support/radio_bench.h"
+#include "wire/operating_modes.h"
 
 namespace corvane {
 namespace {

@@ -6,8 +6,8 @@
 #include "memories/memory_entry.h"
 #include "memories/memory_order.h"
 #include "memories/table_cells.h"
-#include "radio/operating_modes.h"
 #include "tests/support/radio_bench.h"
+#include "wire/operating_modes.h"
 
 namespace corvane {
 namespace {

@@ -1,4 +1,4 @@
-#include "radio/cat_command.h"
+#include "wire/cat_command.h"
 
 namespace corvane {
 

@@ -1,4 +1,4 @@
-#include "radio/utf8.h"
+#include "wire/utf8.h"
 
 #include <algorithm>
 

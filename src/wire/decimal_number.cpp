@@ -1,4 +1,4 @@
-#include "radio/decimal_number.h"
+#include "wire/decimal_number.h"
 
 #include <array>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "radio/operating_modes.h"
+#include "wire/operating_modes.h"
 
 #include <gmock/gmock.h>
 
