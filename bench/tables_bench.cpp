@@ -70,12 +70,13 @@ int run() {
     auto* table = window.findChild<QTableView*>("potaTable");
     auto* filter = window.findChild<QLineEdit*>("potaTableFilter");
     if (!table || !filter) return 1;
-    controller.feeds.vqPotaArray = manySpots();
+    FeedList spots = manySpots();
     const auto reload = [&] {
         controller.display.potaTable.reloadData();
         QApplication::processEvents();
     };
-    reload();
+    controller.lists.setRows(listFeed(Feed::pota), spots);
+    QApplication::processEvents();
     table->setCurrentIndex(table->model()->index(rows / 2, 0));
     QApplication::processEvents();
     const QString typed = "park 12";
@@ -102,10 +103,18 @@ int run() {
     });
     filter->clear();
     met &= report("reload", frame, [&](int) { reload(); });
-    met &= report("another list", moment, [&](int sample) {
-        controller.feeds.vqPotaArray[rows / 2].fields[0] = std::to_string(sample);
-        reload();
-    });
+    FeedList other;
+    int others = 0;
+    met &= report(
+        "another list", moment,
+        [&](int) {
+            controller.lists.setRows(listFeed(Feed::pota), std::move(other));
+            QApplication::processEvents();
+        },
+        [&] {
+            other = spots;
+            other[rows / 2].fields[0] = std::to_string(others++);
+        });
     return met ? 0 : 1;
 }
 

@@ -263,7 +263,7 @@ public:
           window_(controller_),
           counting_(controller_) {
         controller_.awakeFromNib();
-        controller_.link.serialPort->setDelegate(&counting_);
+        controller_.link.serialPort()->setDelegate(&counting_);
         window_.show();
         application_.keysGoTo = &window_;
         const StampedKey first;  // the keyboard it stands for is made on this thread
@@ -318,14 +318,14 @@ public:
         std::printf("spin: %d responses sent, %d handled, in %.2f s (879 of them the knob's reports)\n",
                     sent(sentBefore), handled(handledBefore), seconds);
         std::printf("spin: VFO A ends on %s, the transceiver on %s Hz; %d paints of VFO A\n",
-                    controller_.radio.vqFreqA.c_str(), wanted.c_str(), paints);
+                    controller_.mirror.state().vqFreqA.c_str(), wanted.c_str(), paints);
         std::printf("spin: heartbeat of 10 ms late by %.2f ms median, %.2f ms 99%%, %.2f ms max (%zu beats)\n",
                     beats.median, beats.ninetyNinth, beats.longest, beatLateness.size());
         std::printf("spin: input handled after %.3f ms median, %.2f ms 99%%, %.2f ms max (%zu keys)\n", pressed.median,
                     pressed.ninetyNinth, pressed.longest, application_.keyLateness.size());
         std::printf("spin: %.2f s of processor time, %.1f %% of one core\n", processor, processor / seconds * 100);
         bool good = aim(sent(sentBefore) >= 879 && handled(handledBefore) == sent(sentBefore), "every report handled");
-        good &= aim(controller_.radio.vqFreqA == '0' + wanted, "the final frequency");
+        good &= aim(controller_.mirror.state().vqFreqA == '0' + wanted, "the final frequency");
         good &= aim(pressed.longest < inputAim, "input handled within 50 ms");
         good &= aim(beats.longest < inputAim, "the heartbeat within 50 ms");
         return good;
@@ -349,7 +349,10 @@ public:
             const auto start = Clock::now();
             controller_.display.readMemoriesButton.performClick();
             runUntil(
-                [this] { return controller_.memories.vqMemRead != "run" && controller_.memories.vqTagRead != "run"; },
+                [this] {
+                    return controller_.memories.read().vqMemRead != "run" &&
+                           controller_.memories.read().vqTagRead != "run";
+                },
                 10s);
             taken.push_back(milliseconds(Clock::now() - start));
             whole &= handled(handledBefore) == requests;

@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const FeedRow& row : spots.rows) {
         INVARIANT(row.fields.size() == 10);
         for (const std::string& field : row.fields) INVARIANT(isUtf8(field));
-        for (const char* column : {"frequency", "last", "reference"}) feedCell(FeedTable::pota, column, row);
+        for (const char* column : {"frequency", "last", "reference"}) feedCell(Feed::pota, column, row);
     }
     return 0;
 }

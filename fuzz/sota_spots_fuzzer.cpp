@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (const std::string& field : row.fields) INVARIANT(isUtf8(field));
         const auto frequency = hertz(row[2], 1e6F);
         INVARIANT(frequency && *frequency >= 2'000'000 && *frequency < 70'000'001);
-        feedCell(FeedTable::sota, "frequency2", row);
+        feedCell(Feed::sota, "frequency2", row);
     }
     return 0;
 }

@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             INVARIANT(row.fields.size() == fields);
             for (const std::string& field : row.fields) INVARIANT(isUtf8(field));
             INVARIANT(row[1].find_first_not_of("0123456789.") == std::string::npos);
-            feedCell(FeedTable::netLogger, "freq", row);
+            feedCell(Feed::netLogger, "freq", row);
             const std::string command = tuneCommandForNetLogger(row[1], "A");
             INVARIANT(std::ranges::count(command, ';') == 4 && command.find("FA") == 5);
         }

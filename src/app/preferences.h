@@ -1,4 +1,4 @@
-// The operator's switches. Each is one character of text, on exactly when it is "1".
+// The operator's switches, kept between runs.
 #pragma once
 
 #include <array>
@@ -6,31 +6,51 @@
 #include <string_view>
 
 #include "display/display.h"
+#include "platform/settings_store.h"
 
 namespace corvane {
 
-struct Preferences {
+// Each switch is one character of text, on exactly when it is "1".
+struct Switches {
     std::string vqVoiceGuide;  // spoken announcements
     std::string vqSounds;      // the program's own sounds; named alerts play in any case
     std::string vqMemoryIPO;   // recalling a memory channel switches the pre-amplifier off
-    int vqPortChecked = 0;     // 1 once the settings have been restored
 };
-
-inline constexpr int offTagOffset = 1000;
 
 // One row per switch: where it is shown, kept and stored.
 struct PreferenceSwitch {
     MenuItem Display::*item;
-    std::string Preferences::*value;
+    std::string Switches::*value;
     std::string_view key;           // in the settings store
     std::string_view defaultValue;  // when nothing is stored
     int onTag;                      // the item's tag while on; offTagOffset more while off
 };
 
+inline constexpr int offTagOffset = 1000;
 inline constexpr std::array preferenceSwitches{
-    PreferenceSwitch{&Display::menuItemPreferencesVoice, &Preferences::vqVoiceGuide, "voice", "1", 900},
-    PreferenceSwitch{&Display::menuItemPreferencesSounds, &Preferences::vqSounds, "sounds", "1", 901},
-    PreferenceSwitch{&Display::menuItemPreferencesIPO, &Preferences::vqMemoryIPO, "ipo", "0", 902},
+    PreferenceSwitch{&Display::menuItemPreferencesVoice, &Switches::vqVoiceGuide, "voice", "1", 900},
+    PreferenceSwitch{&Display::menuItemPreferencesSounds, &Switches::vqSounds, "sounds", "1", 901},
+    PreferenceSwitch{&Display::menuItemPreferencesIPO, &Switches::vqMemoryIPO, "ipo", "0", 902},
+};
+
+class Preferences {
+public:
+    Preferences(Display& display, SettingsStore& settings) : display_(display), settings_(settings) {}
+
+    void restore();                     // takes the stored switches and shows them
+    void goMainMenu(MenuItem& sender);  // turns the switch of the sender's tag over, and stores it
+
+    const Switches& switches() const { return switches_; }
+    bool voiceGuide() const { return switches_.vqVoiceGuide == "1"; }
+    bool sounds() const { return switches_.vqSounds == "1"; }
+    bool memoryIpo() const { return switches_.vqMemoryIPO == "1"; }
+
+private:
+    void show(const PreferenceSwitch& row);
+
+    Display& display_;
+    SettingsStore& settings_;
+    Switches switches_;
 };
 
 }  // namespace corvane

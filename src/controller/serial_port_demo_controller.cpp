@@ -1,172 +1,119 @@
 #include "controller/serial_port_demo_controller.h"
 
-#include <array>
 #include <utility>
 
-#include "controls/text_messages.h"
-#include "feeds/feed_table.h"
+#include "display/pop_up_entries.h"
+#include "memories/table_cells.h"
 
 namespace corvane {
 
-SerialPortDemoController::SerialPortDemoController(const Platform& platform, ServiceHosts hosts)
-    : serialPortManager(platform.serialPortManager),
-      userDefaults(platform.settings),
-      synth(platform.speech),
-      platform_(platform),
-      hosts_(std::move(hosts)),
-      afGainPacer_(makePacer(display.afGainSlider)),
-      rfGainPacer_(makePacer(display.rfGainSlider)) {
+SerialPortDemoController::SerialPortDemoController(const Platform& platform, ServiceHosts serviceHosts)
+    : platform_(platform),
+      hosts(std::move(serviceHosts)),
+      preferences(display, platform.settings),
+      voice(preferences, platform.speech, platform.sounds, platform.alerts),
+      link(display, voice,
+           {platform.serialPortManager, platform.settings, platform.notificationCenter, platform.log,
+            platform.scheduler, *this}),
+      mirror(display, link, voice),
+      setupMenu(display, link, platform.settings, platform.scheduler),
+      operatorClassButton(display),
+      frontPanel(display, link, mirror, voice, platform.scheduler),
+      functionPopUps(display, link, mirror, preferences, voice, platform.scheduler),
+      presetPopUp(display, link, mirror, voice),
+      entryFields(display, link, mirror, voice),
+      keyer(display, link, mirror),
+      powerOff(display, link, voice, platform.scheduler),
+      memories(display, link, mirror, voice,
+               {platform.scheduler, platform.alerts, platform.dataFolder, platform.files}),
+      autoMemories(display, link, mirror, voice, platform.settings, platform.scheduler),
+      lists(display, link, mirror, voice, {platform.http, platform.scheduler, platform.settings, platform.log, hosts}),
+      checkIns(lists, voice, platform.http, platform.settings, platform.scheduler, hosts),
+      conditions(display, platform.http, platform.scheduler, hosts) {
+    wire();
     bindControls();
     bindPopUps();
     bindEntries();
     bindTables();
-    bindLists();
-    fillPresetPopUp();
-    showMemoryChannels();
-    setMemoryKeysEnabled(false);
-    display.memoryReadField.setStringValue("Not read yet");
-    showWhereChannelsAreSaved();
-    display.licenseClassButton.setVisible(false);
-    disableTextMemoryControls();
-    setActiveVfo(radio.vqAorB);
-    showLinkStatus();
     serialPortManager.setObserver(this);
     userDefaults.onProblem = [this] { showSettingsProblem(); };
-}
-
-CommandPacer SerialPortDemoController::makePacer(Slider& slider) {
-    return {[this](std::string command) { sendBuilt(std::move(command)); },
-            [this](Scheduler::Duration delay, std::function<void()> task) { later(delay, std::move(task)); },
-            [&slider] { slider.endMove(); }};
 }
 
 SerialPortDemoController::~SerialPortDemoController() {
     serialPortManager.setObserver(nullptr);
     userDefaults.onProblem = nullptr;
-    // The window may have gone before: nobody is left to show what the port says of its closing.
-    if (const auto port = std::exchange(link.serialPort, nullptr)) {
-        port->setDelegate(nullptr);
-        port->close();
-    }
+}
+
+void SerialPortDemoController::wire() {
+    link.onReady = [this](bool ready) { memories.setKeysEnabled(ready); };
+    link.onClosed = [this] {
+        memories.linkClosed();
+        setupMenu.endRead(": stopped, the link is closed.");
+    };
+    link.onMemoryReadDue = [this] { memories.startMemoryRead(); };
+    mirror.onFrequency = [this](std::string_view megahertz) { showOperatorClass(megahertz); };
+    mirror.tagOfChannel = [this](int row) { return memories.tagOf(row); };
 }
 
 void SerialPortDemoController::awakeFromNib() {
-    if (preferences.vqPortChecked != 1) restoreFirstTime();
+    if (vqPortChecked_ != 1) {
+        link.fillPortPopUp();
+        restoreSettings();
+        link.suggestPort();
+        showSettingsProblem();
+    }
     // A port may have appeared, and the settings been restored, before the window was there.
-    if (std::exchange(link.vqTimerStarted, 1) == 1) return;
+    if (std::exchange(vqTimerStarted_, 1) == 1) return;
     fetchBandConditions();
     autoMemorySample();
 }
 
-void SerialPortDemoController::restoreFirstTime() {
-    fillPortPopUp();
-    restoreSettings();
-    const bool remembered = !userDefaults.text("defaultPort").value_or("").empty();
-    if (!link.serialPort && !remembered) setSerialPort(serialPortManager.suggestedPort());
-    showSettingsProblem();
+void SerialPortDemoController::restoreSettings() {
+    link.restorePort();
+    preferences.restore();
+    autoMemories.restoreSquelch();
+    vqPortChecked_ = 1;
+    display.vqMemAButton.setTitle("  M-01");
+    const int power = display.powerPopUpButton.indexOfSelectedItem();
+    display.powerPopUpButton.setEntries(powerEntries());
+    for (int entry = 0; entry < display.powerPopUpButton.titles().size(); ++entry)
+        display.powerPopUpButton.setItemImage(entry, Image::NSImageNameStatusAvailable);
+    display.powerPopUpButton.selectItem(power);
+    setupMenu.fillMenuPopUps();
+    lists.fetchAll();
 }
 
 void SerialPortDemoController::showSettingsProblem() {
     const std::string problem = userDefaults.problem();
     if (problem.empty()) return;
     platform_.log.line(problem);
-    showLinkMessage(problem);
+    link.showMessage(problem);
 }
 
-void SerialPortDemoController::bindControls() {
-    for (const FrontPanelKey& row : frontPanelKeys)
-        display.key(row.outlet.tag).action = [this](Button& sender) { go(sender); };
-    display.sendButton.action = [this](Button& sender) { sendBox(sender); };
-    display.sendTextField.action = [this](TextField& sender) { returnPressedInTextField(sender); };
-    display.openCloseButton.action = [this](Button& sender) { openOrClosePort(sender); };
-    display.PortPopUpButton.action = [this](PopUpButton& sender) { choosePort(sender); };
-    display.BaudPopUpButton.action = [this](PopUpButton& sender) { chooseBaudRate(sender); };
-    display.readMemoriesButton.action = [this](Button& sender) { getMemoriesFromRadio(sender); };
-    display.writeMemoriesButton.action = [this](Button& sender) { askBeforeWriting(sender); };
-    display.autoMemoryNowButton.action = [this](Button& sender) { autoMemoryNow(sender); };
-    for (const PreferenceSwitch& row : preferenceSwitches)
-        (display.*row.item).action = [this](MenuItem& sender) { goMainMenu(sender); };
+void SerialPortDemoController::serialPortsWereConnected(const SerialPorts& ports) {
+    link.serialPortsWereConnected(ports);
+    restoreSettings();
 }
 
-void SerialPortDemoController::bindPopUps() {
-    using Controller = SerialPortDemoController;
-    struct Row {
-        PopUpButton Display::*popUp;
-        void (Controller::*action)(PopUpButton& sender);
-    };
-    static constexpr std::array rows{
-        Row{&Display::presetPopUpButton, &Controller::goMacro},
-        Row{&Display::modesPopUpButton, &Controller::goMode},
-        Row{&Display::memPopUpButton, &Controller::goMemory},
-        Row{&Display::colorPopUpButton, &Controller::goColor},
-        Row{&Display::spectrumModePopUpButton, &Controller::goSpectrumMode},
-        Row{&Display::smeterPopUpButton, &Controller::goSmeter},
-        Row{&Display::ampPopUpButton, &Controller::goAmp},
-        Row{&Display::AGCPopUpButton, &Controller::goAGC},
-        Row{&Display::ATTPopUpButton, &Controller::goATT},
-        Row{&Display::RFILPopUpButton, &Controller::goRFIL},
-        Row{&Display::DNRPopupButton, &Controller::goDNR},
-        Row{&Display::NBPopupButton, &Controller::goNB},
-        Row{&Display::FuncKnobButton, &Controller::goFunctionKnob},
-        Row{&Display::MPVDButton, &Controller::goMPVD},
-        Row{&Display::scopeSpeedPopUpButton, &Controller::goSuperPopUp},
-        Row{&Display::scopePeakPopUpButton, &Controller::goSuperPopUp},
-        Row{&Display::scopeLevelPopUpButton, &Controller::goSuperPopUp},
-        Row{&Display::scopeSpanPopUpButton, &Controller::goSuperPopUp},
-        Row{&Display::APOPopUpButton, &Controller::goSuperPopUp},
-        Row{&Display::powerPopUpButton, &Controller::goSuperPopUp},
-    };
-    for (const Row& row : rows)
-        (display.*row.popUp).action = [this, act = row.action](PopUpButton& sender) { (this->*act)(sender); };
-    display.menu.forEachPopUp([this](const MenuItemRow& row, PopUpButton& popUp) {
-        if (row.write != MenuWrite::none) popUp.action = [this](PopUpButton& sender) { goSuperPopUp(sender); };
-    });
-    display.afGainSlider.action = [this](Slider& sender) { goAF(sender); };
-    display.rfGainSlider.action = [this](Slider& sender) { goRF(sender); };
-    display.autoMemSquelchSlider.action = [this](Slider& sender) { goAutoMemSquelch(sender); };
+int SerialPortDemoController::numberOfRows(const TableView& table) const {
+    if (&table == &display.memoriesTable) return memoryChannels;
+    if (&table == &display.autoMemTable) return static_cast<int>(autoMemories.state().vqAutoMemoryArray.size());
+    return lists.numberOfRows(table);
 }
 
-void SerialPortDemoController::bindEntries() {
-    display.tuneButton.action = [this](Button& sender) { doTune(sender); };
-    display.freqTextField.action = [this](TextField& sender) { returnPressedInFreqField(sender); };
-
-    // A text that the transceiver cannot hold is refused while it is typed, and is not sent.
-    const auto refuseIn = [this](TextField& typed, TextField& notice) {
-        typed.onEdit = [this, &notice](TextField& field) { acceptsText(field, notice); };
-    };
-    refuseIn(display.callTextField, display.callNoticeField);
-    display.callTextField.action = [this](TextField& sender) { returnPressedInCallField(sender); };
-    display.saveCallButton.action = [this](Button& sender) {
-        if (acceptsText(display.callTextField, display.callNoticeField)) doCall(sender);
-    };
-    refuseIn(display.textMemoryField, display.textMemoryNoticeField);
-    display.textMemoryField.action = [this](TextField& sender) { returnPressedInTextMessageField(sender); };
-    display.sendTextMemoryButton.action = [this](Button& sender) {
-        if (acceptsText(display.textMemoryField, display.textMemoryNoticeField)) sendTextMessage(sender);
-    };
-    display.clearTextMemoryButton.action = [this](Button&) { clearTextMessage(); };
-    for (const auto& [popUp, text] : {std::pair{&display.cwMemoryPopUpButton, &display.cwMemoryField},
-                                      std::pair{&display.rttyMemoryPopUpButton, &display.rttyMemoryField},
-                                      std::pair{&display.pskMemoryPopUpButton, &display.pskMemoryField}}) {
-        refuseIn(*text, display.memoryTextNoticeField);
-        text->setMaximumLength(static_cast<int>(textPieceLength));
-        popUp->action = [this, text = text](PopUpButton& sender) {
-            if (acceptsText(*text, display.memoryTextNoticeField)) goSuperPopUp(sender);
-        };
-    }
+TableCell SerialPortDemoController::viewFor(const TableView& table, int row, int column) const {
+    if (&table == &display.memoriesTable)
+        return memoriesTableCell(memories.vqMemArray(), display.memsTableModePopUpButton.titles(), row, column);
+    if (&table == &display.autoMemTable) return autoMemTableCell(autoMemories.state(), row, column);
+    return lists.viewFor(table, row, column);
 }
 
-void SerialPortDemoController::bindLists() {
-    for (std::size_t i = 0; i < feedCount; ++i)
-        feedRefreshes_.emplace_back(platform_.http, [this](Scheduler::Duration delay, std::function<void()> task) {
-            later(delay, std::move(task));
-        });
+std::optional<int> SerialPortDemoController::acceptDrop(TableView& table, std::string_view plainText, int row) {
+    return &table == &display.memoriesTable ? memories.acceptDrop(plainText, row) : std::nullopt;
 }
 
-void SerialPortDemoController::later(Scheduler::Duration delay, std::function<void()> task) {
-    platform_.scheduler.after(delay, [alive = std::weak_ptr(alive_), run = std::move(task)] {
-        if (!alive.expired()) run();
-    });
+bool SerialPortDemoController::mouseDownInHeader(TableView& table, int column) {
+    return &table == &display.memoriesTable && memories.mouseDownInHeader(column);
 }
 
 }  // namespace corvane

@@ -10,7 +10,7 @@ void CommandPacer::submit(std::string command) {
         return;
     }
     pausing_ = true;
-    later_(interval, [this] {
+    tasks_.after(interval, [this] {
         pausing_ = false;
         if (waiting_)
             submit(*std::exchange(waiting_, std::nullopt));

@@ -6,20 +6,19 @@
 #include <optional>
 #include <string>
 
-#include "platform/scheduler.h"
+#include "platform/tasks.h"
 
 namespace corvane {
 
 class CommandPacer {
 public:
     using Send = std::function<void(std::string command)>;
-    using Later = std::function<void(Scheduler::Duration, std::function<void()>)>;
 
     static constexpr Scheduler::Duration interval{50};
 
-    // `later` runs its task no longer than the pacer lives; `rested` is called when the last command is 50 ms old.
-    CommandPacer(Send send, Later later, std::function<void()> rested)
-        : send_(std::move(send)), later_(std::move(later)), rested_(std::move(rested)) {}
+    // `tasks` end with the pacer; `rested` is called when the last command is 50 ms old.
+    CommandPacer(Send send, const Tasks& tasks, std::function<void()> rested)
+        : send_(std::move(send)), tasks_(tasks), rested_(std::move(rested)) {}
 
     // Sends the command at once, or as soon as the one before it is 50 ms old; only the latest of those that wait is
     // sent. "AG0080;", "AG0085;", "AG0090;" within 50 ms send the first and the last.
@@ -27,7 +26,7 @@ public:
 
 private:
     Send send_;
-    Later later_;
+    const Tasks& tasks_;
     std::function<void()> rested_;
     bool pausing_ = false;
     std::optional<std::string> waiting_;

@@ -1,236 +1,142 @@
-// The keys of the main window. A key is known by its tag; its kind builds a command, and the common tail sends it.
-#include <algorithm>
+#include "controls/front_panel.h"
 
-#include "controller/serial_port_demo_controller.h"
-#include "controls/front_panel_actions.h"
-#include "interpret/menu_groups.h"
+#include <algorithm>
+#include <utility>
+
 #include "wire/cat_command.h"
-#include "wire/operating_modes.h"
 #include "wire/wire_text.h"
 
 namespace corvane {
 
 using namespace std::chrono_literals;
 
-void SerialPortDemoController::go(Button& sender) {
-    using Controller = SerialPortDemoController;
-    struct Kind {
-        int firstTag;
-        int lastTag;
-        bool (Controller::*press)(Button& sender);
-    };
-    static constexpr std::array kinds{
-        Kind{firstBandTag, lastBandTag, &Controller::pressBandKey},
-        Kind{firstModeTag, firstModeTag + static_cast<int>(modeKeyCodes.size()) - 1, &Controller::pressModeKey},
-        Kind{225, 234, &Controller::pressToggleKey},
-        Kind{275, 276, &Controller::pressSwapKey},
-        Kind{277, 277, &Controller::pressCommandKey},
-        Kind{300, 300, &Controller::pressPowerOnKey},
-        Kind{301, 301, &Controller::pressPowerOffKey},
-        Kind{351, 351, &Controller::pressScopeColorKey},
-        Kind{352, 382, &Controller::pressCommandKey},
-        Kind{383, 384, &Controller::pressToggleKey},
-        Kind{450, 453, &Controller::pressStepKey},
-        Kind{460, 461, &Controller::pressCommandKey},
-        Kind{500, 501, &Controller::pressVfoKey},
-        Kind{502, 502, &Controller::pressMemoryKey},
-        Kind{503, 503, &Controller::pressMemoryBKey},
-        Kind{601, 605, &Controller::pressTextMemoryKey},
-        Kind{606, 606, &Controller::pressClearLogKey},
-        Kind{muteTag, muteTag, &Controller::pressMuteKey},
-        Kind{805, 805, &Controller::pressProductPageKey},
-        Kind{810, 814, &Controller::pressRefreshKey},
-        Kind{815, 815, &Controller::pressClearAutoMemoriesKey},
-        Kind{1225, 1234, &Controller::pressToggleKey},
-        Kind{1351, 1351, &Controller::pressScopeColorKey},
-        Kind{1383, 1384, &Controller::pressToggleKey},
-        Kind{muteTag + onTagOffset, muteTag + onTagOffset, &Controller::pressMuteKey},
-        Kind{2010100, 2040100, &Controller::pressReadMenuKey},
-        Kind{2050000, 2050000, &Controller::pressCommandKey},
-    };
-    static_assert(std::ranges::adjacent_find(kinds, [](const Kind& kind, const Kind& next) {
-                      return kind.lastTag >= next.firstTag;
-                  }) == kinds.end());
+FrontPanel::FrontPanel(Display& display, Link& link, Mirror& mirror, Voice& voice, Scheduler& scheduler)
+    : display_(display), link_(link), mirror_(mirror), voice_(voice), tasks_(scheduler) {}
 
-    const auto kind = std::ranges::find_if(
-        kinds, [tag = sender.tag()](const Kind& row) { return row.firstTag <= tag && tag <= row.lastTag; });
-    // What builds no command sends none: the one before it must not go out a second time.
-    if (kind != kinds.end() && (this->*kind->press)(sender)) finishGo();
-}
-
-void SerialPortDemoController::finishGo() {
+void FrontPanel::finish(std::string command) {
     // Break-in off must stay off: it alone goes out without the command that switches break-in on.
-    if (link.cmd != "BI0;") link.cmd += "BI1;";
-    sendCommand(link.cmd);
+    if (command != "BI0;") command += "BI1;";
+    link_.send(std::move(command));
 }
 
-bool SerialPortDemoController::pressBandKey(Button& sender) {
-    clearBandButtons();
+void FrontPanel::lightBandKey(Button& sender) {
+    mirror_.clearBandButtons();
     sender.setBezelColor(Color::blue);
-    const BandKey* key = rowWithTag(bandKeys, sender.tag());
-    if (!key) return false;
-    link.cmd = key->tag == mediumWaveTag ? "MD05;F" + radio.vqAorB + "001100000;" : std::string(key->command);
-    speak(key->announcement);
-    return true;
 }
 
-bool SerialPortDemoController::pressModeKey(Button& sender) {
+void FrontPanel::press(Button& sender, const BandKey& key) {
+    lightBandKey(sender);
+    voice_.speak(key.announcement);
+    finish(std::string(key.command));
+}
+
+void FrontPanel::press(Button& sender, const MediumWaveKey& key) {
+    lightBandKey(sender);
+    voice_.speak(key.announcement);
+    finish("MD05;F" + mirror_.state().vqAorB + "001100000;");
+}
+
+void FrontPanel::pressWithoutAction(Button& sender) {
+    if (sender.tag() >= firstBandTag && sender.tag() <= lastBandTag) lightBandKey(sender);
+}
+
+void FrontPanel::press(Button& sender, const ModeKey& key) {
     sender.setBezelColor(Color::blue);
-    link.cmd = std::string("MD0") + modeKeyCodes[static_cast<std::size_t>(sender.tag() - firstModeTag)] + ';';
-    return true;
+    finish(std::string("MD0") + key.code + ';');
 }
 
-bool SerialPortDemoController::pressToggleKey(Button& sender) {
-    const ToggleKey* key = toggleKey(sender.tag());
-    if (!key) return false;
-    const bool switchOn = sender.tag() == key->offTag;
-    link.cmd = switchOn ? key->onCommand : key->offCommand;
-    sender.setTag(switchOn ? key->offTag + onTagOffset : key->offTag);
-    sender.setBezelColor(switchOn ? key->onColor : Color::none);
-    if (!key->onTitle.empty()) sender.setTitle(switchOn ? key->onTitle : key->offTitle);
-    return true;
+void FrontPanel::press(Button& sender, const ToggleKey& key, int offTag) {
+    const bool switchOn = sender.tag() == offTag;
+    sender.setTag(switchOn ? offTag + onTagOffset : offTag);
+    sender.setBezelColor(switchOn ? key.onColor : Color::none);
+    if (!key.onTitle.empty()) sender.setTitle(switchOn ? key.onTitle : key.offTitle);
+    finish(std::string(switchOn ? key.onCommand : key.offCommand));
 }
 
-bool SerialPortDemoController::pressMuteKey(Button& sender) {
-    const bool mute = sender.tag() == muteTag;
-    link.cmd = mute ? "AG0000;" : "AG0" + radio.vqAFLevel + ';';
-    radio.vqMuted = mute ? 1 : 0;
-    sender.setTag(mute ? muteTag + onTagOffset : muteTag);
+void FrontPanel::press(Button& sender, const MuteKey&, int offTag) {
+    const bool mute = sender.tag() == offTag;
+    mirror_.setMuted(mute);
+    sender.setTag(mute ? offTag + onTagOffset : offTag);
     sender.setImage(mute ? Image::NSImageNameTouchBarAudioOutputMuteTemplate
                          : Image::NSImageNameTouchBarAudioOutputVolumeHighTemplate);
     sender.setBezelColor(mute ? Color::red : Color::none);
-    return true;
+    finish(mute ? "AG0000;" : "AG0" + mirror_.state().vqAFLevel + ';');
 }
 
-bool SerialPortDemoController::pressCommandKey(Button& sender) {
-    const CommandKey* key = rowWithTag(commandKeys, sender.tag());
-    if (!key) return false;
-    link.cmd = key->command;
-    if (!key->announcement.empty()) speak(key->announcement);
-    return true;
+void FrontPanel::press(Button&, const CommandKey& key) {
+    if (!key.announcement.empty()) voice_.speak(key.announcement);
+    finish(std::string(key.command));
 }
 
-// The first color key takes another tag with its first press, and means the same in both.
-bool SerialPortDemoController::pressScopeColorKey(Button& sender) {
+void FrontPanel::press(Button& sender, const FirstScopeColorKey& key, int firstTag) {
     sender.setBezelColor(Color::blue);
-    sender.setTag(351);
-    const bool known = pressCommandKey(sender);
-    sender.setTag(351 + onTagOffset);
-    return known;
+    sender.setTag(firstTag + onTagOffset);
+    finish(std::string(key.command));
 }
 
-bool SerialPortDemoController::pressStepKey(Button& sender) {
-    const StepKey* key = rowWithTag(stepKeys, sender.tag());
-    if (!key) return false;
-    stepFrequency(key->direction, key->step);
-    return true;
+void FrontPanel::press(Button&, const StepKey& key) {
+    stepFrequency(key.direction, key.step);
+    finish(link_.cmd());
 }
 
-void SerialPortDemoController::stepFrequency(std::string_view direction, int step) {
-    const long long frequency = decimalOrZero(radio.vqAorB == "A" ? radio.vqFreqA : radio.vqFreqB);
+void FrontPanel::stepFrequency(std::string_view direction, int step) {
+    const long long frequency = decimalOrZero(mirror_.activeFrequency());
     const long long stepped = direction == "up" ? frequency + step : frequency - step;
-    // Below nothing there is no frequency that nine digits could say.
-    link.cmd = 'F' + radio.vqAorB + zeroPadded(std::max(stepped, 0LL), 9) + ';';
-    sendCommand(link.cmd);
+    // Clamped at 0: the field has no sign.
+    link_.send('F' + mirror_.state().vqAorB + zeroPadded(std::max(stepped, 0LL), 9) + ';');
 }
 
-bool SerialPortDemoController::pressSwapKey(Button& sender) {
-    clearBandButtons();
-    link.cmd = sender.tag() == 275 ? "SV;VS;FA;IF;" : "SV;VS;FB;OI;";
-    return true;
+void FrontPanel::press(Button&, const SwapKey& key) {
+    mirror_.clearBandButtons();
+    finish(std::string(key.command));
 }
 
 // The first "PS1;" only wakes the transceiver; it needs a while before it takes the next. The window stays alive
 // meanwhile.
-bool SerialPortDemoController::pressPowerOnKey(Button& sender) {
-    link.cmd = "PS1;";
-    sendCommand(link.cmd);
+void FrontPanel::press(Button& sender, const PowerOnKey&) {
+    link_.send("PS1;");
     sender.setEnabled(false);
-    later(1250ms, [this, &sender, session = link.session] {
+    tasks_.after(1250ms, [this, &sender, session = link_.session()] {
         sender.setEnabled(true);
-        if (session != link.session) return;  // another link by now
-        link.cmd = "PS1;";
-        sendCommand(link.cmd);
-        finishGo();
+        if (session != link_.session()) return;  // another link by now
+        link_.send("PS1;");
+        finish("PS1;");
     });
-    return false;
 }
 
-bool SerialPortDemoController::pressPowerOffKey(Button&) {
-    link.cmd = "PS0;";
-    display.sMeter.setIntegerValue(0);
-    return true;
+void FrontPanel::press(Button&, const PowerOffKey&) {
+    display_.sMeter.setIntegerValue(0);
+    finish("PS0;");
 }
 
-bool SerialPortDemoController::pressVfoKey(Button& sender) {
-    const bool toA = sender.tag() == 500;
+void FrontPanel::press(Button&, const VfoKey& key) {
+    const bool toA = key.vfo == 'A';
+    const std::string& active = mirror_.state().vqAorB;
     if (toA)
-        sendCommand(radio.vqAorB == "B" ? "VS0;VS0;" : "VS1;");
+        link_.sendCommand(active == "B" ? "VS0;VS0;" : "VS1;");
     else
-        sendCommand(radio.vqAorB == "A" ? "VS1;VS1;" : "VS0;");
-    setActiveVfo(toA ? "A" : "B");
-    showActiveFrequency();
-    const std::string& title = (toA ? display.vqFreqAButton : display.vqFreqBButton).title();
-    highlightBand(decimalOrZero(without(title, ".")));
-    link.cmd = toA ? "VS1;ST0;MD0;VS0;IF;" : "VS0;ST0;MD0;VS1;OI;";
-    (toA ? radio.vqModeA : radio.vqModeB) = "vfo";
-    speak(toA ? "VFO eh..." + radio.vqVFOA : "VFO bee..." + radio.vqVFOB);
-    return true;
+        link_.sendCommand(active == "A" ? "VS1;VS1;" : "VS0;");
+    mirror_.setActiveVfo(toA ? "A" : "B");
+    mirror_.showActiveFrequency();
+    const std::string& title = (toA ? display_.vqFreqAButton : display_.vqFreqBButton).title();
+    mirror_.highlightBand(decimalOrZero(without(title, ".")));
+    mirror_.setTunedBy(key.vfo, "vfo");
+    voice_.speak(toA ? "VFO eh..." + mirror_.state().vqVFOA : "VFO bee..." + mirror_.state().vqVFOB);
+    finish(toA ? "VS1;ST0;MD0;VS0;IF;" : "VS0;ST0;MD0;VS1;OI;");
 }
 
-bool SerialPortDemoController::pressMemoryKey(Button&) {
-    link.cmd = "VM;";
-    if (radio.vqModeA == "vfo" || radio.vqModeB == "vfo") speak("Memory");
-    radio.vqModeA = "memory";
-    radio.vqModeB = "memory";
-    return true;
+void FrontPanel::press(Button&, const MemoryKey&) {
+    if (mirror_.state().vqModeA == "vfo" || mirror_.state().vqModeB == "vfo") voice_.speak("Memory");
+    mirror_.setTunedBy('A', "memory");
+    mirror_.setTunedBy('B', "memory");
+    finish("VM;");
 }
 
-bool SerialPortDemoController::pressMemoryBKey(Button&) {
-    link.cmd = "VS1;MC" + radio.vqMemChB + ";NR0;MD0;";
-    radio.vqModeB = "memory";
-    display.memPopUpButton.selectItem(decimal(radio.vqMemChB).value_or(1) - 1);
-    return true;
-}
-
-bool SerialPortDemoController::pressTextMemoryKey(Button& sender) {
-    const ModeGroup* group = modeGroup(modeCode(radio.vqMode));
-    if (!group) return false;
-    link.cmd = group->playCommands[static_cast<std::size_t>(sender.tag() - 601)];
-    display.sentTextMemoryField.setStringValue(sender.title() + '\n' + display.sentTextMemoryField.stringValue());
-    return true;
-}
-
-bool SerialPortDemoController::pressClearLogKey(Button&) {
-    display.sentTextMemoryField.setStringValue({});
-    link.cmd.clear();
-    return true;
-}
-
-bool SerialPortDemoController::pressProductPageKey(Button&) {
-    platform_.browser.open(hosts_.productPage());
-    return false;
-}
-
-bool SerialPortDemoController::pressClearAutoMemoriesKey(Button&) {
-    clearAutoMemories();
-    return false;
-}
-
-bool SerialPortDemoController::pressReadMenuKey(Button& sender) {
-    const auto group = std::ranges::find(menuGroups, sender.tag(), &MenuGroup::keyTag);
-    if (group == menuGroups.end()) return false;
-    startMenuRead(*group);
-    sendCommand(group->before);
-    for (int subMenu = group->firstSubMenu; subMenu < group->lastSubMenu; ++subMenu)
-        sendCommand(subMenuRequest(subMenu));
-    link.cmd = subMenuRequest(group->lastSubMenu);
-    if (!group->after.empty()) {
-        sendCommand(link.cmd);
-        link.cmd = group->after;
-    }
-    if (group->lastTwice) sendCommand(link.cmd);
-    return true;
+void FrontPanel::press(Button&, const MemoryBKey&) {
+    mirror_.setTunedBy('B', "memory");
+    const std::string& channel = mirror_.state().vqMemChB;
+    display_.memPopUpButton.selectItem(decimal(channel).value_or(1) - 1);
+    finish("VS1;MC" + channel + ";NR0;MD0;");
 }
 
 }  // namespace corvane

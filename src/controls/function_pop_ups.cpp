@@ -1,119 +1,104 @@
-// The function pop-ups and sliders: each sends what its position stands for. The display follows when the transceiver
-// reports.
-#include "controller/serial_port_demo_controller.h"
+#include "controls/function_pop_ups.h"
+
+#include <string>
+#include <utility>
+
 #include "controls/function_commands.h"
+#include "wire/memory_fields.h"
 #include "wire/setting_codes.h"
 
 namespace corvane {
 
 namespace {
 
-constexpr int scopeSpeedTag = 2000;
-constexpr int scopePeakTag = 2001;
-constexpr int scopeLevelTag = 2004;
-constexpr int scopeSpanTag = 2005;
-constexpr int powerOffTag = 2006;
-constexpr int powerTag = 2007;
-constexpr int firstEditorTag = 3001;
-constexpr int lastEditorTag = 3003;
+CommandPacer pacer(Slider& slider, Link& link, const Tasks& tasks) {
+    return {[&link](std::string command) { link.send(std::move(command)); }, tasks, [&slider] { slider.endMove(); }};
+}
 
 }  // namespace
 
-// A position that stands for nothing sends nothing; above all not the command before it.
-void SerialPortDemoController::sendBuilt(std::string command) {
-    if (command.empty()) return;
-    link.cmd = std::move(command);
-    sendCommand(link.cmd);
-}
+FunctionPopUps::FunctionPopUps(Display& display, Link& link, const Mirror& mirror, const Preferences& preferences,
+                               Voice& voice, Scheduler& scheduler)
+    : link_(link),
+      mirror_(mirror),
+      preferences_(preferences),
+      voice_(voice),
+      tasks_(scheduler),
+      afGainPacer_(pacer(display.afGainSlider, link, tasks_)),
+      rfGainPacer_(pacer(display.rfGainSlider, link, tasks_)) {}
 
-void SerialPortDemoController::goMode(PopUpButton& sender) {
+void FunctionPopUps::goMode(PopUpButton& sender) {
     const std::string command = modeCommand(sender.indexOfSelectedItem());
     if (command.empty()) return;
-    sendBuilt(command);
-    speak(sender.titleOfSelectedItem());
+    link_.send(command);
+    voice_.speak(sender.titleOfSelectedItem());
 }
 
-void SerialPortDemoController::goMemory(PopUpButton& sender) {
+void FunctionPopUps::goMemory(PopUpButton& sender) {
     const int index = sender.indexOfSelectedItem();
     std::string command = memoryCommand(index);
     if (command.empty()) return;
-    if (preferences.vqMemoryIPO == "1") command += "PA00;";
-    sendBuilt(std::move(command));
-    if (index < memoryChannels) speak(memories.vqMemArray[static_cast<std::size_t>(index)].tag);
+    if (preferences_.memoryIpo()) command += "PA00;";
+    link_.send(std::move(command));
+    if (index < memoryChannels) voice_.speak(mirror_.tagOfChannel(index));
 }
 
-void SerialPortDemoController::goColor(PopUpButton& sender) {
+void FunctionPopUps::goColor(PopUpButton& sender) {
     const std::string command = scopeColorCommand(sender.indexOfSelectedItem());
     if (command.empty()) return sender.takeBack();
-    sendCommand(command);
+    link_.sendCommand(command);
 }
 
-void SerialPortDemoController::goSpectrumMode(PopUpButton& sender) {
-    sendCommand(spectrumModeCommand(sender.indexOfSelectedItem()));
+void FunctionPopUps::goSpectrumMode(PopUpButton& sender) {
+    link_.sendCommand(spectrumModeCommand(sender.indexOfSelectedItem()));
 }
 
-void SerialPortDemoController::goSmeter(PopUpButton& sender) {
-    sendBuilt(indexCommand("MS", sender.indexOfSelectedItem(), "0;"));
+void FunctionPopUps::goSmeter(PopUpButton& sender) {
+    link_.send(indexCommand("MS", sender.indexOfSelectedItem(), "0;"));
 }
 
-void SerialPortDemoController::goAmp(PopUpButton& sender) {
-    sendBuilt(indexCommand("PA0", sender.indexOfSelectedItem(), ";"));
+void FunctionPopUps::goAmp(PopUpButton& sender) { link_.send(indexCommand("PA0", sender.indexOfSelectedItem(), ";")); }
+
+void FunctionPopUps::goAGC(PopUpButton& sender) { link_.send(indexCommand("GT0", sender.indexOfSelectedItem(), ";")); }
+
+void FunctionPopUps::goATT(PopUpButton& sender) { link_.send(indexCommand("RA0", sender.indexOfSelectedItem(), ";")); }
+
+void FunctionPopUps::goRFIL(PopUpButton& sender) { link_.send(roofingFilterCommand(sender.indexOfSelectedItem())); }
+
+void FunctionPopUps::goDNR(PopUpButton& sender) { link_.send(noiseReductionCommand(sender.indexOfSelectedItem())); }
+
+void FunctionPopUps::goNB(PopUpButton& sender) { link_.send(noiseBlankerCommand(sender.indexOfSelectedItem())); }
+
+void FunctionPopUps::goFunctionKnob(PopUpButton& sender) {
+    link_.send(functionKnobCommand(sender.indexOfSelectedItem()));
 }
 
-void SerialPortDemoController::goAGC(PopUpButton& sender) {
-    sendBuilt(indexCommand("GT0", sender.indexOfSelectedItem(), ";"));
-}
+void FunctionPopUps::goMPVD(PopUpButton& sender) { link_.send(multiKnobCommand(sender.indexOfSelectedItem())); }
 
-void SerialPortDemoController::goATT(PopUpButton& sender) {
-    sendBuilt(indexCommand("RA0", sender.indexOfSelectedItem(), ";"));
-}
-
-void SerialPortDemoController::goRFIL(PopUpButton& sender) {
-    sendBuilt(roofingFilterCommand(sender.indexOfSelectedItem()));
-}
-
-void SerialPortDemoController::goDNR(PopUpButton& sender) {
-    sendBuilt(noiseReductionCommand(sender.indexOfSelectedItem()));
-}
-
-void SerialPortDemoController::goNB(PopUpButton& sender) {
-    sendBuilt(noiseBlankerCommand(sender.indexOfSelectedItem()));
-}
-
-void SerialPortDemoController::goFunctionKnob(PopUpButton& sender) {
-    sendBuilt(functionKnobCommand(sender.indexOfSelectedItem()));
-}
-
-void SerialPortDemoController::goMPVD(PopUpButton& sender) {
-    sendBuilt(multiKnobCommand(sender.indexOfSelectedItem()));
-}
-
-void SerialPortDemoController::goAF(Slider& sender) {
+void FunctionPopUps::goAF(Slider& sender) {
     sender.beginMove();
     afGainPacer_.submit(gainCommand("AG0", sender.integerValue()));
 }
 
-void SerialPortDemoController::goRF(Slider& sender) {
+void FunctionPopUps::goRF(Slider& sender) {
     sender.beginMove();
     rfGainPacer_.submit(gainCommand("RG0", sender.integerValue()));
 }
 
-void SerialPortDemoController::goSuperPopUp(PopUpButton& sender) {
+void FunctionPopUps::chooseScopeSetting(PopUpButton& sender, std::string_view before) {
+    link_.send(indexCommand(before, sender.indexOfSelectedItem(), "0000;"));
+}
+
+void FunctionPopUps::chooseScopeLevel(PopUpButton& sender) {
+    const bool chosen = sender.indexOfSelectedItem() != PopUpButton::noSelection;
+    link_.send("SS04" + (chosen ? sender.titleOfSelectedItem() : "+00.0") + ';');
+}
+
+void FunctionPopUps::choosePower(PopUpButton& sender) {
     const int index = sender.indexOfSelectedItem();
-    const int tag = sender.tag();
-    if (tag == scopeSpeedTag) return sendBuilt(indexCommand("SS00", index, "0000;"));
-    if (tag == scopePeakTag) return sendBuilt(indexCommand("SS01", index, "0000;"));
-    if (tag == scopeLevelTag) {
-        return sendBuilt("SS04" + (index < 0 ? "+00.0" : sender.titleOfSelectedItem()) + ';');
-    }
-    if (tag == scopeSpanTag) return sendBuilt(indexCommand("SS05", index, "0000;"));
-    if (tag == powerOffTag) return planPowerOff(index);
-    if (tag == powerTag && index >= 0) {
-        sendBuilt(powerCommand(index));
-        return speak(std::to_string(index + lowestPower) + " watts");
-    }
-    if (firstEditorTag <= tag && tag <= lastEditorTag) return writeMemoryText(sender);
-    writeMenuItem(sender);
+    if (index == PopUpButton::noSelection) return;
+    link_.send(powerCommand(index));
+    voice_.speak(std::to_string(index + lowestPower) + " watts");
 }
 
 }  // namespace corvane

@@ -1,76 +1,82 @@
-// Texts on the air: what the operator types, and the memories that the transceiver keeps of each family of modes.
+#include "controls/keyer.h"
+
 #include <array>
 
-#include "controller/serial_port_demo_controller.h"
 #include "controls/text_messages.h"
 #include "wire/operating_modes.h"
 
 namespace corvane {
 
+namespace {
+
 // One row per editor, by the tag of the pop-up that writes its text.
-struct SerialPortDemoController::MemoryEditor {
+struct MemoryEditor {
     int tag;
     TextField Display::*text;
-    const ModeGroup& family;
+    const ModeGroup& group;
 };
 
-const SerialPortDemoController::MemoryEditor* SerialPortDemoController::memoryEditor(int tag) {
-    static constexpr std::array editors{
-        MemoryEditor{3001, &Display::cwMemoryField, modeGroups[0]},
-        MemoryEditor{3002, &Display::rttyMemoryField, modeGroups[1]},
-        MemoryEditor{3003, &Display::pskMemoryField, modeGroups[2]},
-    };
-    for (const MemoryEditor& editor : editors)
-        if (editor.tag == tag) return &editor;
-    return nullptr;
+constexpr std::array memoryEditors{
+    MemoryEditor{3001, &Display::cwMemoryField, modeGroups[cwGroup]},
+    MemoryEditor{3002, &Display::rttyMemoryField, modeGroups[rttyGroup]},
+    MemoryEditor{3003, &Display::pskMemoryField, modeGroups[pskGroup]},
+};
+
+const ModeGroup* groupInUse(const Mirror& mirror) { return modeGroup(modeCode(mirror.state().vqMode)); }
+
+}  // namespace
+
+Keyer::Keyer(Display& display, Link& link, Mirror& mirror) : display_(display), link_(link), mirror_(mirror) {
+    for (TextField* text : {&display.cwMemoryField, &display.rttyMemoryField, &display.pskMemoryField})
+        text->setMaximumLength(static_cast<int>(textPieceLength));
 }
 
 // Outside CW, RTTY and PSK there is no memory to send from: nothing goes out and what was typed stays.
-void SerialPortDemoController::sendTextMessage(Button&) {
-    const ModeGroup* family = modeGroup(modeCode(radio.vqMode));
-    if (!family) return;
-    const std::string typed = display.textMemoryField.stringValue();
-    rememberScratchMemory(*family);
+void Keyer::sendTextMessage(Button&) {
+    const ModeGroup* group = groupInUse(mirror_);
+    if (!group) return;
+    const std::string typed = display_.textMemoryField.stringValue();
+    // The memory 5 reported last may be another group's, after all three have been read.
+    mirror_.rememberScratchMemory(static_cast<std::size_t>(group - modeGroups.data()));
     for (const std::string_view piece : textPieces(typed)) {
-        link.cmd = storeScratch(*family, piece);
-        writeString(link.cmd);
-        link.cmd = family->playCommands[scratchMemory - 1];
-        writeString(link.cmd);
+        link_.write(storeScratch(*group, piece));
+        link_.write(std::string(group->playCommands[scratchMemory - 1]));
     }
-    link.cmd = storeScratch(*family, radio.vqTextMemoryRevert);
-    writeString(link.cmd);
-    display.sentTextMemoryField.setStringValue(typed + '\n' + display.sentTextMemoryField.stringValue());
+    link_.write(storeScratch(*group, mirror_.state().vqTextMemoryRevert));
+    display_.sentTextMemoryField.setStringValue(typed + '\n' + display_.sentTextMemoryField.stringValue());
     clearTextMessage();
 }
 
-// The memory 5 reported last may be another family's, after all three have been read.
-void SerialPortDemoController::rememberScratchMemory(const ModeGroup& family) {
-    const std::array families{&display.cwMemoryButtons, &display.rttyMemoryButtons, &display.pskMemoryButtons};
-    const auto index = static_cast<std::size_t>(&family - modeGroups.data());
-    radio.vqTextMemoryRevert = (*families[index])[scratchMemory - 1].title();
+void Keyer::clearTextMessage() {
+    display_.textMemoryField.endEditing();
+    display_.textMemoryField.setStringValue({});
+    display_.textMemoryNoticeField.setStringValue({});
 }
 
-void SerialPortDemoController::clearTextMessage() {
-    display.textMemoryField.endEditing();
-    display.textMemoryField.setStringValue({});
-    display.textMemoryNoticeField.setStringValue({});
+void Keyer::returnPressedInTextMessageField(TextField&) { display_.sendTextMemoryButton.performClick(); }
+
+std::optional<std::string> Keyer::playMemory(int memory, const Button& sender) {
+    const ModeGroup* group = groupInUse(mirror_);
+    if (!group) return std::nullopt;
+    display_.sentTextMemoryField.setStringValue(sender.title() + '\n' + display_.sentTextMemoryField.stringValue());
+    return std::string(group->playCommands[static_cast<std::size_t>(memory - 1)]);
 }
 
-void SerialPortDemoController::returnPressedInTextMessageField(TextField&) {
-    display.sendTextMemoryButton.performClick();
-}
+void Keyer::clearLog() { display_.sentTextMemoryField.setStringValue({}); }
 
 // An entry without a memory, the blank one included, has nowhere to store the text: it stays in the editor.
-void SerialPortDemoController::writeMemoryText(PopUpButton& sender) {
-    const MemoryEditor* editor = memoryEditor(sender.tag());
+void Keyer::writeMemoryText(PopUpButton& sender) {
     const int memory = sender.indexOfSelectedItem();
-    if (!editor || memory < 1 || memory > Display::memories) return;
-    TextField& field = display.*editor->text;
-    link.cmd = storeAndReadBack(editor->family, memory, field.stringValue());
-    field.endEditing();
-    field.setStringValue({});
-    sender.selectItem(0);  // no memory is chosen beforehand for the next text
-    sendCommand(link.cmd);
+    if (memory < 1 || memory > Display::memories) return;
+    for (const MemoryEditor& editor : memoryEditors) {
+        if (editor.tag != sender.tag()) continue;
+        TextField& field = display_.*editor.text;
+        const std::string command = storeAndReadBack(editor.group, memory, field.stringValue());
+        field.endEditing();
+        field.setStringValue({});
+        sender.selectItem(0);  // no memory is chosen beforehand for the next text
+        link_.send(command);
+    }
 }
 
 }  // namespace corvane

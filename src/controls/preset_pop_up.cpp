@@ -1,10 +1,15 @@
-// The preset pop-up, by its titles.
-#include "controller/serial_port_demo_controller.h"
+#include "controls/preset_pop_up.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "controls/presets.h"
 
 namespace corvane {
 
-void SerialPortDemoController::fillPresetPopUp() {
+PresetPopUp::PresetPopUp(Display& display, Link& link, const Mirror& mirror, Voice& voice)
+    : link_(link), mirror_(mirror), voice_(voice) {
     std::vector<std::string> titles;
     std::vector<PopUpButton::Group> groups;
     for (const Preset& preset : presets) {
@@ -16,11 +21,11 @@ void SerialPortDemoController::fillPresetPopUp() {
 }
 
 // A title without a row is announced and sends nothing: the command before it must not go out a second time.
-void SerialPortDemoController::goMacro(PopUpButton& sender) {
+void PresetPopUp::goMacro(PopUpButton& sender) {
     const std::string title = sender.titleOfSelectedItem();
     if (const Preset* preset = presetWithTitle(title))
-        sendBuilt(std::string(preset->prefix).append(radio.vqAorB).append(preset->suffix));
-    speak(title);
+        link_.send(std::string(preset->prefix).append(mirror_.state().vqAorB).append(preset->suffix));
+    voice_.speak(title);
 }
 
 }  // namespace corvane

@@ -18,4 +18,10 @@ std::string refusal(std::string_view text) {
     return {};
 }
 
+bool acceptsText(const TextField& typed, TextField& notice) {
+    const std::string reason = refusal(typed.stringValue());
+    notice.setStringValue(reason);
+    return reason.empty();
+}
+
 }  // namespace corvane

@@ -19,7 +19,7 @@ using Show = std::string (*)(std::string_view field);
 using Link = std::string (*)(const FeedRow& row, const ServiceHosts& hosts);
 
 struct CellRow {
-    FeedTable table;
+    Feed feed;
     std::string_view column;
     std::size_t position;
     Show show;
@@ -71,41 +71,41 @@ std::string parkPage(const FeedRow& spot, const ServiceHosts& hosts) {
 std::string ownPage(const FeedRow& row, const ServiceHosts&) { return field(row, 4); }
 
 constexpr std::array cells{
-    CellRow{FeedTable::pota, "activator", 0, asIs},
-    CellRow{FeedTable::pota, "frequency", 1, kilohertz},
-    CellRow{FeedTable::pota, "mode", 2, asIs},
-    CellRow{FeedTable::pota, "comment", 3, asIs},
-    CellRow{FeedTable::pota, "name", 4, asIs, spotOnMap},
-    CellRow{FeedTable::pota, "last", 5, minutes},
-    CellRow{FeedTable::pota, "location", 8, asIs},
-    CellRow{FeedTable::pota, "reference", 9, asIs, parkPage},
-    CellRow{FeedTable::sota, "activator2", 0, asIs},
-    CellRow{FeedTable::sota, "activatorName", 1, dashFor<unknownActivator>},
-    CellRow{FeedTable::sota, "frequency2", 2, megahertzInKilohertz},
-    CellRow{FeedTable::sota, "mode2", 3, asIs},
-    CellRow{FeedTable::sota, "comment2", 4, asIs},
-    CellRow{FeedTable::sota, "name2", 6, dashFor<unknownSummit>},
-    CellRow{FeedTable::sota, "location2", 7, asIs},
-    CellRow{FeedTable::sota, "reference2", 8, asIs},
-    CellRow{FeedTable::sota, "last2", 9, minutes},
-    CellRow{FeedTable::netLogger, "netName", 0, asIs},
-    CellRow{FeedTable::netLogger, "freq", 1, eitherInKilohertz},
-    CellRow{FeedTable::netLogger, "mode2", 2, asIs},
-    CellRow{FeedTable::netLogger, "checkIns", 3, asIs},
-    CellRow{FeedTable::nets, "netName", 0, asIs, ownPage},
-    CellRow{FeedTable::nets, "freq", 1, asIs},
-    CellRow{FeedTable::nets, "utc", 2, asIs},
-    CellRow{FeedTable::nets, "mode", 3, asIs},
-    CellRow{FeedTable::nets, "confirmed", 5, asIs},
-    CellRow{FeedTable::mediumWave, "station", 0, asIs, ownPage},
-    CellRow{FeedTable::mediumWave, "freq", 1, asIs},
-    CellRow{FeedTable::mediumWave, "city", 2, asIs},
-    CellRow{FeedTable::mediumWave, "power", 3, kilowatts},
+    CellRow{Feed::pota, "activator", 0, asIs},
+    CellRow{Feed::pota, "frequency", 1, kilohertz},
+    CellRow{Feed::pota, "mode", 2, asIs},
+    CellRow{Feed::pota, "comment", 3, asIs},
+    CellRow{Feed::pota, "name", 4, asIs, spotOnMap},
+    CellRow{Feed::pota, "last", 5, minutes},
+    CellRow{Feed::pota, "location", 8, asIs},
+    CellRow{Feed::pota, "reference", 9, asIs, parkPage},
+    CellRow{Feed::sota, "activator2", 0, asIs},
+    CellRow{Feed::sota, "activatorName", 1, dashFor<unknownActivator>},
+    CellRow{Feed::sota, "frequency2", 2, megahertzInKilohertz},
+    CellRow{Feed::sota, "mode2", 3, asIs},
+    CellRow{Feed::sota, "comment2", 4, asIs},
+    CellRow{Feed::sota, "name2", 6, dashFor<unknownSummit>},
+    CellRow{Feed::sota, "location2", 7, asIs},
+    CellRow{Feed::sota, "reference2", 8, asIs},
+    CellRow{Feed::sota, "last2", 9, minutes},
+    CellRow{Feed::netLogger, "netName", 0, asIs},
+    CellRow{Feed::netLogger, "freq", 1, eitherInKilohertz},
+    CellRow{Feed::netLogger, "mode2", 2, asIs},
+    CellRow{Feed::netLogger, "checkIns", 3, asIs},
+    CellRow{Feed::nets, "netName", 0, asIs, ownPage},
+    CellRow{Feed::nets, "freq", 1, asIs},
+    CellRow{Feed::nets, "utc", 2, asIs},
+    CellRow{Feed::nets, "mode", 3, asIs},
+    CellRow{Feed::nets, "confirmed", 5, asIs},
+    CellRow{Feed::mediumWave, "station", 0, asIs, ownPage},
+    CellRow{Feed::mediumWave, "freq", 1, asIs},
+    CellRow{Feed::mediumWave, "city", 2, asIs},
+    CellRow{Feed::mediumWave, "power", 3, kilowatts},
 };
 
-const CellRow* cellRow(FeedTable table, std::string_view column, const FeedRow& row) {
+const CellRow* cellRow(Feed feed, std::string_view column, const FeedRow& row) {
     const auto cell =
-        std::ranges::find_if(cells, [&](const CellRow& each) { return each.table == table && each.column == column; });
+        std::ranges::find_if(cells, [&](const CellRow& each) { return each.feed == feed && each.column == column; });
     return cell == cells.end() || cell->position >= row.fields.size() ? nullptr : &*cell;
 }
 
@@ -116,13 +116,13 @@ std::string shownText(const CellRow& cell, const FeedRow& row) {
 
 }  // namespace
 
-std::string feedCell(FeedTable table, std::string_view column, const FeedRow& row) {
-    const CellRow* cell = cellRow(table, column, row);
+std::string feedCell(Feed feed, std::string_view column, const FeedRow& row) {
+    const CellRow* cell = cellRow(feed, column, row);
     return cell ? shownText(*cell, row) : std::string();
 }
 
-TableCell feedTableCell(FeedTable table, std::string_view column, const FeedRow& row, const ServiceHosts& hosts) {
-    const CellRow* cell = cellRow(table, column, row);
+TableCell feedTableCell(Feed feed, std::string_view column, const FeedRow& row, const ServiceHosts& hosts) {
+    const CellRow* cell = cellRow(feed, column, row);
     if (!cell) return {};
     std::string address = cell->link && !row[cell->position].empty() ? cell->link(row, hosts) : std::string();
     if (address.empty()) return TextCell{shownText(*cell, row)};

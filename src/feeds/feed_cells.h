@@ -5,18 +5,17 @@
 #include <string_view>
 
 #include "app/service_hosts.h"
+#include "display/feed.h"
 #include "display/table_cell.h"
 #include "feeds/feed_row.h"
 
 namespace corvane {
 
-enum class FeedTable { pota, sota, netLogger, nets, mediumWave };
-
 // The text of a column by its identifier; a row that is too short shows nothing.
-std::string feedCell(FeedTable table, std::string_view column, const FeedRow& row);
+std::string feedCell(Feed feed, std::string_view column, const FeedRow& row);
 
 // The same as a cell: a link where the text leads elsewhere. A park's reference leads to
 // "https://pota.app/#/park/US-0001", its name to the map, a net or a station to the page that the list names.
-TableCell feedTableCell(FeedTable table, std::string_view column, const FeedRow& row, const ServiceHosts& hosts);
+TableCell feedTableCell(Feed feed, std::string_view column, const FeedRow& row, const ServiceHosts& hosts);
 
 }  // namespace corvane

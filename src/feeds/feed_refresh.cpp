@@ -4,7 +4,8 @@
 
 namespace corvane {
 
-void FeedRefresh::start(const HttpRequest& request, const Read& read) {
+void FeedRefresh::start(const HttpRequest& request, const Read& read, std::function<void()> then) {
+    if (then) ends_.push_back(std::move(then));
     drop();
     const auto box = std::make_shared<ResponseBox>();
     box->show = read({{}, "no answer within 2 s"});
@@ -20,7 +21,7 @@ void FeedRefresh::start(const HttpRequest& request, const Read& read) {
             finish();
         };
     });
-    later_(patience, [this, current] {
+    tasks_.after(patience, [this, current] {
         if (box_ && box_ == current.lock()) finish();
     });
 }
@@ -29,6 +30,7 @@ void FeedRefresh::finish() {
     const auto box = std::exchange(box_, nullptr);
     if (box->cancel) box->cancel();
     box->show();
+    for (const auto& then : std::exchange(ends_, {})) then();
 }
 
 void FeedRefresh::drop() {

@@ -4,9 +4,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/http_client.h"
-#include "platform/scheduler.h"
+#include "platform/tasks.h"
 
 namespace corvane {
 
@@ -19,22 +20,21 @@ struct ResponseBox {
 // Refreshes of one feed never overlap: a new one ends the one that is under way, whose answer nobody sees.
 class FeedRefresh {
 public:
-    using Later = std::function<void(Scheduler::Duration, std::function<void()>)>;
     // Makes of an answer what is then to be done on the user-interface thread. Runs on any thread, also when nobody
     // waits for it any more, so it may use only what it owns.
     using Read = std::function<HttpClient::Rest(const HttpResponse& response)>;
 
     static constexpr Scheduler::Duration patience{2000};
 
-    // `later` runs its task no longer than the refresh lives.
-    FeedRefresh(HttpClient& client, Later later) : client_(client), later_(std::move(later)) {}
+    FeedRefresh(HttpClient& client, const Tasks& tasks) : client_(client), tasks_(tasks) {}
     ~FeedRefresh() { drop(); }
     FeedRefresh(const FeedRefresh&) = delete;
     FeedRefresh& operator=(const FeedRefresh&) = delete;
 
     // Ends once with what `read` makes of the answer, or, when the patience is over before that is done, of a response
-    // without a body whose problem says so. What comes later is dropped.
-    void start(const HttpRequest& request, const Read& read);
+    // without a body whose problem says so. What comes later is dropped. `then`, if any, is called after the end of
+    // this refresh or of the one that takes its place.
+    void start(const HttpRequest& request, const Read& read, std::function<void()> then = {});
     bool running() const { return box_ != nullptr; }
 
 private:
@@ -42,8 +42,9 @@ private:
     void drop();
 
     HttpClient& client_;
-    Later later_;
+    const Tasks& tasks_;
     std::shared_ptr<ResponseBox> box_;
+    std::vector<std::function<void()>> ends_;
 };
 
 }  // namespace corvane

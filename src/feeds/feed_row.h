@@ -16,6 +16,14 @@ struct FeedRow {
 
 using FeedList = std::vector<FeedRow>;
 
+inline constexpr std::size_t longestSpokenName = 200;  // characters
+
+// The row with this index, or nullptr when the list has been refreshed since, or the row has fewer fields.
+inline const FeedRow* rowAt(const FeedList& list, int index, std::size_t fields) {
+    const auto row = static_cast<std::size_t>(index);
+    return row < list.size() && list[row].fields.size() >= fields ? &list[row] : nullptr;
+}
+
 // What is kept of a list, from its top. Services have some hundred rows; a table can be searched through so many while
 // the operator types.
 inline constexpr std::size_t mostRows = 10'000;

@@ -6,15 +6,12 @@
 
 #include "app/service_hosts.h"
 #include "display/display.h"
-#include "feeds/feed_cells.h"
+#include "display/feed.h"
 #include "feeds/feed_state.h"
 #include "feeds/spots.h"
 #include "feeds/tagged_lists.h"
 
 namespace corvane {
-
-enum class Feed : int { pota, netLogger, sota, nets, mediumWave, bandConditions };
-inline constexpr std::size_t feedCount = 6;
 
 struct ListFeed {
     Feed feed;
@@ -26,27 +23,24 @@ struct ListFeed {
     TableView Display::*table;
     TextField Display::*status;
     std::string_view noun;  // what the rows are: "spots", of which one is a "spot"
-    FeedTable cells;
 };
 
 // In the order in which they are fetched at the start.
 inline constexpr std::array listFeeds{
     ListFeed{Feed::pota, &ServiceHosts::pota, "/spot/activator", false, decodePotaSpots, &FeedState::vqPotaArray,
-             &Display::potaTable, &Display::potaStatusField, "spots", FeedTable::pota},
+             &Display::potaTable, &Display::potaStatusField, "spots"},
     ListFeed{Feed::netLogger, &ServiceHosts::netLogger, "/api/GetActiveNets.php", false,
              [](std::string_view body, Instant) { return decodeNetLoggerNets(body); }, &FeedState::vqNetLoggerArray,
-             &Display::netLoggerTable, &Display::netLoggerStatusField, "nets", FeedTable::netLogger},
+             &Display::netLoggerTable, &Display::netLoggerStatusField, "nets"},
     ListFeed{Feed::sota, &ServiceHosts::sota, "/api/spots/-3/all", false, decodeSotaSpots, &FeedState::vqSotaArray,
-             &Display::sotaTable, &Display::sotaStatusField, "spots", FeedTable::sota},
+             &Display::sotaTable, &Display::sotaStatusField, "spots"},
     ListFeed{Feed::nets, &ServiceHosts::directory, "/nets.php", true,
              [](std::string_view body, Instant) { return decodeNets(body); }, &FeedState::vqNetsArray,
-             &Display::netsTable, &Display::netsStatusField, "nets", FeedTable::nets},
+             &Display::netsTable, &Display::netsStatusField, "nets"},
     ListFeed{Feed::mediumWave, &ServiceHosts::directory, "/mw.php", true,
              [](std::string_view body, Instant) { return decodeMWStations(body); }, &FeedState::vqMWArray,
-             &Display::mwTable, &Display::mwStatusField, "stations", FeedTable::mediumWave},
+             &Display::mwTable, &Display::mwStatusField, "stations"},
 };
-
-inline constexpr std::string_view bandConditionsPath = "/solarxml.php";
 
 constexpr const ListFeed& listFeed(Feed feed) {
     for (const ListFeed& row : listFeeds)

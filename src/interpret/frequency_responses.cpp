@@ -1,13 +1,28 @@
 // The two VFOs as the transceiver reports them: frequencies, memory channels, mode, and which side is active.
-#include "controller/serial_port_demo_controller.h"
 #include "interpret/band_table.h"
+#include "interpret/mirror.h"
 #include "interpret/spoken_frequency.h"
+#include "wire/memory_fields.h"
 #include "wire/operating_modes.h"
 #include "wire/wire_text.h"
 
 namespace corvane {
 
-struct SerialPortDemoController::Side {
+namespace {
+
+// A VFO's title without its hertz: "14.250.000" gives "14.250".
+std::string_view withoutHertz(std::string_view title) {
+    return title.substr(0, title.size() > 4 ? title.size() - 4 : 0);
+}
+
+}  // namespace
+
+Mirror::Mirror(Display& display, Link& link, Voice& voice) : display_(display), link_(link), voice_(voice) {
+    disableTextMemoryControls();
+    setActiveVfo(state_.vqAorB);
+}
+
+struct Mirror::Side {
     std::string_view commandName;  // of its frequency report
     std::string& frequency;        // vqFreqA or vqFreqB
     std::string& tunedBy;          // vqModeA or vqModeB
@@ -18,20 +33,30 @@ struct SerialPortDemoController::Side {
     std::string_view vfo;
 };
 
-SerialPortDemoController::Side SerialPortDemoController::side(char vfo) {
+Mirror::Side Mirror::side(char vfo) {
     if (vfo == 'A')
-        return {
-            "FA", radio.vqFreqA, radio.vqModeA, radio.vqVFOA, display.vqFreqAButton, display.vqFreqBButton, Color::red,
-            "A"};
-    return {
-        "FB", radio.vqFreqB, radio.vqModeB, radio.vqVFOB, display.vqFreqBButton, display.vqFreqAButton, Color::green,
-        "B"};
+        return {"FA",
+                state_.vqFreqA,
+                state_.vqModeA,
+                state_.vqVFOA,
+                display_.vqFreqAButton,
+                display_.vqFreqBButton,
+                Color::red,
+                "A"};
+    return {"FB",
+            state_.vqFreqB,
+            state_.vqModeB,
+            state_.vqVFOB,
+            display_.vqFreqBButton,
+            display_.vqFreqAButton,
+            Color::green,
+            "B"};
 }
 
-void SerialPortDemoController::readFrequencyA(std::string_view response) { readFrequency(response, 'A'); }
-void SerialPortDemoController::readFrequencyB(std::string_view response) { readFrequency(response, 'B'); }
+void Mirror::takeFrequencyA(std::string_view response) { takeFrequency(response, 'A'); }
+void Mirror::takeFrequencyB(std::string_view response) { takeFrequency(response, 'B'); }
 
-void SerialPortDemoController::readFrequency(std::string_view response, char vfo) {
+void Mirror::takeFrequency(std::string_view response, char vfo) {
     const Side reported = side(vfo);
     reported.frequency = without(response, reported.commandName);
     const std::string_view digits = reported.frequency;
@@ -44,34 +69,32 @@ void SerialPortDemoController::readFrequency(std::string_view response, char vfo
     std::string exact = shown + '.';
     exact.append(kilohertz).append(hertz);
     shown.append(".").append(kilohertz);
-    display.freqTextField.setStringValue(shown);
+    display_.freqTextField.setStringValue(shown);
     setActiveVfo(reported.vfo);
     if (reported.tunedBy == "vfo") {
         reported.spoken = spokenFrequency(digits);
         shown.append(".").append(hertz);
         reported.frequencyButton.setTitle(shown);
     }
-    sendCommand("GT0;RA0;RF0;");
-    showOperatorClass(exact);
+    link_.sendCommand("GT0;RA0;RF0;");
+    onFrequency(exact);
 }
 
-void SerialPortDemoController::readMemoryChannel(std::string_view response) {
+void Mirror::takeMemoryChannel(std::string_view response) {
     if (response.size() < 5 || !isAscii(lastOf(response, 3))) return;
-    radio.vqMemCh = radio.vqMemChA = radio.vqMemChB = lastOf(response, 3);
-    if (radio.vqAorB != "A") return;
-    display.vqMemAButton.setTitle("  M-" + radio.vqMemCh.substr(1) + ' ' + radio.vqMemATag);
+    state_.vqMemCh = state_.vqMemChA = state_.vqMemChB = lastOf(response, 3);
+    if (state_.vqAorB != "A") return;
+    display_.vqMemAButton.setTitle("  M-" + state_.vqMemCh.substr(1) + ' ' + state_.vqMemATag);
 }
 
-void SerialPortDemoController::readInformation(std::string_view response) { readSideInformation(response, 'A'); }
-void SerialPortDemoController::readOppositeInformation(std::string_view response) {
-    readSideInformation(response, 'B');
-}
+void Mirror::takeInformation(std::string_view response) { takeSideInformation(response, 'A'); }
+void Mirror::takeOppositeInformation(std::string_view response) { takeSideInformation(response, 'B'); }
 
-void SerialPortDemoController::readSideInformation(std::string_view response, char vfo) {
+void Mirror::takeSideInformation(std::string_view response, char vfo) {
     const std::string_view channel = positions(response, 3, 3);
     if (channel.size() != 3 || !isAscii(channel)) return;
     const Side reported = side(vfo);
-    Button& memory = display.vqMemAButton;
+    Button& memory = display_.vqMemAButton;
     if (channel == "000") {
         memory.setBezelColor(Color::none);
         reported.frequencyButton.setBezelColor(reported.highlight);
@@ -87,62 +110,85 @@ void SerialPortDemoController::readSideInformation(std::string_view response, ch
     } else {
         const int index = decimal(number).value_or(1) - 1;
         if (index < 0 || index >= memoryChannels) return;
-        memory.setTitle("  M-" + number + ' ' + memories.vqMemArray[static_cast<std::size_t>(index)].tag);
+        memory.setTitle("  M-" + number + ' ' + tagOfChannel(index));
         memory.setBezelColor(Color::purple);
-        display.memPopUpButton.selectItem(index);
+        display_.memPopUpButton.selectItem(index);
     }
-    display.vqFreqAButton.setBezelColor(Color::none);
-    display.vqFreqBButton.setBezelColor(Color::none);
+    display_.vqFreqAButton.setBezelColor(Color::none);
+    display_.vqFreqBButton.setBezelColor(Color::none);
 }
 
-void SerialPortDemoController::readMode(std::string_view response) {
+void Mirror::takeMode(std::string_view response) {
     const char code = response.back();
-    if (const auto name = modeName(code)) radio.vqMode = *name;
-    display.modeField.setStringValue(radio.vqMode);
-    display.modesPopUpButton.selectItem(modePopUpIndex(code));
+    if (const auto name = modeName(code)) state_.vqMode = *name;
+    display_.modeField.setStringValue(state_.vqMode);
+    display_.modesPopUpButton.selectItem(modePopUpIndex(code));
     const ModeGroup* group = modeGroup(code);
-    display.sendBox.setTitle(group ? group->boxTitle : noModeGroupBoxTitle);
+    display_.sendBox.setTitle(group ? group->boxTitle : noModeGroupBoxTitle);
     if (group) {
-        sendCommand(group->memoryRequests);
+        link_.sendCommand(group->memoryRequests);
         enableTextMemoryControls();
     } else {
         disableTextMemoryControls();
     }
 }
 
-void SerialPortDemoController::readVfoASelected(std::string_view) { setActiveVfo("A"); }
-void SerialPortDemoController::readVfoBSelected(std::string_view) { setActiveVfo("B"); }
+void Mirror::takeVfoASelected(std::string_view) { setActiveVfo("A"); }
+void Mirror::takeVfoBSelected(std::string_view) { setActiveVfo("B"); }
 
-void SerialPortDemoController::setActiveVfo(std::string_view vfo) {
-    radio.vqAorB = vfo;
-    display.activeVfoField.setStringValue(vfo);
+// A channel that was read outside a read of all channels is the one in use.
+void Mirror::takeMemoryInUse(std::string_view response) {
+    if (!isAscii(response)) return;
+    state_.vqMemFreq = positions(response, 6, 9);
+    std::string_view tag = lastOf(response, 12);
+    while (!tag.empty() && trimmed(tag.substr(tag.size() - 1)).empty()) tag.remove_suffix(1);
+    if (state_.vqAorB == "A") {
+        state_.vqMemATag = tag;
+        display_.vqMemAButton.setTitle("  M-" + std::string(lastOf(state_.vqMemChA, 2)) + ' ' + state_.vqMemATag);
+        state_.vqModeA = state_.vqMemFreq == state_.vqFreqA ? "memory" : "vfo";
+    } else if (state_.vqAorB == "B") {
+        state_.vqMemBTag = tag;
+        state_.vqModeB = state_.vqMemFreq == state_.vqFreqB ? "memory" : "vfo";
+    }
 }
 
-void SerialPortDemoController::clearBandButtons() {
-    for (Button* button : display.bandButtons) button->setBezelColor(Color::none);
+void Mirror::setTunedBy(char vfo, std::string_view by) { side(vfo).tunedBy = by; }
+
+void Mirror::showActiveFrequency() {
+    const Button& active = state_.vqAorB == "A" ? display_.vqFreqAButton : display_.vqFreqBButton;
+    display_.freqTextField.setStringValue(withoutHertz(active.title()));
 }
 
-void SerialPortDemoController::highlightBand(int frequency) {
-    const Button& marked = display.key(bandKeyTag(frequency));
-    for (Button* button : display.bandButtons) button->setBezelColor(button == &marked ? Color::blue : Color::none);
+void Mirror::setActiveVfo(std::string_view vfo) {
+    state_.vqAorB = vfo;
+    display_.activeVfoField.setStringValue(vfo);
 }
 
-void SerialPortDemoController::enableTextMemoryControls() {
-    for (Button* button : display.textMemoryButtons) button->setEnabled(true);
-    display.textMemoryField.setEnabled(true);
-    display.sendTextMemoryButton.setEnabled(true);
-    display.sendTextMemoryButton.setBezelColor(Color::blue);
-    display.clearTextMemoryButton.setEnabled(true);
-    display.sendBox.setTitleColor(Color::none);
+void Mirror::clearBandButtons() {
+    for (Button* button : display_.bandButtons) button->setBezelColor(Color::none);
 }
 
-void SerialPortDemoController::disableTextMemoryControls() {
-    for (Button* button : display.textMemoryButtons) button->setEnabled(false);
-    display.textMemoryField.setEnabled(false);
-    display.sendTextMemoryButton.setEnabled(false);
-    display.sendTextMemoryButton.setBezelColor(Color::darkGray);
-    display.clearTextMemoryButton.setEnabled(false);
-    display.sendBox.setTitleColor(Color::gray);
+void Mirror::highlightBand(int frequency) {
+    const Button& marked = display_.key(bandKeyTag(frequency));
+    for (Button* button : display_.bandButtons) button->setBezelColor(button == &marked ? Color::blue : Color::none);
+}
+
+void Mirror::enableTextMemoryControls() {
+    for (Button* button : display_.textMemoryButtons) button->setEnabled(true);
+    display_.textMemoryField.setEnabled(true);
+    display_.sendTextMemoryButton.setEnabled(true);
+    display_.sendTextMemoryButton.setBezelColor(Color::blue);
+    display_.clearTextMemoryButton.setEnabled(true);
+    display_.sendBox.setTitleColor(Color::none);
+}
+
+void Mirror::disableTextMemoryControls() {
+    for (Button* button : display_.textMemoryButtons) button->setEnabled(false);
+    display_.textMemoryField.setEnabled(false);
+    display_.sendTextMemoryButton.setEnabled(false);
+    display_.sendTextMemoryButton.setBezelColor(Color::darkGray);
+    display_.clearTextMemoryButton.setEnabled(false);
+    display_.sendBox.setTitleColor(Color::gray);
 }
 
 }  // namespace corvane

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "controller/serial_port_demo_controller.h"
+#include "interpret/mirror.h"
+#include "wire/cat_command.h"
+#include "wire/operating_modes.h"
 #include "wire/setting_codes.h"
 #include "wire/utf8.h"
 #include "wire/wire_text.h"
@@ -34,144 +36,151 @@ void selectKnobItem(PopUpButton& popUp, std::string_view response, std::string_v
 
 }  // namespace
 
-void SerialPortDemoController::readPreAmplifier(std::string_view response) {
-    if (response.size() == 4) display.ampPopUpButton.selectItem(decimalOrZero(lastOf(response, 1)));
+void Mirror::takePreAmplifier(std::string_view response) {
+    if (response.size() == 4) display_.ampPopUpButton.selectItem(decimalOrZero(lastOf(response, 1)));
 }
 
-void SerialPortDemoController::readNoiseBlankerLevel(std::string_view response) {
-    display.NBPopupButton.selectItem(decimalOrZero(lastOf(response, 2)));
+void Mirror::takeNoiseBlankerLevel(std::string_view response) {
+    display_.NBPopupButton.selectItem(decimalOrZero(lastOf(response, 2)));
 }
 
-void SerialPortDemoController::readNoiseReductionLevel(std::string_view response) {
-    display.DNRPopupButton.selectItem(decimalOrZero(lastOf(response, 2)));
+void Mirror::takeNoiseReductionLevel(std::string_view response) {
+    display_.DNRPopupButton.selectItem(decimalOrZero(lastOf(response, 2)));
 }
 
 // 4 is automatic; 5 and 6 say which speed it chose.
-void SerialPortDemoController::readAgc(std::string_view response) {
-    display.AGCPopUpButton.selectItem(std::min(decimalOrZero(lastOf(response, 1)), 4));
+void Mirror::takeAgc(std::string_view response) {
+    display_.AGCPopUpButton.selectItem(std::min(decimalOrZero(lastOf(response, 1)), 4));
 }
 
-void SerialPortDemoController::readAttenuator(std::string_view response) {
-    display.ATTPopUpButton.selectItem(decimalOrZero(lastOf(response, 1)));
+void Mirror::takeAttenuator(std::string_view response) {
+    display_.ATTPopUpButton.selectItem(decimalOrZero(lastOf(response, 1)));
 }
 
-void SerialPortDemoController::readMeter(std::string_view response) {
-    display.sMeter.setIntegerValue(std::min(decimalOrZero(lastOf(response, 6).substr(0, 3)) / 10, 10));
+// A line feed within a piece is as if it were not there.
+void Mirror::takeSignal(std::string_view chunk) {
+    forEachPiece(chunk, [this](std::string_view piece) {
+        if (piece.find('\n') == std::string_view::npos) {
+            if (piece.starts_with("RM")) state_.vqSignal = decimalOrZero(lastOf(piece, 6));
+        } else if (const std::string joined = without(piece, "\n"); joined.starts_with("RM")) {
+            state_.vqSignal = decimalOrZero(lastOf(joined, 6));
+        }
+    });
 }
 
-void SerialPortDemoController::readAFGain(std::string_view response) {
+void Mirror::takeMeter(std::string_view response) {
+    display_.sMeter.setIntegerValue(std::min(decimalOrZero(lastOf(response, 6).substr(0, 3)) / 10, 10));
+}
+
+void Mirror::takeAFGain(std::string_view response) {
     const std::string_view digits = lastOf(response, 3);
     const int level = decimalOrZero(digits);
     if (level < lowestAudibleLevel) {
-        radio.vqMuted = 1;
-        display.muteButton.setImage(Image::NSImageNameTouchBarAudioOutputMuteTemplate);
-        display.muteButton.setBezelColor(Color::red);
+        state_.vqMuted = 1;
+        display_.muteButton.setImage(Image::NSImageNameTouchBarAudioOutputMuteTemplate);
+        display_.muteButton.setBezelColor(Color::red);
     } else {
-        radio.vqAFLevel = digits;
-        if (radio.vqMuted == 1) {
-            display.muteButton.setImage(Image::NSImageNameTouchBarAudioOutputVolumeHighTemplate);
-            display.muteButton.setBezelColor(Color::none);
-            radio.vqMuted = 0;
+        state_.vqAFLevel = digits;
+        if (state_.vqMuted == 1) {
+            display_.muteButton.setImage(Image::NSImageNameTouchBarAudioOutputVolumeHighTemplate);
+            display_.muteButton.setBezelColor(Color::none);
+            state_.vqMuted = 0;
         }
     }
-    display.afGainSlider.setIntegerValue(level);
+    display_.afGainSlider.setIntegerValue(level);
 }
 
-void SerialPortDemoController::readRFGain(std::string_view response) {
-    radio.vqRFLevel = lastOf(response, 3);
-    display.rfGainSlider.setIntegerValue(decimalOrZero(radio.vqRFLevel));
+void Mirror::takeRFGain(std::string_view response) {
+    state_.vqRFLevel = lastOf(response, 3);
+    display_.rfGainSlider.setIntegerValue(decimalOrZero(state_.vqRFLevel));
 }
 
-void SerialPortDemoController::readMeterSelection(std::string_view response) {
-    display.smeterPopUpButton.selectItem(decimalOrZero(positions(response, 3, 1)));
+void Mirror::takeMeterSelection(std::string_view response) {
+    display_.smeterPopUpButton.selectItem(decimalOrZero(positions(response, 3, 1)));
 }
 
-void SerialPortDemoController::readPower(std::string_view response) {
-    display.powerPopUpButton.selectItem(decimalOrZero(positions(response, 3, 3)) - lowestPower);
+void Mirror::takePower(std::string_view response) {
+    display_.powerPopUpButton.selectItem(decimalOrZero(positions(response, 3, 3)) - lowestPower);
 }
 
-void SerialPortDemoController::readMultiKnob(std::string_view response) {
-    selectKnobItem(display.MPVDButton, response, multiKnobCodes);
+void Mirror::takeMultiKnob(std::string_view response) { selectKnobItem(display_.MPVDButton, response, multiKnobCodes); }
+
+void Mirror::takeFunctionKnob(std::string_view response) {
+    selectKnobItem(display_.FuncKnobButton, response, functionKnobCodes);
 }
 
-void SerialPortDemoController::readFunctionKnob(std::string_view response) {
-    selectKnobItem(display.FuncKnobButton, response, functionKnobCodes);
+void Mirror::takeScopeSpeed(std::string_view response) { selectScopeItem(display_.scopeSpeedPopUpButton, response); }
+
+void Mirror::takeScopePeak(std::string_view response) { selectScopeItem(display_.scopePeakPopUpButton, response); }
+
+void Mirror::takeScopeColor(std::string_view response) {
+    selectScopeItem(display_.colorPopUpButton, response, "0123456789A");
 }
 
-void SerialPortDemoController::readScopeSpeed(std::string_view response) {
-    selectScopeItem(display.scopeSpeedPopUpButton, response);
+void Mirror::takeScopeLevel(std::string_view response) {
+    if (response.size() >= 5) display_.scopeLevelPopUpButton.selectItemWithTitle(positions(response, 5, 5));
 }
 
-void SerialPortDemoController::readScopePeak(std::string_view response) {
-    selectScopeItem(display.scopePeakPopUpButton, response);
+void Mirror::takeScopeSpan(std::string_view response) { selectScopeItem(display_.scopeSpanPopUpButton, response); }
+
+void Mirror::takeSpectrumMode(std::string_view response) {
+    selectScopeItem(display_.spectrumModePopUpButton, response, "0123456789AB");
 }
 
-void SerialPortDemoController::readScopeColor(std::string_view response) {
-    selectScopeItem(display.colorPopUpButton, response, "0123456789A");
+void Mirror::takeKeyerMemory(std::string_view response) {
+    takeMemoryText(cwGroup, decimalOrZero(positions(response, 3, 1)), trimmed(positions(response, 4, response.size())));
 }
 
-void SerialPortDemoController::readScopeLevel(std::string_view response) {
-    if (response.size() >= 5) display.scopeLevelPopUpButton.selectItemWithTitle(positions(response, 5, 5));
-}
-
-void SerialPortDemoController::readScopeSpan(std::string_view response) {
-    selectScopeItem(display.scopeSpanPopUpButton, response);
-}
-
-void SerialPortDemoController::readSpectrumMode(std::string_view response) {
-    selectScopeItem(display.spectrumModePopUpButton, response, "0123456789AB");
-}
-
-void SerialPortDemoController::readKeyerMemory(std::string_view response) {
-    showMemoryText(decimalOrZero(positions(response, 3, 1)), trimmed(positions(response, 4, response.size())),
-                   display.cwMemoryButtons);
-}
-
-void SerialPortDemoController::readTextMemory(std::string_view response) {
+void Mirror::takeTextMemory(std::string_view response) {
     const int bank = decimalOrZero(positions(response, 3, 1));
     const std::string_view text = utf8Prefix(positions(response, 5, response.size()), textMemoryLength);
-    showMemoryText(decimalOrZero(positions(response, 4, 1)), trimmed(text),
-                   bank == 1 ? display.pskMemoryButtons : display.rttyMemoryButtons);
+    takeMemoryText(bank == 1 ? pskGroup : rttyGroup, decimalOrZero(positions(response, 4, 1)), trimmed(text));
 }
 
-void SerialPortDemoController::showMemoryText(int slot, std::string_view text, std::deque<Button>& familyButtons) {
-    if (slot < 1 || slot > Display::memories) return;
-    const auto index = static_cast<std::size_t>(slot);
-    radio.vqTextMemoryArray[index] = text;
-    display.textMemoryButtons[index - 1]->setTitle(text);
-    familyButtons[index - 1].setTitle(text);
-    if (slot == Display::memories) radio.vqTextMemoryRevert = text;
+void Mirror::takeMemoryText(std::size_t group, int memory, std::string_view text) {
+    if (memory < 1 || memory > Display::memories) return;
+    const std::array families{&display_.cwMemoryButtons, &display_.rttyMemoryButtons, &display_.pskMemoryButtons};
+    const auto index = static_cast<std::size_t>(memory);
+    state_.vqTextMemoryArray[index] = text;
+    state_.groupMemories[group][index - 1] = text;
+    display_.textMemoryButtons[index - 1]->setTitle(text);
+    (*families[group])[index - 1].setTitle(text);
+    if (memory == Display::memories) state_.vqTextMemoryRevert = text;
 }
 
-void SerialPortDemoController::readSwitchedOff(std::string_view) {
-    display.sMeter.setIntegerValue(0);
-    playSystemSound("Basso");
+void Mirror::rememberScratchMemory(std::size_t group) {
+    state_.vqTextMemoryRevert = state_.groupMemories[group].back();
 }
 
-void SerialPortDemoController::readNoiseReductionSwitch(std::string_view response) {
+void Mirror::takeSwitchedOff(std::string_view) {
+    display_.sMeter.setIntegerValue(0);
+    voice_.playSystemSound("Basso");
+}
+
+void Mirror::takeNoiseReductionSwitch(std::string_view response) {
     if (response.ends_with('1'))
-        writeString("RL0;");
+        link_.writeString("RL0;");
     else
-        display.DNRPopupButton.selectItem(0);
+        display_.DNRPopupButton.selectItem(0);
 }
 
-void SerialPortDemoController::readNoiseBlankerSwitch(std::string_view response) {
+void Mirror::takeNoiseBlankerSwitch(std::string_view response) {
     if (response.ends_with('1'))
-        writeString("NL0;");
+        link_.writeString("NL0;");
     else
-        display.NBPopupButton.selectItem(0);
+        display_.NBPopupButton.selectItem(0);
 }
 
-void SerialPortDemoController::readSwitch(std::string_view response) {
+void Mirror::takeSwitch(std::string_view response) {
     struct Switch {
         std::string_view name;
         Button& button;
     };
     const std::array switches{
-        Switch{"BC", display.dnfButton},
-        Switch{"CO", display.contButton},
-        Switch{"BP", display.notchButton},
-        Switch{"BI", display.bkinButton},
+        Switch{"BC", display_.dnfButton},
+        Switch{"CO", display_.contButton},
+        Switch{"BP", display_.notchButton},
+        Switch{"BI", display_.bkinButton},
     };
     const bool on = response.ends_with('1');
     for (const Switch& row : switches) {

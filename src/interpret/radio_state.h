@@ -6,6 +6,11 @@
 
 namespace corvane {
 
+// The mode groups by their place in modeGroups.
+inline constexpr std::size_t cwGroup = 0;
+inline constexpr std::size_t rttyGroup = 1;
+inline constexpr std::size_t pskGroup = 2;
+
 struct RadioState {
     std::string vqFreqA;            // VFO A in hertz, nine digits, e.g. "014250000"; empty before the first report
     std::string vqFreqB;            // VFO B
@@ -23,10 +28,11 @@ struct RadioState {
     std::string vqVFOB;             // VFO B
     std::string vqAFLevel = "000";  // the last AF gain of 5 or more, three digits
     std::string vqRFLevel = "000";  // the last RF gain, three digits
-    std::string vqCall;             // the call sign in the transceiver's menu
     int vqMuted = 0;                // 1 while the AF gain is below 5
+    int vqSignal = 0;               // the last six digits of the last meter report: meter reading times 1000
     std::array<std::string, 6> vqTextMemoryArray;  // keyer and text memories as last reported; 1 to 5 are used
-    std::string vqTextMemoryRevert;                // memory 5 of whichever family was reported last
+    std::string vqTextMemoryRevert;                // memory 5 of whichever mode group was reported last
+    std::array<std::array<std::string, 5>, 3> groupMemories;  // the same texts by mode group: CW, RTTY, PSK
 };
 
 }  // namespace corvane

@@ -1,7 +1,7 @@
-// Auto memories: every 20 seconds the frequency of a signal that is strong enough is kept.
+#include "memories/auto_memories.h"
+
 #include <algorithm>
 
-#include "controller/serial_port_demo_controller.h"
 #include "display/table_columns.h"
 #include "memories/squelch_levels.h"
 #include "wire/operating_modes.h"
@@ -15,89 +15,94 @@ namespace {
 constexpr auto samplingInterval = 20s;
 constexpr std::string_view emptyNote = "   ";
 
-void removeAutoMemory(AutoMemoryState& autoMemories, std::size_t row) {
+void removeAutoMemory(AutoMemoryState& state, std::size_t row) {
     const auto at = static_cast<std::ptrdiff_t>(row);
-    for (auto* list : {&autoMemories.vqAutoMemoryArray, &autoMemories.vqAutoModeArray, &autoMemories.vqAutoNotesArray})
+    for (auto* list : {&state.vqAutoMemoryArray, &state.vqAutoModeArray, &state.vqAutoNotesArray})
         list->erase(list->begin() + at);
 }
 
 }  // namespace
 
-void SerialPortDemoController::autoMemorySample() {
-    if (link.vqSignal >= autoMemories.vqAutoMemSquelch) recordAutoMemory();
-    later(samplingInterval, [this] { autoMemorySample(); });
+AutoMemories::AutoMemories(Display& display, Link& link, const Mirror& mirror, Voice& voice, SettingsStore& settings,
+                           Scheduler& scheduler)
+    : display_(display), link_(link), mirror_(mirror), voice_(voice), settings_(settings), tasks_(scheduler) {}
+
+void AutoMemories::autoMemorySample() {
+    if (mirror_.state().vqSignal >= state_.vqAutoMemSquelch) record();
+    tasks_.after(samplingInterval, [this] { autoMemorySample(); });
 }
 
-void SerialPortDemoController::autoMemoryNow(Button&) {
-    if (recordAutoMemory()) playSystemSound("Tink");
+void AutoMemories::autoMemoryNow(Button&) {
+    if (record()) voice_.playSystemSound("Tink");
 }
 
 // A frequency is kept once, with the mode in which it was heard first.
-bool SerialPortDemoController::recordAutoMemory() {
-    auto& [frequencies, modes, notes, squelch] = autoMemories;
-    const std::string& frequency = radio.vqAorB == "A" ? radio.vqFreqA : radio.vqFreqB;
+bool AutoMemories::record() {
+    auto& [frequencies, modes, notes, squelch] = state_;
+    const std::string& frequency = mirror_.activeFrequency();
     const bool added = std::ranges::find(frequencies, frequency) == frequencies.end();
     if (added) {
         frequencies.insert(frequencies.begin(), frequency);
-        modes.insert(modes.begin(), radio.vqMode);
+        modes.insert(modes.begin(), mirror_.state().vqMode);
         notes.insert(notes.begin(), std::string(emptyNote));
     }
     // Before the transceiver's first report there is nothing that could be tuned to.
     for (std::size_t row = frequencies.size(); row-- > 0;)
-        if (frequencies[row].empty() || modes[row].empty()) removeAutoMemory(autoMemories, row);
-    display.autoMemTable.reloadData();
+        if (frequencies[row].empty() || modes[row].empty()) removeAutoMemory(state_, row);
+    display_.autoMemTable.reloadData();
     return added;
 }
 
-void SerialPortDemoController::goAutoMemsTune(Button& sender) {
+void AutoMemories::goAutoMemsTune(Button& sender) {
     const auto row = static_cast<std::size_t>(sender.tag());
-    if (row >= autoMemories.vqAutoMemoryArray.size()) return;
-    link.cmd = std::string("MD0") + modeCode(autoMemories.vqAutoModeArray[row]) + ";F" + radio.vqAorB +
-               autoMemories.vqAutoMemoryArray[row] + ';';
-    writeString(link.cmd);
-    playSystemSound("Frog");
+    if (row >= state_.vqAutoMemoryArray.size()) return;
+    link_.write(std::string("MD0") + modeCode(state_.vqAutoModeArray[row]) + ";F" + mirror_.state().vqAorB +
+                state_.vqAutoMemoryArray[row] + ';');
+    voice_.playSystemSound("Frog");
 }
 
-void SerialPortDemoController::goAutoMemsClear(Button& sender) {
+void AutoMemories::goAutoMemsClear(Button& sender) {
     const auto row = static_cast<std::size_t>(sender.tag());
-    if (row >= autoMemories.vqAutoMemoryArray.size()) return;
-    removeAutoMemory(autoMemories, row);
-    display.autoMemTable.reloadData();
-    playSystemSound("Basso");
+    if (row >= state_.vqAutoMemoryArray.size()) return;
+    removeAutoMemory(state_, row);
+    display_.autoMemTable.reloadData();
+    voice_.playSystemSound("Basso");
 }
 
-void SerialPortDemoController::autoNoteEdited(TextField& sender) {
-    const auto place = display.autoMemTable.placeOf(sender);
-    auto& notes = autoMemories.vqAutoNotesArray;
+void AutoMemories::autoNoteEdited(TextField& sender) {
+    const auto place = display_.autoMemTable.placeOf(sender);
+    auto& notes = state_.vqAutoNotesArray;
     if (!place || place->column != autoMemTableNotesColumn) return;
     const auto row = static_cast<std::size_t>(place->row);
     if (row >= notes.size()) return;
     notes[row] = sender.stringValue();
-    display.autoMemTable.reloadData();
+    display_.autoMemTable.reloadData();
 }
 
-void SerialPortDemoController::clearAutoMemories() {
-    autoMemories.vqAutoMemoryArray.clear();
-    autoMemories.vqAutoModeArray.clear();
-    autoMemories.vqAutoNotesArray.clear();
-    later(0s, [this] { display.autoMemTable.reloadData(); });
-    playSystemSound("Basso");
+void AutoMemories::clear() {
+    state_.vqAutoMemoryArray.clear();
+    state_.vqAutoModeArray.clear();
+    state_.vqAutoNotesArray.clear();
+    tasks_.after(0s, [this] { display_.autoMemTable.reloadData(); });
+    voice_.playSystemSound("Basso");
 }
 
-void SerialPortDemoController::applyAutoMemSquelch(int index) {
-    setAutoMemSquelch(index);
-    display.autoMemSquelchSlider.setIntegerValue(index);
+void AutoMemories::applyAutoMemSquelch(int index) {
+    setSquelch(index);
+    display_.autoMemSquelchSlider.setIntegerValue(index);
 }
 
-void SerialPortDemoController::goAutoMemSquelch(Slider& sender) {
-    setAutoMemSquelch(sender.integerValue());
-    userDefaults.setInteger("autosquelch", sender.integerValue());
+void AutoMemories::restoreSquelch() { applyAutoMemSquelch(settings_.integer("autosquelch")); }
+
+void AutoMemories::goAutoMemSquelch(Slider& sender) {
+    setSquelch(sender.integerValue());
+    settings_.setInteger("autosquelch", sender.integerValue());
 }
 
-void SerialPortDemoController::setAutoMemSquelch(int index) {
+void AutoMemories::setSquelch(int index) {
     const SquelchLevel level = squelchLevel(index);
-    autoMemories.vqAutoMemSquelch = level.threshold;
-    display.autoMemSquelchTextField.setStringValue(level.label);
+    state_.vqAutoMemSquelch = level.threshold;
+    display_.autoMemSquelchTextField.setStringValue(level.label);
 }
 
 }  // namespace corvane

@@ -4,7 +4,7 @@
 #include <chrono>
 #include <string>
 
-#include "memories/memory_state.h"
+#include "memories/memory_channel.h"
 
 namespace corvane {
 

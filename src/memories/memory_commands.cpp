@@ -15,7 +15,7 @@ constexpr std::string_view erase = "000000000+0000001000001-- ERASE -- ;";
 
 int channelOf(std::string_view reply) {
     const int channel = decimalOrZero(positions(reply, 3, 3));
-    return channel >= 1 && channel <= memoryChannels ? channel : 0;
+    return channel >= 1 && channel <= memoryChannels && isAscii(reply) ? channel : 0;
 }
 
 std::string channelText(int row) { return zeroPadded(row + 1, 3); }
@@ -31,7 +31,13 @@ MemoryReply memoryReply(std::string_view reply) {
             positions(reply, 15, reply.size())};
 }
 
+MemoryChannel rowOf(const MemoryReply& reply) { return {std::string(reply.frequency), std::string(reply.mode), ""}; }
+
 TagReply tagReply(std::string_view reply) { return {channelOf(reply), lastOf(reply, tagLength)}; }
+
+std::string memoryPopUpTitle(int row, const MemoryChannel& channel) {
+    return "M-" + zeroPadded(row + 1, 2) + ' ' + channel.tag;
+}
 
 bool isProgrammed(const MemoryChannel& row) { return row.frequency.size() == frequencyDigits; }
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "memories/memory_state.h"
+#include "memories/memory_channel.h"
 
 namespace corvane {
 
@@ -13,7 +13,8 @@ namespace corvane {
 std::string memoryRequest(std::string_view name, int channel);
 
 // A reply without its ";": "MR001014250000+000000210000". Positions that a short reply does not have are filled from
-// what it has; the channel is 0 unless it is a number from 1 to 99.
+// what it has. The channel is 0 unless it is a number from 1 to 99 and all of the reply is ASCII: noise may still be
+// text, but it is no channel.
 struct MemoryReply {
     int channel = 0;
     std::string_view frequency;  // nine digits of hertz in a whole reply
@@ -21,6 +22,7 @@ struct MemoryReply {
     std::string_view rest;       // what follows the frequency, e.g. "+000000210000"
 };
 MemoryReply memoryReply(std::string_view reply);
+MemoryChannel rowOf(const MemoryReply& reply);  // as a row of the table, its tag still empty
 
 // "MT0011CALLING     ": the channel as above, and the tag, twelve characters in a whole reply.
 struct TagReply {
@@ -28,6 +30,9 @@ struct TagReply {
     std::string_view tag;
 };
 TagReply tagReply(std::string_view reply);
+
+// The entry of the memory pop-up for row i: "M-05 20M FT8"; an empty channel shows "M-05" and two blanks.
+std::string memoryPopUpTitle(int row, const MemoryChannel& channel);
 
 // A row whose frequency has nine characters holds something; any other is empty.
 bool isProgrammed(const MemoryChannel& row);

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "memories/memory_state.h"
+#include "memories/memory_channel.h"
 
 namespace corvane {
 

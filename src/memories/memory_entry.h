@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "memories/memory_state.h"
+#include "memories/memory_channel.h"
 #include "wire/tuning_range.h"
 
 namespace corvane {

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "display/table_view.h"
-#include "memories/memory_state.h"
+#include "memories/memory_channel.h"
 
 namespace corvane {
 

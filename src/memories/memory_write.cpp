@@ -1,9 +1,9 @@
-// Writing the memory channels: one burst of commands, without waiting for the transceiver. Before what was read last
-// is written over it is saved.
+// Writing the memory channels: one burst of commands, without waiting for the transceiver. The channels last read are
+// saved before they are overwritten.
 #include <algorithm>
 
-#include "controller/serial_port_demo_controller.h"
 #include "memories/memory_backup.h"
+#include "memories/memory_channels.h"
 #include "memories/memory_commands.h"
 #include "wire/cat_command.h"
 #include "wire/operating_modes.h"
@@ -27,14 +27,14 @@ std::string channelsWithoutMode(const MemoryTable& channels) {
     return rows;
 }
 
-std::string question(const MemoryState& memories) {
-    const auto written = std::ranges::count_if(memories.vqMemArray, isProgrammed);
+std::string question(const MemoryTable& table, bool whole) {
+    const auto written = std::ranges::count_if(table, isProgrammed);
     std::string text = "Write the memory channels to the transceiver?\n\n";
     text += std::to_string(written) + " will be written, " + std::to_string(memoryChannels - written) +
             " will be erased. Clarifier, tone and shift of every channel are reset.";
-    if (const std::string rows = channelsWithoutMode(memories.vqMemArray); !rows.empty())
+    if (const std::string rows = channelsWithoutMode(table); !rows.empty())
         text += "\n\nChoose a mode first for " + rows + ": without one the transceiver does not take a channel.";
-    if (!memories.whole)
+    if (!whole)
         text +=
             "\n\nThe channels have not been read to the end. What has not been read will be erased and cannot be "
             "saved first.";
@@ -44,49 +44,46 @@ std::string question(const MemoryState& memories) {
 }  // namespace
 
 // What was asked about may have changed by the time of the answer.
-void SerialPortDemoController::askBeforeWriting(Button& sender) {
-    const auto confirmed = [this, &sender, session = link.session, read = memories.readNumber] {
-        if (session == link.session && read == memories.readNumber) return writeMemoriesToRadio(sender);
-        showWarning("Nothing was written: the link or the channels have changed meanwhile",
+void MemoryChannels::askBeforeWriting(Button& sender) {
+    const auto confirmed = [this, &sender, session = link_.session(), number = read_.number] {
+        if (session == link_.session() && number == read_.number) return writeMemoriesToRadio(sender);
+        voice_.warn("Nothing was written: the link or the channels have changed meanwhile",
                     "Look at the channels and press Write memories again.");
     };
-    platform_.alerts.confirm(question(memories), "Write", [confirmed, alive = std::weak_ptr(alive_)] {
-        if (!alive.expired()) confirmed();
-    });
+    around_.alerts.confirm(question(vqMemArray_, read_.whole), "Write", tasks_.guarded(confirmed));
 }
 
-void SerialPortDemoController::writeMemoriesToRadio(Button&) {
+void MemoryChannels::writeMemoriesToRadio(Button&) {
     if (!saveMemoriesAsRead()) return;
     for (int row = 0; row < memoryChannels; ++row) {
-        const MemoryChannel& channel = memories.vqMemArray[static_cast<std::size_t>(row)];
-        sendCommand(memoryWriteCommand(row, channel));
-        if (const auto tag = tagWriteCommand(row, channel)) sendCommand(*tag);
+        const MemoryChannel& channel = vqMemArray_[static_cast<std::size_t>(row)];
+        link_.sendCommand(memoryWriteCommand(row, channel));
+        if (const auto tag = tagWriteCommand(row, channel)) link_.sendCommand(*tag);
     }
-    sendCommand("VS1;MC002;");
-    later(pauseBeforeLast, [this, session = link.session] {
-        if (session == link.session) sendCommand("VS0;MC001;");
-        showMemoryChannels();
-        playSound("Seatbelts");
+    link_.sendCommand("VS1;MC002;");
+    tasks_.after(pauseBeforeLast, [this, session = link_.session()] {
+        if (session == link_.session()) link_.sendCommand("VS0;MC001;");
+        showChannels();
+        voice_.playSound("Seatbelts");
     });
 }
 
-bool SerialPortDemoController::saveMemoriesAsRead() {
-    if (!memories.unsaved) return true;
-    const SavedFile file =
-        platform_.dataFolder.save(memoryBackupName(platform_.scheduler.now()), memoryTableCsv(memories.asRead));
+bool MemoryChannels::saveMemoriesAsRead() {
+    if (!read_.unsaved) return true;
+    const SavedFile file = around_.dataFolder.save(memoryBackupName(tasks_.now()), memoryTableCsv(read_.asRead));
     if (!file.error.empty()) {
-        showWarning("Nothing was written: the channels as last read could not be saved",
+        voice_.warn("Nothing was written: the channels as last read could not be saved",
                     "To " + file.path + ": " + file.error);
         return false;
     }
-    memories.unsaved = false;
-    display.memoryBackupField.setStringValue("The channels as they were are saved in " + file.path);
+    read_.unsaved = false;
+    display_.memoryBackupField.setStringValue("The channels as they were are saved in " + file.path);
     return true;
 }
 
-void SerialPortDemoController::showWhereChannelsAreSaved() {
-    display.memoryBackupField.setStringValue("Before a write, the channels as last read are saved in " +
-                                             platform_.dataFolder.path() + "/memory-channels");
+void MemoryChannels::showWhereChannelsAreSaved() {
+    display_.memoryBackupField.setStringValue("Before a write, the channels as last read are saved in " +
+                                              around_.dataFolder.path() + "/memory-channels");
 }
 
 }  // namespace corvane

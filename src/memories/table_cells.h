@@ -5,7 +5,7 @@
 
 #include "display/table_cell.h"
 #include "memories/auto_memory_state.h"
-#include "memories/memory_state.h"
+#include "memories/memory_channel.h"
 
 namespace corvane {
 

@@ -3,6 +3,7 @@
 
 #include "platform/alerts.h"
 #include "platform/data_folder.h"
+#include "platform/file_chooser.h"
 #include "platform/http_client.h"
 #include "platform/log.h"
 #include "platform/notification_center.h"
@@ -25,6 +26,7 @@ struct Platform {
     WebBrowser& browser;
     Alerts& alerts;
     DataFolder& dataFolder;
+    FileChooser& files;
     HttpClient& http;
     Log& log;
 };

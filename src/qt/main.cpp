@@ -32,7 +32,6 @@ int main(int argc, char** argv) {
     window.show();
     const int result = QApplication::exec();
     // The transceiver must not go on reporting to nobody.
-    if (controller.link.serialPort && controller.link.serialPort->isOpen())
-        controller.display.openCloseButton.performClick();
+    if (controller.link.isOpen()) controller.display.openCloseButton.performClick();
     return result;
 }

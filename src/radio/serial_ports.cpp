@@ -2,168 +2,180 @@
 #include <algorithm>
 #include <utility>
 
-#include "controller/serial_port_demo_controller.h"
+#include "radio/link.h"
 #include "radio/link_messages.h"
 
 namespace corvane {
 
 using namespace std::chrono_literals;
 
-void SerialPortDemoController::setSerialPort(std::shared_ptr<ORSSerialPort> port) {
-    if (port == link.serialPort) return;
-    const std::shared_ptr<ORSSerialPort> previous = std::exchange(link.serialPort, std::move(port));
+void Link::setSerialPort(std::shared_ptr<ORSSerialPort> port) {
+    if (port == serialPort_) return;
+    const std::shared_ptr<ORSSerialPort> previous = std::exchange(serialPort_, std::move(port));
     if (previous) {
         previous->close();
         previous->setDelegate(nullptr);
     }
-    if (link.serialPort) link.serialPort->setDelegate(this);
-    display.portDetailsField.setStringValue(link.serialPort ? link.serialPort->details() : std::string{});
+    if (serialPort_) serialPort_->setDelegate(&around_.reports);
+    display_.portDetailsField.setStringValue(serialPort_ ? serialPort_->details() : std::string{});
     fillPortPopUp();
-    showLinkStatus();
+    showStatus();
 }
 
-void SerialPortDemoController::choosePort(PopUpButton& sender) {
-    const SerialPorts& ports = serialPortManager.availablePorts();
+void Link::choosePort(PopUpButton& sender) {
+    const SerialPorts& ports = around_.ports.availablePorts();
     const auto index = static_cast<std::size_t>(sender.indexOfSelectedItem());
-    if (index >= ports.size() || ports[index] == link.serialPort) return;
-    showLinkMessage({});
+    if (index >= ports.size() || ports[index] == serialPort_) return;
+    showMessage({});
     setSerialPort(ports[index]);
 }
 
-void SerialPortDemoController::chooseBaudRate(PopUpButton& sender) {
+void Link::chooseBaudRate(PopUpButton& sender) {
     const auto index = static_cast<std::size_t>(sender.indexOfSelectedItem());
-    if (link.serialPort && index < link.availableBaudRates.size())
-        link.serialPort->setBaudRate(link.availableBaudRates[index]);
+    if (serialPort_ && index < availableBaudRates_.size()) serialPort_->setBaudRate(availableBaudRates_[index]);
 }
 
-void SerialPortDemoController::openOrClosePort(Button&) {
-    const std::shared_ptr<ORSSerialPort> port = link.serialPort;
+void Link::restorePort() {
+    const std::string port = around_.settings.text("defaultPort").value_or("");
+    const std::string baudRate = around_.settings.text("defaultBaud").value_or("");
+    if (!baudRate.empty()) display_.BaudPopUpButton.selectItemWithTitle(baudRate);
+    if (port.empty() || isOpen()) return;
+    display_.PortPopUpButton.selectItemWithTitle(port);
+    choosePort(display_.PortPopUpButton);
+}
+
+void Link::suggestPort() {
+    const bool remembered = !around_.settings.text("defaultPort").value_or("").empty();
+    if (!serialPort_ && !remembered) setSerialPort(around_.ports.suggestedPort());
+}
+
+void Link::noteAnswer() {
+    if (std::exchange(answered_, true)) return;
+    showStatus();
+}
+
+void Link::openOrClosePort(Button&) {
+    const std::shared_ptr<ORSSerialPort> port = serialPort_;
     if (!port) return;
     if (port->isOpen()) {
         sendCommand("AI0;");
         port->close();
-        setMemoryKeysEnabled(false);
+        onReady(false);
         return;
     }
-    showLinkMessage({});
-    chooseBaudRate(display.BaudPopUpButton);
+    showMessage({});
+    chooseBaudRate(display_.BaudPopUpButton);
     port->setParity(Parity::none);
     port->setNumberOfStopBits(1);
     port->setUsesRTSCTSFlowControl(true);
     port->open();
-    setMemoryKeysEnabled(port->isOpen());
+    onReady(port->isOpen());
 }
 
-void SerialPortDemoController::serialPortWasOpened(ORSSerialPort& port) {
-    display.openCloseButton.setTitle("Connected");
-    display.openCloseButton.setBezelColor(Color::green);
-    setMemoryKeysEnabled(true);
-    userDefaults.setText("defaultPort", port.description());
-    userDefaults.setText("defaultBaud", std::to_string(port.baudRate()));
-    playSound("Seatbelts");
-    link.answered = false;
-    showLinkMessage({});
-    showLinkStatus();
+void Link::serialPortWasOpened(ORSSerialPort& port) {
+    display_.openCloseButton.setTitle("Connected");
+    display_.openCloseButton.setBezelColor(Color::green);
+    onReady(true);
+    around_.settings.setText("defaultPort", port.description());
+    around_.settings.setText("defaultBaud", std::to_string(port.baudRate()));
+    voice_.playSound("Seatbelts");
+    answered_ = false;
+    showMessage({});
+    showStatus();
     startSession();
 }
 
-void SerialPortDemoController::serialPortWasClosed(ORSSerialPort&) {
-    ++link.session;
-    display.openCloseButton.setTitle("Connect");
-    display.openCloseButton.setBezelColor(Color::red);
-    setMemoryKeysEnabled(false);
-    memoryReadLostLink();
-    menuReadEnded(": stopped, the link is closed.");
-    playSystemSound("Bottle");
-    showLinkStatus();
+void Link::serialPortWasClosed(ORSSerialPort&) {
+    ++session_;
+    display_.openCloseButton.setTitle("Connect");
+    display_.openCloseButton.setBezelColor(Color::red);
+    onReady(false);
+    onClosed();
+    voice_.playSystemSound("Bottle");
+    showStatus();
 }
 
-void SerialPortDemoController::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
+void Link::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
     const std::string message = linkLostMessage(port.name());
-    ++link.session;
+    ++session_;
     setSerialPort(nullptr);
-    display.openCloseButton.setTitle("Connect");
-    setMemoryKeysEnabled(false);
-    memoryReadLostLink();
-    menuReadEnded(": stopped, the link is closed.");
-    showLinkMessage(message);
+    display_.openCloseButton.setTitle("Connect");
+    onReady(false);
+    onClosed();
+    showMessage(message);
 }
 
-void SerialPortDemoController::serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error) {
-    platform_.log.line("SerialPort " + port.description() + " encountered an error: " + error.text);
-    playSystemSound("Frog");
-    display.mainTab.selectItem(Display::stationPage);
-    setMemoryKeysEnabled(port.isOpen());
-    showLinkMessage(linkMessage(port.name(), error));
-    showLinkStatus();
+void Link::serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error) {
+    around_.log.line("SerialPort " + port.description() + " encountered an error: " + error.text);
+    voice_.playSystemSound("Frog");
+    display_.mainTab.selectItem(Display::stationPage);
+    onReady(port.isOpen());
+    showMessage(linkMessage(port.name(), error));
+    showStatus();
 }
 
-void SerialPortDemoController::serialPortsWereConnected(const SerialPorts& ports) {
+void Link::serialPortsWereConnected(const SerialPorts& ports) {
     listPortsInLog("Ports were connected: ", ports);
     for (const auto& port : ports) deliverNotice("Serial Port Connected", port->name(), " was connected to your Mac.");
     fillPortPopUp();
-    restoreSettings();
 }
 
-void SerialPortDemoController::serialPortsWereDisconnected(const SerialPorts& ports) {
+void Link::serialPortsWereDisconnected(const SerialPorts& ports) {
     listPortsInLog("Ports were disconnected: ", ports);
     for (const auto& port : ports)
         deliverNotice("Serial Port Disconnected", port->name(), " was disconnected from your Mac.");
     // A port that leaves the list without having been open has nobody else to take it out of use.
-    if (std::ranges::find(ports, link.serialPort) != ports.end() && !link.serialPort->isOpen()) setSerialPort(nullptr);
+    if (std::ranges::find(ports, serialPort_) != ports.end() && !serialPort_->isOpen()) setSerialPort(nullptr);
     fillPortPopUp();
 }
 
-bool SerialPortDemoController::userNotificationCenterShouldPresentNotification() const { return true; }
+bool Link::userNotificationCenterShouldPresentNotification() const { return true; }
 
-void SerialPortDemoController::userNotificationCenterDidDeliverNotification(NotificationId id) {
-    later(3s, [this, id] { platform_.notificationCenter.removeDelivered(id); });
+void Link::userNotificationCenterDidDeliverNotification(NotificationId id) {
+    tasks_.after(3s, [this, id] { around_.notices.removeDelivered(id); });
 }
 
-void SerialPortDemoController::deliverNotice(std::string_view title, std::string_view portName, std::string_view what) {
+void Link::deliverNotice(std::string_view title, std::string_view portName, std::string_view what) {
     if (!userNotificationCenterShouldPresentNotification()) return;
     UserNotification notice;
     notice.title = title;
     notice.informativeText = std::string("Serial Port ").append(portName).append(what);
-    platform_.notificationCenter.deliver(notice, [this, alive = std::weak_ptr(alive_)](NotificationId id) {
-        if (!alive.expired()) userNotificationCenterDidDeliverNotification(id);
-    });
+    around_.notices.deliver(
+        notice, tasks_.guarded([this](NotificationId id) { userNotificationCenterDidDeliverNotification(id); }));
 }
 
-void SerialPortDemoController::listPortsInLog(std::string_view what, const SerialPorts& ports) {
+void Link::listPortsInLog(std::string_view what, const SerialPorts& ports) {
     std::string line(what);
     for (const auto& port : ports) line.append(port == ports.front() ? "" : ", ").append(port->description());
-    platform_.log.line(line);
+    around_.log.line(line);
 }
 
-void SerialPortDemoController::fillPortPopUp() {
+void Link::fillPortPopUp() {
     std::vector<std::string> titles;
-    for (const auto& port : serialPortManager.availablePorts()) titles.push_back(port->description());
-    if (titles != display.PortPopUpButton.entries()) display.PortPopUpButton.setEntries(std::move(titles));
-    if (link.serialPort)
-        display.PortPopUpButton.selectItemWithTitle(link.serialPort->description());
+    for (const auto& port : around_.ports.availablePorts()) titles.push_back(port->description());
+    if (titles != display_.PortPopUpButton.entries()) display_.PortPopUpButton.setEntries(std::move(titles));
+    if (serialPort_)
+        display_.PortPopUpButton.selectItemWithTitle(serialPort_->description());
     else
-        display.PortPopUpButton.selectItem(PopUpButton::noSelection);
+        display_.PortPopUpButton.selectItem(PopUpButton::noSelection);
 
     std::vector<std::string> rates;
-    for (const int rate : link.availableBaudRates) rates.push_back(std::to_string(rate));
-    if (rates != display.BaudPopUpButton.entries()) display.BaudPopUpButton.setEntries(std::move(rates));
-    if (display.BaudPopUpButton.indexOfSelectedItem() == PopUpButton::noSelection)
-        display.BaudPopUpButton.selectItem(0);
+    for (const int rate : availableBaudRates_) rates.push_back(std::to_string(rate));
+    if (rates != display_.BaudPopUpButton.entries()) display_.BaudPopUpButton.setEntries(std::move(rates));
+    if (display_.BaudPopUpButton.indexOfSelectedItem() == PopUpButton::noSelection)
+        display_.BaudPopUpButton.selectItem(0);
 }
 
-void SerialPortDemoController::showLinkStatus() {
-    const bool open = link.serialPort && link.serialPort->isOpen();
-    display.linkStatusField.setTextColor(open ? Color::green : Color::none);
+void Link::showStatus() {
+    const bool open = isOpen();
+    display_.linkStatusField.setTextColor(open ? Color::green : Color::none);
     if (!open)
-        display.linkStatusField.setStringValue("Not connected");
+        display_.linkStatusField.setStringValue("Not connected");
     else
-        display.linkStatusField.setStringValue(link.serialPort->name() +
-                                               (link.answered ? ": connected" : ": waiting for the transceiver"));
+        display_.linkStatusField.setStringValue(serialPort_->name() +
+                                                (answered_ ? ": connected" : ": waiting for the transceiver"));
 }
 
-void SerialPortDemoController::showLinkMessage(std::string_view message) {
-    display.linkMessageField.setStringValue(message);
-}
+void Link::showMessage(std::string_view message) { display_.linkMessageField.setStringValue(message); }
 
 }  // namespace corvane

@@ -13,7 +13,7 @@ public:
         transceiver.setInstantAnswers(true);
         transceiver.transmit = [this](std::string_view bytes) { answers_ += bytes; };
         port->onWrite = [this](std::string_view bytes) { transceiver.receive(bytes, simulator::Time{}); };
-        controller.writeString(controller.link.syncRadioCmd);
+        controller.writeString(controller.link.syncRadioCmd());
         settle();
         forgetWhatHappened();
     }

@@ -8,6 +8,7 @@
 
 #include "platform/alerts.h"
 #include "platform/data_folder.h"
+#include "platform/file_chooser.h"
 #include "platform/http_client.h"
 #include "platform/log.h"
 #include "platform/sound_player.h"
@@ -73,6 +74,29 @@ struct RecordingDataFolder final : DataFolder {
     std::string path() const override { return "/data"; }
     std::map<std::string, std::string> files;  // contents by path
     std::string failure;                       // what every save comes to
+};
+
+// Files by path; the operator chooses the one that is named in `choice`, or none.
+struct RecordingFileChooser final : FileChooser {
+    void chooseNew(std::string_view, std::string_view, std::string_view, Chosen chosen) override { choose(chosen); }
+    void chooseExisting(std::string_view, std::string_view, Chosen chosen) override { choose(chosen); }
+    SavedFile write(const std::string& path, std::string_view contents) override {
+        if (failure.empty()) files[path] = contents;
+        return {path, failure};
+    }
+    OpenedFile read(const std::string& path, std::size_t limit) override {
+        const auto file = files.find(path);
+        if (file == files.end()) return {path, {}, "No such file or directory."};
+        return {path, file->second.substr(0, limit + 1), {}};
+    }
+    std::string choice;
+    std::map<std::string, std::string> files;
+    std::string failure;  // what every write comes to
+
+private:
+    void choose(const Chosen& chosen) const {
+        if (!choice.empty()) chosen(choice);
+    }
 };
 
 struct RecordingLog final : Log {

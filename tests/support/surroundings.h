@@ -21,11 +21,13 @@ struct Surroundings {
     RecordingWebBrowser browser;
     RecordingAlerts alerts;
     RecordingDataFolder dataFolder;
+    RecordingFileChooser files;
     RecordingHttpClient http;
     RecordingLog log;
 
     Platform platform() {
-        return {portManager, notices, scheduler, settings, speech, sounds, browser, alerts, dataFolder, http, log};
+        return {portManager, notices, scheduler,  settings, speech, sounds,
+                browser,     alerts,  dataFolder, files,    http,   log};
     }
 };
 

@@ -9,6 +9,7 @@
 
 #include "controller/serial_port_demo_controller.h"
 #include "tests/support/every_control.h"
+#include "tests/support/rows.h"
 #include "tests/support/surroundings.h"
 
 namespace corvane {
@@ -34,6 +35,11 @@ public:
     void receive(std::string_view bytes) { port->receive(bytes); }
     // Presses the key that had this tag at first.
     void press(int firstTag) { display.key(firstTag).performClick(); }
+    // The preference with this key in the settings is as if the operator had chosen this value.
+    void switchTo(std::string_view key, std::string_view value) {
+        around.settings.setText(key, value);
+        controller.preferences.restore();
+    }
     void advance(Scheduler::Duration time) { around.scheduler.advance(time); }
 
     // Lets the steps after the opening pass, as if nothing had answered.
@@ -75,7 +81,7 @@ public:
     const std::shared_ptr<FakeSerialPort> port = std::make_shared<FakeSerialPort>("ttyUSB0");
     SerialPortDemoController controller;
     Display& display = controller.display;
-    RadioState& radio = controller.radio;
+    const RadioState& radio = controller.mirror.state();
 
 private:
     Platform platformWith(MapSettingsStore::Values stored) {

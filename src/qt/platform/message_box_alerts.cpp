@@ -1,22 +1,15 @@
 #include "qt/platform/message_box_alerts.h"
 
 #include <QApplication>
-#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <utility>
 
+#include "qt/platform/parent_window.h"
+
 namespace corvane {
 
 namespace {
-
-// Without one of the program's windows in front, its main window: a box without a parent would hold up nothing.
-QWidget* parentWindow() {
-    if (QWidget* active = QApplication::activeWindow()) return active;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->isVisible() && qobject_cast<QMainWindow*>(window)) return window;
-    return nullptr;
-}
 
 // Deletes itself when it is answered, or with the window.
 QMessageBox* box(QMessageBox::Icon icon, std::string_view text) {

@@ -6,6 +6,7 @@
 
 #include "qt/platform/desktop_notification_center.h"
 #include "qt/platform/desktop_web_browser.h"
+#include "qt/platform/dialog_file_chooser.h"
 #include "qt/platform/home_data_folder.h"
 #include "qt/platform/ini_settings_store.h"
 #include "qt/platform/message_box_alerts.h"
@@ -48,6 +49,7 @@ struct QtPlatform::Parts {
     DesktopWebBrowser browser;
     MessageBoxAlerts alerts;
     HomeDataFolder dataFolder;
+    DialogFileChooser files;
     QtHttpClient http;
     StandardLog log;
 };
@@ -76,6 +78,7 @@ Platform QtPlatform::platform() {
             parts_->browser,
             parts_->alerts,
             parts_->dataFolder,
+            parts_->files,
             parts_->http,
             parts_->log};
 }

@@ -3,7 +3,6 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "controls/front_panel_actions.h"
 #include "display/front_panel_keys.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
@@ -32,13 +31,10 @@ void paintLoudspeaker(QPainter& painter, const QRectF& square, bool mute, const 
     painter.restore();
 }
 
-// Whether the key has a state that its colour tells: to a screen reader such a key is pressed or not.
+// To a screen reader a key that lights is pressed or not.
 bool lights(const Button& model) {
-    const int tag = model.outlet().tag;
-    const std::size_t index = frontPanelKeyIndex(tag);
-    if (index >= frontPanelKeys.size()) return false;
-    const KeyPanel panel = frontPanelKeys[index].panel;
-    return panel == KeyPanel::bands || panel == KeyPanel::modes || tag == muteTag || toggleKey(tag) != nullptr;
+    const std::size_t index = frontPanelKeyIndex(model.outlet().tag);
+    return index < frontPanelKeys.size() && corvane::lights(frontPanelKeys[index].action);
 }
 
 }  // namespace

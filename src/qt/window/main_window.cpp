@@ -14,7 +14,7 @@
 #include "qt/window/control_texts.h"
 #include "qt/window/control_views.h"
 #include "qt/window/header_bar.h"
-#include "qt/window/memory_files.h"
+#include "qt/window/memory_import_preview.h"
 #include "qt/window/pages.h"
 #include "qt/window/shortcuts.h"
 #include "qt/window/tab_pages.h"
@@ -38,7 +38,10 @@ MainWindow::MainWindow(SerialPortDemoController& controller) : controller_(contr
         QMetaObject::invokeMethod(
             this, [this] { queue_.refresh(); }, Qt::QueuedConnection);
     };
-    bindMemoryFiles(*this, controller_);
+    controller_.memories.onImport = [this](MemoryImport import, const MemoryTable& shown,
+                                           MemoryChannels::TakeChannels take) {
+        MemoryImportPreview::open(std::move(import), shown, this, std::move(take));
+    };
     makePages();
     // The style sheet polishes every widget there is, and again each one that joins a layout later: once is 50 ms
     // faster.

@@ -152,6 +152,14 @@ QTableWidget* MemoryImportPreview::makeRefused() {
     return list;
 }
 
+void MemoryImportPreview::open(MemoryImport import, const MemoryTable& table, QWidget* window,
+                               std::function<void(const std::vector<ImportedChannel>&)> take) {
+    auto* preview = new MemoryImportPreview(std::move(import), table, window);
+    preview->setAttribute(Qt::WA_DeleteOnClose);
+    connect(preview, &QDialog::accepted, window, [preview, take = std::move(take)] { take(preview->chosen()); });
+    preview->QDialog::open();
+}
+
 std::vector<ImportedChannel> MemoryImportPreview::chosen() const {
     std::vector<ImportedChannel> ticked;
     for (std::size_t i = 0; i < changes_.size(); ++i)

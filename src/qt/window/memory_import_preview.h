@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 #include <vector>
 
 #include "memories/memory_csv.h"
@@ -18,6 +19,10 @@ class MemoryImportPreview : public QDialog {
 public:
     // Lists the channels that would not stay as they are in `table`, each with a tick, and the lines that are refused.
     MemoryImportPreview(MemoryImport import, const MemoryTable& table, QWidget* parent);
+
+    // Shows one over `window`; `take` is called with the ticked channels if the operator takes them.
+    static void open(MemoryImport import, const MemoryTable& table, QWidget* window,
+                     std::function<void(const std::vector<ImportedChannel>&)> take);
 
     // The channels that are ticked.
     std::vector<ImportedChannel> chosen() const;

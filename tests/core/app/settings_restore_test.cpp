@@ -21,7 +21,7 @@ struct Switch {
 };
 
 std::vector<Switch> switches(const SerialPortDemoController& controller) {
-    const Preferences& values = controller.preferences;
+    const Switches& values = controller.preferences.switches();
     const MenuItem& voice = controller.display.menuItemPreferencesVoice;
     const MenuItem& sounds = controller.display.menuItemPreferencesSounds;
     const MenuItem& ipo = controller.display.menuItemPreferencesIPO;
@@ -96,7 +96,7 @@ TEST(SettingsRestore, TheRememberedPortIsSelectedButNotOpened) {
     for (const auto& [stored, port] : cases) {
         Launched program(stored, {"ttyUSB0", "ttyUSB1"});
         EXPECT_EQ(program.display.PortPopUpButton.titleOfSelectedItem(), port);
-        EXPECT_EQ(program.controller.link.serialPort ? program.controller.link.serialPort->name() : "", port);
+        EXPECT_EQ(program.controller.link.serialPort() ? program.controller.link.serialPort()->name() : "", port);
         EXPECT_EQ(program.display.BaudPopUpButton.titleOfSelectedItem(), "38400");
         for (const auto& listed : program.around.portManager.ports) EXPECT_FALSE(listed->isOpen());
     }
@@ -107,12 +107,12 @@ TEST(SettingsRestore, RunsOnceForTheWindowAndAgainWhenPortsAppear) {
     program.around.settings.setText("voice", "1");
     program.display.vqMemAButton.setTitle("changed");
     program.controller.awakeFromNib();
-    EXPECT_EQ(program.controller.preferences.vqVoiceGuide, "0");
+    EXPECT_EQ(program.controller.preferences.switches().vqVoiceGuide, "0");
     EXPECT_EQ(program.display.vqMemAButton.title(), "changed");
 
     program.display.powerPopUpButton.selectItem(45);
     program.around.portManager.connect({std::make_shared<FakeSerialPort>("ttyUSB1")});
-    EXPECT_EQ(program.controller.preferences.vqVoiceGuide, "1");
+    EXPECT_EQ(program.controller.preferences.switches().vqVoiceGuide, "1");
     EXPECT_EQ(program.display.menuItemPreferencesVoice.tag(), 900);
     EXPECT_EQ(program.display.vqMemAButton.title(), "  M-01");
     EXPECT_EQ(program.display.PortPopUpButton.titleOfSelectedItem(), "ttyUSB1");

@@ -14,7 +14,7 @@ TEST(VoiceAndSounds, TheVoiceGuideSpeaksInOrderWhileItIsOn) {
     bench.controller.speak("Full power");
     EXPECT_THAT(bench.takeSpoken(), ElementsAre("20 meters", "Full power"));
     for (const std::string off : {"0", "", "yes", "11"}) {
-        bench.controller.preferences.vqVoiceGuide = off;
+        bench.switchTo("voice", off);
         bench.press(20);
         EXPECT_THAT(bench.takeSpoken(), IsEmpty()) << off;
         EXPECT_EQ(bench.takeWrites(), (Writes{"BS05;", "BI1;"}));
@@ -27,7 +27,7 @@ TEST(VoiceAndSounds, AlertsSoundEvenWhileSoundsAreOff) {
     bench.controller.playSystemSound("Tink");
     EXPECT_THAT(bench.takeSounds(), ElementsAre("file Funk", "alert Tink"));
     for (const std::string off : {"0", "", "yes"}) {
-        bench.controller.preferences.vqSounds = off;
+        bench.switchTo("sounds", off);
         bench.controller.playSound("Funk");
         bench.port->close();
         bench.port->open();

@@ -14,18 +14,18 @@ using testing::ElementsAre;
 
 struct ListBench : TestBench {
     ListBench() {
-        controller.feeds.vqPotaArray = {
-            {{"N0CALL", "14074", "FT8", "", "A Park", "5", "45.0", "-69.5", "US-ME", "US-0001"}}};
-        controller.feeds.vqSotaArray = {
-            {{"N0CALL", "Not recognised", "14.062", "CW", "", "", "A Summit", "", "", "7"}}};
-        controller.feeds.vqNetLoggerArray = {{{"Noon Net", "14.25", "SSB", "12"}}};
-        controller.feeds.vqNetsArray = {{{"With", "3.94", "17:00", "LSB", "https://net.example/a b", "yes", "7"}},
-                                        {{"Without", "3.94", "17:00", "LSB", "", "", "8"}}};
-        controller.feeds.vqMWArray = {{{"WAAA", "540", "Town", "50", "http://waaa.example"}}, {{"short"}}};
-        controller.autoMemories.vqAutoMemoryArray = {"014074000"};
-        controller.autoMemories.vqAutoModeArray = {"USB"};
-        controller.autoMemories.vqAutoNotesArray = {"note"};
-        controller.memories.vqMemArray[4] = {"014250000", "C", "FT8"};
+        const auto put = [this](Feed feed, FeedList rows) {
+            controller.lists.setRows(listFeed(feed), std::move(rows));
+        };
+        put(Feed::pota, {{{"N0CALL", "14074", "FT8", "", "A Park", "5", "45.0", "-69.5", "US-ME", "US-0001"}}});
+        put(Feed::sota, {{{"N0CALL", "Not recognised", "14.062", "CW", "", "", "A Summit", "", "", "7"}}});
+        put(Feed::netLogger, {{{"Noon Net", "14.25", "SSB", "12"}}});
+        put(Feed::nets, {{{"With", "3.94", "17:00", "LSB", "https://net.example/a b", "yes", "7"}},
+                         {{"Without", "3.94", "17:00", "LSB", "", "", "8"}}});
+        put(Feed::mediumWave, {{{"WAAA", "540", "Town", "50", "http://waaa.example"}}, {{"short"}}});
+        keepAutoMemory(controller, "VS0;MD02;FA014074000;");
+        display.autoMemTable.editCell(0, 4, "note");
+        putChannel(controller.memories, 4, {"014250000", "C", "FT8"});
     }
     TableCell view(const TableView& table, int row, std::string_view column) const {
         return table.view(row, table.columnWithIdentifier(column));

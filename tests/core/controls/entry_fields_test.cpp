@@ -40,7 +40,7 @@ TEST(FrequencyEntry, ATypedFrequencyIsSentInOneWrite) {
         TunedBench bench(entry.vfo);
         bench.typeAndReturn(bench.display.freqTextField, entry.typed);
         EXPECT_THAT(bench.takeWrites(), ElementsAre(entry.sent)) << entry.typed;
-        EXPECT_EQ(bench.controller.link.cmd, entry.sent);
+        EXPECT_EQ(bench.controller.link.cmd(), entry.sent);
         EXPECT_EQ(bench.display.freqTextField.stringValue(), entry.vfo == 'A' ? "14.250" : "7.100");
         EXPECT_FALSE(bench.display.freqTextField.editing());
         EXPECT_GT(bench.display.freqTextField.resignations(), 0);

@@ -96,7 +96,7 @@ void expectPress(TestBench& bench, Button& key, const Press& press) {
     const int tag = key.tag();
     bench.controller.go(key);
     EXPECT_EQ(bench.takeWrites(), commandsIn(press.first + press.cmd)) << tag;
-    EXPECT_EQ(bench.controller.link.cmd, press.cmd) << tag;
+    EXPECT_EQ(bench.controller.link.cmd(), press.cmd) << tag;
     EXPECT_EQ(bench.takeSpoken(), press.announcement.empty() ? Writes{} : Writes{press.announcement}) << tag;
     EXPECT_EQ(key.bezelColor(), press.color) << tag;
     EXPECT_EQ(key.tag(), tag + press.offset) << tag;
@@ -187,7 +187,7 @@ TEST(FrontPanel, PowerOnWakesTheTransceiverAndLeavesTheWindowAlive) {
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
     bench.advance(1ms);
     EXPECT_EQ(bench.takeWrites(), (Writes{"PS1;", "PS1;", "BI1;"}));
-    EXPECT_EQ(bench.controller.link.cmd, "PS1;BI1;");
+    EXPECT_EQ(bench.controller.link.cmd(), "PS1;BI1;");
     bench.press(301);
     EXPECT_EQ(bench.display.sMeter.integerValue(), 0);
     bench.press(300);
@@ -209,7 +209,7 @@ TEST(FrontPanel, MuteKeepsTheVolumeForLater) {
 
 TEST(FrontPanel, AVfoKeyShowsItsFrequencyAndSelectsItsSide) {
     TunedBench bench;
-    bench.radio.vqModeA = bench.radio.vqModeB = "memory";
+    for (const char vfo : {'A', 'B'}) bench.controller.mirror.setTunedBy(vfo, "memory");
     bench.press(501);
     EXPECT_EQ(bench.radio.vqAorB, "B");
     EXPECT_EQ(bench.display.activeVfoField.stringValue(), "B");
@@ -307,7 +307,7 @@ TEST(FrontPanel, APressThatBuildsNoCommandSendsNothing) {
         EXPECT_EQ(unknown.tag(), tag);
     }
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
-    EXPECT_EQ(bench.controller.link.cmd, "BS05;BI1;");
+    EXPECT_EQ(bench.controller.link.cmd(), "BS05;BI1;");
     EXPECT_EQ(bench.display.sentTextMemoryField.stringValue(), "");
     EXPECT_THAT(bench.around.browser.opened, ElementsAre("https://site.example/v/corvane/"));
     EXPECT_THAT(bench.markedBands(), IsEmpty());

@@ -33,7 +33,7 @@ TEST(FunctionPopUps, AChoiceSendsItsCommandsOneByOne) {
     };
     for (const auto& choice : cases) {
         TestBench bench;
-        bench.controller.memories.vqMemArray[0].tag = "CALLING";
+        putChannel(bench.controller.memories, 0, {" ", " ", "CALLING"});
         (bench.display.*choice.popUp).choose(choice.entry);
         EXPECT_EQ(bench.takeWrites(), choice.written) << (bench.display.*choice.popUp).objectName();
         EXPECT_EQ(bench.takeSpoken(), choice.spoken);
@@ -42,7 +42,7 @@ TEST(FunctionPopUps, AChoiceSendsItsCommandsOneByOne) {
 
 TEST(FunctionPopUps, WhatStandsForNothingRepeatsNoCommand) {
     TestBench bench;
-    bench.controller.link.cmd = "KY6;";
+    bench.controller.link.build("KY6;");
     PopUpButton popUp{{"", 0}};
     popUp.setEntries(std::vector<std::string>(20, "x"));
     const auto press = [&](auto action, int entry) {
@@ -57,7 +57,7 @@ TEST(FunctionPopUps, WhatStandsForNothingRepeatsNoCommand) {
           &C::goAmp, &C::goAGC, &C::goATT, &C::goRFIL, &C::goDNR, &C::goNB, &C::goSuperPopUp, &C::goMacro})
         press(action, PopUpButton::noSelection);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
-    EXPECT_EQ(bench.controller.link.cmd, "KY6;");
+    EXPECT_EQ(bench.controller.link.cmd(), "KY6;");
 }
 
 TEST(FunctionPopUps, TheFirstColorAsksForNothingAndIsNotShown) {
@@ -137,10 +137,10 @@ TEST(AutomaticPowerOff, SwitchesOffAfterHalfHoursUnlessTakenBack) {
     TestBench bench;
     bench.outlastOpening();
     PopUpButton& powerOff = bench.display.APOPopUpButton;
-    bench.controller.link.cmd = "KY6;";
+    bench.controller.link.build("KY6;");
     powerOff.choose(1);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
-    EXPECT_EQ(bench.controller.powerOff.vqAPO, 1);
+    EXPECT_EQ(bench.controller.powerOff.vqAPO(), 1);
     bench.receive("RM1100000;");
     bench.advance(30min - 1ms);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
@@ -148,7 +148,7 @@ TEST(AutomaticPowerOff, SwitchesOffAfterHalfHoursUnlessTakenBack) {
     bench.advance(1ms);
     EXPECT_THAT(bench.takeWrites(), ElementsAre("PS0;"));
     EXPECT_EQ(powerOff.indexOfSelectedItem(), 0);
-    EXPECT_EQ(bench.controller.powerOff.vqAPO, 0);
+    EXPECT_EQ(bench.controller.powerOff.vqAPO(), 0);
     EXPECT_EQ(bench.display.sMeter.integerValue(), 0);
     EXPECT_THAT(bench.takeSounds(), ElementsAre("file Seatbelts"));
 

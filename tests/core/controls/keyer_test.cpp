@@ -81,7 +81,7 @@ TEST(Keyer, TextThatTheTransceiverCannotHoldIsRefusedAndKept) {
 
 TEST(Keyer, OutsideItsModesNothingIsSentAndNothingIsLost) {
     KeyerBench bench("MD02;");
-    bench.controller.link.cmd = "KY6;";
+    bench.controller.link.build("KY6;");
     EXPECT_THAT(bench.send("CQ"), IsEmpty());
     bench.controller.sendTextMessage(bench.display.sendTextMemoryButton);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "feeds/feed_cells.h"
 #include "feeds/feed_table.h"
 #include "feeds/tune_command.h"
 #include "tests/support/test_bench.h"
@@ -54,7 +55,7 @@ TEST(Feeds, AreFetchedSideBySideAtTheStartAndWhenPortsAppear) {
 
 TEST(Feeds, ARefreshEmptiesTheListAndTakesItsAnswerAtOnce) {
     FeedBench bench;
-    bench.controller.feeds.vqPotaArray = {{{"old"}}};
+    bench.controller.lists.setRows(listFeed(Feed::pota), {{{"old"}}});
     bench.press(811);
     EXPECT_EQ(bench.display.potaTable.rows(), 0);
     HttpRequest plain;
@@ -124,7 +125,7 @@ TEST(Feeds, LongTextsAreCutWhereTheyAreShownAndSpoken) {
         for (std::size_t frequency = 1; frequency < 4; ++frequency) {
             FeedRow row{std::vector<std::string>(10, longText)};
             if (frequency < 3) row.fields[frequency] = "7.1";
-            bench.controller.feeds.*feed.list = {row};
+            bench.controller.lists.setRows(feed, {row});
             for (int column = 0; column < static_cast<int>(table.columns().size()); ++column) {
                 EXPECT_LE(characters(table.cell(0, column)), 210) << feed.path << column;
                 EXPECT_TRUE(isUtf8(table.cell(0, column)));
@@ -183,110 +184,90 @@ TEST(TuneCommand, FollowsTheRowsWordsAndUnits) {
     const struct {
         int column;  // of the table's tune button
         TableView Display::*table;
-        FeedList FeedState::*list;
+        Feed list;
         FeedRow row;
         std::string sent;
         std::string spoken;
     } cases[] = {
         {0,
          &Display::potaTable,
-         &FeedState::vqPotaArray,
+         Feed::pota,
          {{"", "14074", "FT8", "", "Park"}},
          "MD02;SF1E;FA014074000;SS0640000;",
          "Park"},
         {0,
          &Display::potaTable,
-         &FeedState::vqPotaArray,
+         Feed::pota,
          {{"", "7185.5", "SSB", "", "Park"}},
          "MD01;SF1E;FA007185500;SS0640000;",
          "Park"},
         {0,
          &Display::potaTable,
-         &FeedState::vqPotaArray,
+         Feed::pota,
          {{"", "10100", "CW", "", "Park"}},
          "MD03;SF1H;FA010100000;SS0640000;",
          "Park"},
         {0,
          &Display::potaTable,
-         &FeedState::vqPotaArray,
+         Feed::pota,
          {{"", "9999.9", "CW", "", "Park"}},
          "MD07;SF1H;FA009999900;SS0640000;",
          "Park"},
-        {0,
-         &Display::potaTable,
-         &FeedState::vqPotaArray,
-         {{"", "14286", "AM", "", "Park"}},
-         "FA014286000;SS0640000;",
-         "Park"},
-        {0,
-         &Display::potaTable,
-         &FeedState::vqPotaArray,
-         {{"", "14286", "ssb", "", "Park"}},
-         "FA014286000;SS0640000;",
-         "Park"},
-        {0, &Display::potaTable, &FeedState::vqPotaArray, {{"", "7.074.5", "SSB", "", "Park"}}, "", ""},
-        {0, &Display::potaTable, &FeedState::vqPotaArray, {{"", "14074"}}, "", ""},
+        {0, &Display::potaTable, Feed::pota, {{"", "14286", "AM", "", "Park"}}, "FA014286000;SS0640000;", "Park"},
+        {0, &Display::potaTable, Feed::pota, {{"", "14286", "ssb", "", "Park"}}, "FA014286000;SS0640000;", "Park"},
+        {0, &Display::potaTable, Feed::pota, {{"", "7.074.5", "SSB", "", "Park"}}, "", ""},
+        {0, &Display::potaTable, Feed::pota, {{"", "14074"}}, "", ""},
         {0,
          &Display::sotaTable,
-         &FeedState::vqSotaArray,
+         Feed::sota,
          {{"", "", "14.062", "CW", "", "", "Hill"}},
          "MD03;SF1H;FA014062000;SS0640000;",
          "Hill"},
         {0,
          &Display::sotaTable,
-         &FeedState::vqSotaArray,
+         Feed::sota,
          {{"", "", "2.001", "SSB", "", "", "Hill"}},
          "MD01;SF1E;FA002000999;SS0640000;",
          "Hill"},
-        {0,
-         &Display::netsTable,
-         &FeedState::vqNetsArray,
-         {{"Net", "3.940", "", "LSB"}},
-         "MD01;FA003940000;SS0640000;",
-         "Net"},
-        {0,
-         &Display::netsTable,
-         &FeedState::vqNetsArray,
-         {{"Net", "3.940", "", "SSB"}},
-         "FA003940000;SS0640000;",
-         "Net"},
+        {0, &Display::netsTable, Feed::nets, {{"Net", "3.940", "", "LSB"}}, "MD01;FA003940000;SS0640000;", "Net"},
+        {0, &Display::netsTable, Feed::nets, {{"Net", "3.940", "", "SSB"}}, "FA003940000;SS0640000;", "Net"},
         {0,
          &Display::netLoggerTable,
-         &FeedState::vqNetLoggerArray,
+         Feed::netLogger,
          {{"Net", "14300"}},
          "MD02;FA014300000;SS0640000;SS0560000;",
          "Net"},
         {0,
          &Display::netLoggerTable,
-         &FeedState::vqNetLoggerArray,
+         Feed::netLogger,
          {{"Net", "3.9155"}},
          "MD01;FA003915500;SS0640000;SS0560000;",
          "Net"},
         {0,
          &Display::netLoggerTable,
-         &FeedState::vqNetLoggerArray,
+         Feed::netLogger,
          {{"Net", "10.0"}},
          "MD01;FA001000000;SS0640000;SS0560000;",
          "Net"},
         {0,
          &Display::netLoggerTable,
-         &FeedState::vqNetLoggerArray,
+         Feed::netLogger,
          {{"Net", "7.0.7"}},
          "MD01;FA000000000;SS0640000;SS0560000;",
          "Net"},
-        {0, &Display::mwTable, &FeedState::vqMWArray, {{"WAAA", "1000"}}, "MD05;FA001000000;SS0640000;", "WAAA"},
-        {0, &Display::mwTable, &FeedState::vqMWArray, {{"WAAA", "540"}}, "MD05;FA000540000;SS0640000;", "WAAA"},
-        {0, &Display::mwTable, &FeedState::vqMWArray, {{"WAAA", ""}}, "", ""},
+        {0, &Display::mwTable, Feed::mediumWave, {{"WAAA", "1000"}}, "MD05;FA001000000;SS0640000;", "WAAA"},
+        {0, &Display::mwTable, Feed::mediumWave, {{"WAAA", "540"}}, "MD05;FA000540000;SS0640000;", "WAAA"},
+        {0, &Display::mwTable, Feed::mediumWave, {{"WAAA", ""}}, "", ""},
     };
     for (const auto& tuned : cases) {
         FeedBench bench;
-        bench.controller.link.cmd = "KY6;";
-        bench.controller.feeds.*tuned.list = {{{"another"}}, tuned.row};
+        bench.controller.link.build("KY6;");
+        bench.controller.lists.setRows(listFeed(tuned.list), {{{"another"}}, tuned.row});
         (bench.display.*tuned.table).pressCell(1, tuned.column);
         std::string sent;
         for (const std::string& write : bench.takeWrites()) sent += write;
         EXPECT_EQ(sent, tuned.sent);
-        EXPECT_EQ(bench.controller.link.cmd, tuned.sent.empty() ? "KY6;" : tuned.sent);
+        EXPECT_EQ(bench.controller.link.cmd(), tuned.sent.empty() ? "KY6;" : tuned.sent);
         EXPECT_EQ(bench.takeSpoken(), tuned.spoken.empty() ? Writes{} : Writes{tuned.spoken}) << tuned.sent;
         (bench.display.*tuned.table).pressCell(2, tuned.column);
         (bench.display.*tuned.table).pressCell(-1, tuned.column);
@@ -296,8 +277,8 @@ TEST(TuneCommand, FollowsTheRowsWordsAndUnits) {
 
 TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
     FeedBench bench;
-    bench.controller.feeds.vqNetsArray = {{{"", "", "", "", "", "", ""}},
-                                          {{"Noon Net", "3.940", "", "LSB", "", "", "7"}}};
+    bench.controller.lists.setRows(listFeed(Feed::nets),
+                                   {{{"", "", "", "", "", "", ""}}, {{"Noon Net", "3.940", "", "LSB", "", "", "7"}}});
     TableView& table = bench.display.netsTable;
     table.pressCell(1, 6);
     const std::string key = bench.around.settings.values["operator"];
@@ -335,24 +316,24 @@ TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
 
 TEST(FeedCells, ShowKilohertzMinutesAndDashes) {
     const struct {
-        FeedTable table;
+        Feed feed;
         std::string_view column;
         FeedRow row;
         std::string_view shown;
     } cases[] = {
-        {FeedTable::pota, "frequency", {{"", "14074"}}, "14074.0"},
-        {FeedTable::pota, "frequency", {{"", "x"}}, "0.0"},
-        {FeedTable::pota, "last", {{"", "", "", "", "", "5"}}, "5 min"},
-        {FeedTable::pota, "reference", {{"short"}}, ""},
-        {FeedTable::sota, "frequency2", {{"", "", "14.062"}}, "14062.0"},
-        {FeedTable::sota, "activatorName", {{"", "Not recognised"}}, "--"},
-        {FeedTable::sota, "name2", {{"", "", "", "", "", "", "Summit not recognised"}}, "--"},
-        {FeedTable::netLogger, "freq", {{"", "14.25"}}, "14250.0"},
-        {FeedTable::netLogger, "freq", {{"", "14300"}}, "14300.0"},
-        {FeedTable::netLogger, "freq", {{"", "7.0.7"}}, ""},
-        {FeedTable::mediumWave, "power", {{"", "", "", "50"}}, "50 kW"},
+        {Feed::pota, "frequency", {{"", "14074"}}, "14074.0"},
+        {Feed::pota, "frequency", {{"", "x"}}, "0.0"},
+        {Feed::pota, "last", {{"", "", "", "", "", "5"}}, "5 min"},
+        {Feed::pota, "reference", {{"short"}}, ""},
+        {Feed::sota, "frequency2", {{"", "", "14.062"}}, "14062.0"},
+        {Feed::sota, "activatorName", {{"", "Not recognised"}}, "--"},
+        {Feed::sota, "name2", {{"", "", "", "", "", "", "Summit not recognised"}}, "--"},
+        {Feed::netLogger, "freq", {{"", "14.25"}}, "14250.0"},
+        {Feed::netLogger, "freq", {{"", "14300"}}, "14300.0"},
+        {Feed::netLogger, "freq", {{"", "7.0.7"}}, ""},
+        {Feed::mediumWave, "power", {{"", "", "", "50"}}, "50 kW"},
     };
-    for (const auto& cell : cases) EXPECT_EQ(feedCell(cell.table, cell.column, cell.row), cell.shown) << cell.column;
+    for (const auto& cell : cases) EXPECT_EQ(feedCell(cell.feed, cell.column, cell.row), cell.shown) << cell.column;
 }
 
 }  // namespace

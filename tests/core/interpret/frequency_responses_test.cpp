@@ -100,9 +100,9 @@ TEST(FrequencyResponses, MarkMovesFromBandToBand) {
 
 TEST(FrequencyResponses, MemoryChannelIsShownWhileSideAIsActive) {
     TestBench bench;
-    bench.radio.vqMemATag = "40M FT8";
+    bench.receive("VS0;MR001007074000+000000210000040M FT8     ;VS1;");
     bench.receive("MC005;");
-    EXPECT_EQ(bench.display.vqMemAButton.title(), "");
+    EXPECT_EQ(bench.display.vqMemAButton.title(), "  M-01 40M FT8");
     EXPECT_EQ(bench.radio.vqMemCh, "005");
     EXPECT_EQ(bench.radio.vqMemChA, "005");
     EXPECT_EQ(bench.radio.vqMemChB, "005");
@@ -139,9 +139,9 @@ TEST(FrequencyResponses, AnInformationRecordTellsWhatItsSideIsTunedBy) {
     for (const auto& row : cases) {
         for (const bool sideA : {true, false}) {
             TestBench bench;
-            bench.controller.memories.vqMemArray[11].tag = "20M SSB";
-            bench.controller.memories.vqMemArray[0].tag = "first";
-            bench.radio.vqModeA = bench.radio.vqModeB = "untouched";
+            putChannel(bench.controller.memories, 11, {" ", " ", "20M SSB"});
+            putChannel(bench.controller.memories, 0, {" ", " ", "first"});
+            for (const char vfo : {'A', 'B'}) bench.controller.mirror.setTunedBy(vfo, "untouched");
             bench.display.vqMemAButton.setTitle("was");
             bench.display.memPopUpButton.selectItem(41);
             for (Button* button :

@@ -1,7 +1,7 @@
 // The transceiver's setup menu, from its table to the simulated transceiver and back.
 #include <gmock/gmock.h>
 
-#include "controls/menu_writes.h"
+#include "interpret/menu_writes.h"
 #include "interpret/numeric_pop_ups.h"
 #include "tests/support/radio_bench.h"
 #include "wire/cat_command.h"
@@ -82,7 +82,7 @@ TEST(MenuSettingsTest, AChoiceSendsTheValueInTheFormOfItsItem) {
 
 TEST(MenuSettingsTest, WhatNamesNoItemOrNoValueSendsNothing) {
     RadioBench bench;
-    bench.controller.link.cmd = "FA014250000;";
+    bench.controller.link.build("FA014250000;");
     bench.port->written.clear();
     for (const int tag : {2010200, 2040101, 2019999, 2000000}) {
         PopUpButton stranger({"", tag});
@@ -166,7 +166,7 @@ TEST(MenuSettingsTest, TheCallSignIsKeptAndShown) {
     for (const auto& [report, call] : {std::pair{"EX040101N0CALL      ;", "N0CALL"},
                                        std::pair{"EX040101 \r\nAB1C\t;", "AB1C"}, std::pair{"EX040101;", ""}}) {
         bench.receive(report);
-        EXPECT_EQ(bench.controller.radio.vqCall, call);
+        EXPECT_EQ(bench.controller.setupMenu.vqCall(), call);
         EXPECT_EQ(bench.controller.userDefaults.text("call"), call);
         EXPECT_EQ(bench.display.callTextField.stringValue(), call);
     }

@@ -19,13 +19,12 @@ struct AutoBench : TestBench {
         receive(std::string(frequency));
         display.autoMemoryNowButton.performClick();
     }
-    AutoMemoryState& kept = controller.autoMemories;
+    const AutoMemoryState& kept = controller.autoMemories.state();
 };
 
 TEST(AutoMemories, ASignalAtTheSquelchIsRecordedEveryTwentySeconds) {
     AutoBench bench("9");
-    bench.receive("RM1089000;");
-    bench.controller.link.vqSignal = 89999;
+    bench.receive("RM1089999;");
     bench.advance(20s);
     EXPECT_THAT(bench.kept.vqAutoMemoryArray, IsEmpty());
     bench.receive("RM1090000;");
@@ -61,15 +60,16 @@ TEST(AutoMemories, BeforeTheFirstReportNothingStays) {
     bench.display.autoMemoryNowButton.performClick();
     bench.receive("FA014250000;");
     bench.display.autoMemoryNowButton.performClick();
-    EXPECT_THAT(bench.controller.autoMemories.vqAutoMemoryArray, IsEmpty());
-    EXPECT_THAT(bench.controller.autoMemories.vqAutoModeArray, IsEmpty());
-    EXPECT_THAT(bench.controller.autoMemories.vqAutoNotesArray, IsEmpty());
+    EXPECT_THAT(bench.controller.autoMemories.state().vqAutoMemoryArray, IsEmpty());
+    EXPECT_THAT(bench.controller.autoMemories.state().vqAutoModeArray, IsEmpty());
+    EXPECT_THAT(bench.controller.autoMemories.state().vqAutoNotesArray, IsEmpty());
 }
 
 TEST(AutoMemories, RowsAreTunedToAndClearedByTheirButtons) {
     AutoBench bench;
     for (const char* frequency : {"FA007074000;", "FA014074000;", "FA028074000;"}) bench.keep(frequency);
-    bench.kept.vqAutoNotesArray = {"ten", "twenty", "forty"};
+    for (const auto& [row, note] : {std::pair{0, "ten"}, {1, "twenty"}, {2, "forty"}})
+        bench.display.autoMemTable.editCell(row, 4, note);
     bench.forgetWhatHappened();
     TableView& table = bench.display.autoMemTable;
     ASSERT_EQ(table.rows(), 3);
@@ -105,7 +105,7 @@ TEST(AutoMemories, TheClearKeyEmptiesTheListAndSendsNothing) {
     AutoBench bench;
     bench.keep("FA007074000;");
     bench.forgetWhatHappened();
-    bench.controller.link.cmd = "KY6;";
+    bench.controller.link.build("KY6;");
     bench.press(815);
     EXPECT_EQ(bench.display.autoMemTable.rows(), 0);
     EXPECT_EQ(bench.takeChanges().count("autoMemTable"), 0U) << "shown once the action has returned";
@@ -113,7 +113,7 @@ TEST(AutoMemories, TheClearKeyEmptiesTheListAndSendsNothing) {
     EXPECT_EQ(bench.takeChanges().count("autoMemTable"), 1U);
     EXPECT_THAT(bench.takeSounds(), ElementsAre("alert Basso"));
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
-    EXPECT_EQ(bench.controller.link.cmd, "KY6;");
+    EXPECT_EQ(bench.controller.link.cmd(), "KY6;");
 }
 
 TEST(AutoMemorySquelch, IsRestoredShownAndKept) {

@@ -173,38 +173,61 @@ TEST(MemoryCsv, TellsWhatAWriteWouldChange) {
         EXPECT_FALSE(sameChannel(channel, other));
 }
 
-TEST(MemoryImport, ChangesTheTableAsAnEditDoes) {
-    RadioBench bench;
-    const auto& table = bench.controller.memories.vqMemArray;
-    const std::vector<ImportedChannel> channels{{2, 50, {"007074000", "C", "FT8"}, ""}};
-    EXPECT_FALSE(bench.controller.canTakeChannels()) << "the opening's own read is still to come";
-    bench.display.readMemoriesButton.performClick();
-    EXPECT_FALSE(bench.controller.canTakeChannels());
-    bench.controller.takeImportedChannels(table, channels);
-    ASSERT_EQ(bench.around.alerts.shown.size(), 1U);
-    EXPECT_THAT(bench.around.alerts.shown[0], HasSubstr("Nothing was imported"));
+struct ImportBench : RadioBench {
+    ImportBench() {
+        around.files.files["/in.csv"] = "Location,Name,Frequency,Mode\n51,FT8,7.074,DIG\n";
+        around.files.choice = "/in.csv";
+        controller.memories.onImport = [this](const MemoryImport& import, const MemoryTable&, auto take) {
+            takeAll = [chosen = import.channels, take] { take(chosen); };
+        };
+    }
+    void import() { display.importMemoriesButton.performClick(); }
+    void read() { display.readMemoriesButton.performClick(); }
+    std::function<void()> takeAll;
+    const MemoryTable& table = controller.memories.vqMemArray();
+    std::vector<std::string>& alerts = around.alerts.shown;
+};
+
+TEST(MemoryImport, WaitsForTheReadAndForRowsAsTheyWereShown) {
+    ImportBench bench;
+    bench.import();
+    ASSERT_EQ(bench.alerts.size(), 1U) << "the opening's own read is still to come";
+    bench.read();
+    bench.import();
+    ASSERT_EQ(bench.alerts.size(), 2U);
+    EXPECT_THAT(bench.alerts, testing::Each(HasSubstr("have not been read yet")));
     bench.settle();
-    EXPECT_TRUE(bench.controller.canTakeChannels());
-    EXPECT_EQ(table[50], MemoryChannel{});
 
-    MemoryTable shown = table;
-    bench.controller.memories.vqMemArray[0].tag = "edited";
-    bench.controller.takeImportedChannels(shown, channels);
-    EXPECT_EQ(bench.around.alerts.shown.size(), 2U);
-    EXPECT_EQ(table[50], MemoryChannel{});
+    for (const std::function<void()>& change :
+         {std::function<void()>([&] { bench.read(); }), {[&] { putChannel(bench.controller.memories, 0, {}); }}}) {
+        bench.import();
+        change();
+        bench.alerts.clear();
+        bench.takeAll();
+        ASSERT_EQ(bench.alerts.size(), 1U);
+        EXPECT_THAT(bench.alerts[0], HasSubstr("Nothing was imported"));
+        bench.settle();
+        EXPECT_EQ(bench.table[50], MemoryChannel{});
+    }
+}
 
-    shown = table;
+TEST(MemoryImport, ChangesTheTableAsAnEditDoes) {
+    ImportBench bench;
+    bench.read();
+    bench.settle();
+    MemoryTable expected = bench.table;
+    expected[50] = {"007074000", "C", "FT8"};
     const int version = bench.display.memoriesTable.version();
-    const ChannelsAsRead before = bench.controller.memories.asRead;
+    const ChannelsAsRead before = bench.controller.memories.read().asRead;
     bench.takeWrites();
-    bench.controller.takeImportedChannels(shown, channels);
-    shown[50] = channels[0].channel;
-    EXPECT_EQ(table, shown);
-    EXPECT_EQ(bench.controller.memories.asRead, before) << "what the transceiver holds has not changed";
+    bench.import();
+    bench.takeAll();
+    EXPECT_EQ(bench.table, expected);
+    EXPECT_EQ(bench.controller.memories.read().asRead, before) << "what the transceiver holds has not changed";
     EXPECT_GT(bench.display.memoriesTable.version(), version);
     EXPECT_EQ(bench.display.memoryReadField.stringValue(), "1 channel imported, not written to the transceiver yet");
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
-    EXPECT_EQ(bench.around.alerts.shown.size(), 2U);
+    EXPECT_THAT(bench.alerts, IsEmpty());
 }
 
 }  // namespace

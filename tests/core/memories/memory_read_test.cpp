@@ -46,7 +46,7 @@ TEST(MemoryRead, AsksForEveryChannelInOrderAndFillsTableAndPopUp) {
     bench.display.readMemoriesButton.performClick();
     bench.settle();
     EXPECT_EQ(bench.takeWrites(), wholeRead());
-    const MemoryTable& table = bench.controller.memories.vqMemArray;
+    const MemoryTable& table = bench.controller.memories.vqMemArray();
     for (int row = 0; row < memoryChannels; ++row) {
         MemoryChannel expected = unread;
         if (row == 0) expected = {"014250000", "2", "CALLING     "};
@@ -104,15 +104,15 @@ TEST(MemoryRead, StartsAfreshWhereverTheLastOneStopped) {
         bench.display.readMemoriesButton.performClick();
         for (int reply = 0; reply < replies; ++reply) bench.receive("?;");
         bench.display.readMemoriesButton.performClick();
-        EXPECT_EQ(bench.controller.memories.vqMemRead, "run");
-        EXPECT_EQ(bench.controller.memories.vqTagRead, "0");
-        EXPECT_THAT(bench.controller.memories.vqMemArray, Each(unread));
+        EXPECT_EQ(bench.controller.memories.read().vqMemRead, "run");
+        EXPECT_EQ(bench.controller.memories.read().vqTagRead, "0");
+        EXPECT_THAT(bench.controller.memories.vqMemArray(), Each(unread));
     }
     bench.port->onWrite = {};
     bench.receive(std::string(3'000, '?') + ";");
     for (int storm = 0; storm < 1'000; ++storm) bench.receive("?;");
-    EXPECT_EQ(bench.controller.memories.vqTagRead, "0");
-    EXPECT_THAT(bench.controller.memories.vqMemArray, Each(unread));
+    EXPECT_EQ(bench.controller.memories.read().vqTagRead, "0");
+    EXPECT_THAT(bench.controller.memories.vqMemArray(), Each(unread));
 }
 
 // A request that was under way when a read was begun anew, and an error answer to another command, leave the chain one
@@ -132,12 +132,12 @@ TEST(MemoryRead, LosesNoChannelWhenTheChainRunsAhead) {
             bench.receive("?;");
         }
         bench.settle();
-        const MemoryTable& table = bench.controller.memories.vqMemArray;
+        const MemoryTable& table = bench.controller.memories.vqMemArray();
         for (int row = 0; row < memoryChannels; ++row) {
             const MemoryChannel& channel = table[static_cast<std::size_t>(row)];
             EXPECT_EQ(channel.frequency, std::to_string(7'000'001 + row).insert(0, "00")) << row;
             EXPECT_THAT(channel.tag, testing::StartsWith("TAG " + std::to_string(row + 1))) << row;
-            EXPECT_EQ(bench.controller.memories.asRead[static_cast<std::size_t>(row)].row, channel) << row;
+            EXPECT_EQ(bench.controller.memories.read().asRead[static_cast<std::size_t>(row)].row, channel) << row;
         }
         EXPECT_EQ(bench.radio.vqMemATag, "") << "it is no channel in use";
     }
@@ -152,14 +152,14 @@ TEST(MemoryRead, RepliesThatSayNothingMoveTheChainAndChangeNothing) {
         bench.takeWrites();
         bench.receive(reply);
         EXPECT_THAT(bench.takeWrites(), ElementsAre("MR001;")) << reply;
-        EXPECT_THAT(bench.controller.memories.vqMemArray, Each(unread)) << reply;
+        EXPECT_THAT(bench.controller.memories.vqMemArray(), Each(unread)) << reply;
     }
 }
 
 TEST(MemoryRead, ATagThatComesUnaskedIsTaken) {
     TestBench bench;
     bench.receive("MT0071MY CHANNEL  ;MT1001NOT IN TABLE;");
-    EXPECT_EQ(bench.controller.memories.vqMemArray[6], (MemoryChannel{" ", " ", "MY CHANNEL  "}));
+    EXPECT_EQ(bench.controller.memories.vqMemArray()[6], (MemoryChannel{" ", " ", "MY CHANNEL  "}));
     EXPECT_EQ(popUpTitle(bench, 7), "M-07 MY CHANNEL  ");
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
 }
@@ -178,7 +178,7 @@ TEST(MemoryRead, AReplyOutsideAReadDescribesTheChannelInUse) {
     EXPECT_EQ(bench.radio.vqMemBTag, "FORTY");
     EXPECT_EQ(bench.radio.vqModeB, "memory");
     EXPECT_EQ(bench.radio.vqMemATag, "TWENTY");
-    EXPECT_THAT(bench.controller.memories.vqMemArray, Each(unread));
+    EXPECT_THAT(bench.controller.memories.vqMemArray(), Each(unread));
 }
 
 }  // namespace

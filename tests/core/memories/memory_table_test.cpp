@@ -26,8 +26,9 @@ constexpr std::string_view tooHigh = "Frequency must be in MHz and less than 75.
 struct TableBench : TestBench {
     TableBench() { display.memoriesTable.registerForDraggedText(); }
     TableView& table = display.memoriesTable;
-    MemoryTable& rows = controller.memories.vqMemArray;
-    MemoryChannel& row(int index) { return rows[static_cast<std::size_t>(index)]; }
+    const MemoryTable& rows = controller.memories.vqMemArray();
+    const MemoryChannel& row(int index) const { return rows[static_cast<std::size_t>(index)]; }
+    void put(std::size_t index, const MemoryChannel& channel) { putChannel(controller.memories, index, channel); }
     // The tags of the first rows, each with its channel in front.
     Writes shown(int count) {
         Writes all;
@@ -36,7 +37,7 @@ struct TableBench : TestBench {
     }
     void name(const Writes& tags) {
         for (std::size_t index = 0; index < tags.size(); ++index)
-            rows[index] = {"00700000" + tags[index], "1", tags[index]};
+            put(index, {"00700000" + tags[index], "1", tags[index]});
     }
 };
 
@@ -68,7 +69,7 @@ TEST(MemoryTable, ATypedFrequencyIsStoredInHertzOrWarnedOf) {
     };
     for (const auto& edit : cases) {
         TableBench bench;
-        bench.row(41) = before;
+        bench.put(41, before);
         bench.table.editCell(41, frequencyColumn, edit.typed);
         EXPECT_EQ(bench.row(41), edit.after) << edit.typed;
         EXPECT_EQ(bench.table.view(41, frequencyColumn), TableCell(EditableCell{std::string(edit.shown)}));
@@ -95,7 +96,7 @@ TEST(MemoryTable, ATagKeepsTwelvePlainCharacters) {
     };
     for (const auto& [typed, tag] : cases) {
         TableBench bench;
-        bench.row(3) = {"007074000", "2", "before"};
+        bench.put(3, {"007074000", "2", "before"});
         bench.table.editCell(3, tagColumn, typed);
         EXPECT_EQ(bench.row(3), (MemoryChannel{"007074000", "2", std::string(tag)})) << typed;
     }
@@ -172,12 +173,12 @@ Writes sortedTags(TableBench& bench, int column) {
 TEST(MemoryTable, AHeaderSortsAndTurns) {
     TableBench bench;
     // Two rows with one frequency, two without; a blank tag and an empty one.
-    bench.rows[3] = {"014074000", "2", "b"};
-    bench.rows[9] = {"007074000", "1", "d"};
-    bench.rows[12] = {"", "1", "none"};
-    bench.rows[20] = {"014074000", "3", "a"};
-    bench.rows[30] = {"000860000", "5", ""};
-    bench.rows[98] = {"050313000", "2", "C"};
+    bench.put(3, {"014074000", "2", "b"});
+    bench.put(9, {"007074000", "1", "d"});
+    bench.put(12, {"", "1", "none"});
+    bench.put(20, {"014074000", "3", "a"});
+    bench.put(30, {"000860000", "5", ""});
+    bench.put(98, {"050313000", "2", "C"});
     EXPECT_THAT(sortedTags(bench, frequencyColumn), ElementsAre("", "d", "b", "a", "C", "none"));
     EXPECT_EQ(bench.row(0), (MemoryChannel{"000860000", "5", ""}));
     EXPECT_THAT(sortedTags(bench, frequencyColumn), ElementsAre("C", "b", "a", "d", "", "none"));
@@ -303,14 +304,14 @@ TEST(MemoryTable, AMoveEndsAHaltedRead) {
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
     EXPECT_EQ(bench.row(0).frequency, moved[0].frequency);
     EXPECT_EQ(bench.row(1).frequency, moved[1].frequency);
-    EXPECT_FALSE(bench.controller.memories.whole);
+    EXPECT_FALSE(bench.controller.memories.read().whole);
 }
 
 TEST(MemoryTable, AnEditDuringAReadIsNoPartOfWhatWasRead) {
     RadioBench bench;
     bench.display.readMemoriesButton.performClick();
     bench.settle();
-    const ChannelsAsRead held = bench.controller.memories.asRead;
+    const ChannelsAsRead held = bench.controller.memories.read().asRead;
     ASSERT_EQ(held[0].row.frequency.size(), 9U);
     ASSERT_EQ(held[90].row, MemoryChannel{}) << held[90].row.frequency << '|' << held[90].row.tag;
     bench.port->onWrite = [&, serve = bench.port->onWrite](std::string_view bytes) {
@@ -323,18 +324,16 @@ TEST(MemoryTable, AnEditDuringAReadIsNoPartOfWhatWasRead) {
     };
     bench.display.readMemoriesButton.performClick();
     bench.settle();
-    EXPECT_EQ(bench.controller.memories.asRead, held);
-    EXPECT_TRUE(bench.controller.memories.unsaved);
-    EXPECT_EQ(bench.controller.memories.vqMemArray[0].frequency, "050313000");
-    EXPECT_EQ(bench.controller.memories.vqMemArray[90].frequency, "007074000");
+    EXPECT_EQ(bench.controller.memories.read().asRead, held);
+    EXPECT_TRUE(bench.controller.memories.read().unsaved);
+    EXPECT_EQ(bench.controller.memories.vqMemArray()[0].frequency, "050313000");
+    EXPECT_EQ(bench.controller.memories.vqMemArray()[90].frequency, "007074000");
 }
 
 TEST(AutoMemoryNotes, AreEditedInTheirRow) {
     TestBench bench;
-    auto& kept = bench.controller.autoMemories;
-    kept.vqAutoMemoryArray = {"014074000", "007074000"};
-    kept.vqAutoModeArray = {"USB", "USB"};
-    kept.vqAutoNotesArray = {"   ", "   "};
+    const AutoMemoryState& kept = bench.controller.autoMemories.state();
+    for (const char* responses : {"VS0;MD02;FA007074000;", "FA014074000;"}) keepAutoMemory(bench.controller, responses);
     TableView& table = bench.display.autoMemTable;
     const int version = table.version();
     table.editCell(1, 4, "loud; \u00e9 73");
@@ -342,13 +341,13 @@ TEST(AutoMemoryNotes, AreEditedInTheirRow) {
     EXPECT_GT(table.version(), version);
     for (const CellPlace place : {CellPlace{2, 4}, {-1, 4}, {0, 1}, {0, 5}})
         table.editCell(place.row, place.column, "x");
-    kept.vqAutoNotesArray.clear();
+    bench.press(815);
     bench.controller.autoNoteEdited(bench.display.autoMemsTableNoteField);
     TextField elsewhere({"elsewhere"});
     bench.controller.autoNoteEdited(elsewhere);
     bench.controller.textEdited(elsewhere);
     EXPECT_THAT(kept.vqAutoNotesArray, IsEmpty());
-    EXPECT_EQ(bench.controller.memories.vqMemArray, MemoryTable{});
+    EXPECT_EQ(bench.controller.memories.vqMemArray(), MemoryTable{});
 }
 
 }  // namespace

@@ -20,11 +20,12 @@ struct WrittenBench : TestBench {
 
 TEST(MemoryWrite, WritesProgrammedRowsWithTheirTagsAndErasesTheOthers) {
     WrittenBench bench;
-    auto& rows = bench.controller.memories.vqMemArray;
+    MemoryTable rows;
     rows[0] = {"014250000", "2", "A TAG THAT IS TOO LONG"};
     rows[4] = {"007074000", "2", "FT8"};
     rows[8] = {"", "", ""};
     rows[9] = {"003600000", "1", ""};
+    bench.controller.memories.setRows(rows);
     const Writes written = bench.write();
     Writes expected;
     for (int channel = 1; channel <= memoryChannels; ++channel) {
@@ -95,7 +96,7 @@ TEST(MemoryWrite, SavesWhatWasReadBeforeItIsWrittenOver) {
     bench.settle();
     bench.display.readMemoriesButton.performClick();
     bench.settle();
-    bench.controller.memories.vqMemArray[1] = {"", "", ""};
+    putChannel(bench.controller.memories, 1, {"", "", ""});
     bench.display.writeMemoriesButton.performClick();
     bench.advance(1s);
     bench.settle();
@@ -133,11 +134,14 @@ TEST(MemoryWrite, WhatCannotBeSavedIsNotWrittenOver) {
 TEST(MemoryWrite, AsksFirstAndSaysWhatItWillDo) {
     TestBench bench;
     bench.around.alerts.agree = false;
-    bench.controller.memories.vqMemArray[0] = {"014250000", "2", "FT8"};
+    putChannel(bench.controller.memories, 0, {"014250000", "2", "FT8"});
     bench.display.writeMemoriesButton.performClick();
-    bench.controller.memories.whole = true;
+    bench.display.readMemoriesButton.performClick();
+    for (int reply = 0; reply < 200; ++reply) bench.receive("?;");
+    putChannel(bench.controller.memories, 0, {"014250000", "2", "FT8"});
+    bench.takeWrites();
     bench.display.writeMemoriesButton.performClick();
-    bench.controller.memories.vqMemArray[13] = {"007100000", " ", "NO MODE"};
+    putChannel(bench.controller.memories, 13, {"007100000", " ", "NO MODE"});
     bench.display.writeMemoriesButton.performClick();
     bench.advance(1s);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());

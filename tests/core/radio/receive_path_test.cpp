@@ -19,9 +19,9 @@ TEST(ReceivePath, SignalIsTheLastSixDigitsOfTheLastMeterReport) {
                  {"R\xFFM1100000;", 77},     {"RM1100000;\xC3", 77}};
     TestBench bench;
     for (const auto& [chunk, signal] : cases) {
-        bench.controller.link.vqSignal = 77;
+        bench.receive("RM1000077;");
         bench.receive(chunk);
-        EXPECT_EQ(bench.controller.link.vqSignal, signal) << chunk;
+        EXPECT_EQ(bench.radio.vqSignal, signal) << chunk;
     }
 }
 

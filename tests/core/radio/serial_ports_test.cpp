@@ -88,7 +88,7 @@ TEST_F(SerialPortsTest, WithoutAPortTheButtonDoesNothing) {
 TEST_F(SerialPortsTest, BeginsWithTheSuggestedPortUnlessOneIsRemembered) {
     start({first, second});
     EXPECT_EQ(display.PortPopUpButton.indexOfSelectedItem(), PopUpButton::noSelection);
-    EXPECT_EQ(controller.link.serialPort, nullptr);
+    EXPECT_EQ(controller.link.serialPort(), nullptr);
     // A remembered port that is not there is not replaced by another one.
     for (const auto& [remembered, chosen] : {std::pair{"", second}, {"ttyUSB9", nullptr}, {"ttyUSB0", first}}) {
         Surroundings other;
@@ -97,7 +97,7 @@ TEST_F(SerialPortsTest, BeginsWithTheSuggestedPortUnlessOneIsRemembered) {
         other.settings.setText("defaultPort", remembered);
         SerialPortDemoController begun(other.platform(), {});
         begun.awakeFromNib();
-        EXPECT_EQ(begun.link.serialPort, chosen);
+        EXPECT_EQ(begun.link.serialPort(), chosen);
         EXPECT_EQ(begun.display.PortPopUpButton.titleOfSelectedItem(), chosen ? chosen->name() : "");
         EXPECT_FALSE(chosen && chosen->isOpen());
     }
@@ -151,7 +151,7 @@ TEST_F(SerialPortsTest, APortThatDoesNotOpenSaysWhyAndWhatToDo) {
 TEST_F(SerialPortsTest, AnErrorOnAnOpenPortLeavesItAsItIs) {
     startOn({first, second}, 0);
     around.settings.setText("sounds", "0");
-    controller.preferences.vqSounds = "0";
+    controller.preferences.restore();
     display.mainTab.selectItem(Display::radioPage);
     first->fail({SerialPortErrorKind::other, "Framing error", "/dev/ttyUSB0", ""});
     EXPECT_EQ(display.mainTab.indexOfSelectedItem(), Display::stationPage);
@@ -166,7 +166,7 @@ TEST_F(SerialPortsTest, AnOpenPortThatIsUnpluggedLeavesNoPort) {
     first->unplug();
     around.portManager.disconnect({first});
     EXPECT_EQ(takeCalls(), Texts{"ttyUSB0 detach"});
-    EXPECT_EQ(controller.link.serialPort, nullptr);
+    EXPECT_EQ(controller.link.serialPort(), nullptr);
     EXPECT_EQ(linkButtons(display), (LinkButtons{"Connect", Color::green, false}));
     EXPECT_EQ(display.linkStatusField.stringValue(), "Not connected");
     EXPECT_THAT(display.linkMessageField.stringValue(), HasSubstr("ttyUSB0 was unplugged"));
@@ -186,7 +186,7 @@ TEST_F(SerialPortsTest, AChosenPortThatLeavesWhileClosedIsNotUsedAnyMore) {
     start({first, second});
     display.PortPopUpButton.choose(0);
     around.portManager.disconnect({first});
-    EXPECT_EQ(controller.link.serialPort, nullptr);
+    EXPECT_EQ(controller.link.serialPort(), nullptr);
     EXPECT_EQ(display.portDetailsField.stringValue(), "");
     EXPECT_EQ(display.PortPopUpButton.indexOfSelectedItem(), PopUpButton::noSelection);
 }

@@ -57,12 +57,14 @@ TEST(SessionStart, RunsItsStepsAtTheirTimesWithoutAnyAnswer) {
 
 TEST(SessionStart, MemoryReadStartsAfresh) {
     TestBench bench;
-    MemoryState& memories = bench.controller.memories;
-    memories.vqMemArray[41] = {"014250000", "2", "20M"};
-    memories.vqTagRead = "run";
-    memories.vqMemReadCnt = memories.vqTagReadCnt = 7;
+    const MemoryRead& memories = bench.controller.memories.read();
+    bench.display.readMemoriesButton.performClick();
+    for (int reply = 0; reply < 107; ++reply) bench.receive("?;");
+    putChannel(bench.controller.memories, 41, {"014250000", "2", "20M"});
+    ASSERT_EQ(memories.vqTagReadCnt, 7);
+    bench.takeWrites();
     bench.advance(5s);
-    EXPECT_THAT(memories.vqMemArray, testing::Each(MemoryChannel{" ", " ", " "}));
+    EXPECT_THAT(bench.controller.memories.vqMemArray(), testing::Each(MemoryChannel{" ", " ", " "}));
     EXPECT_EQ(memories.vqMemRead, "run");
     EXPECT_EQ(memories.vqTagRead, "0");
     EXPECT_EQ(memories.vqMemReadCnt, 0);

@@ -131,7 +131,7 @@ TEST(LinkTest, ClosingSwitchesTheReportsOffFirstAndSendsNothingMore) {
     ASSERT_TRUE(eventually([&] { return station.find("openCloseButton")->isVisible(); }));
     station.click("openCloseButton");
     EXPECT_EQ(station.radio.takeReceived(), "AI0;");
-    EXPECT_FALSE(station.controller.link.serialPort->isOpen());
+    EXPECT_FALSE(station.controller.link.serialPort()->isOpen());
     EXPECT_FALSE(station.radio.transceiver.state().autoInformation);
     station.radio.operate([](auto& radio) { radio.sendRaw("FA007074000;"); });
     runEventLoop(50ms);
@@ -155,7 +155,7 @@ TEST(LinkTest, PullingThePlugIsSaidAndShown) {
     EXPECT_EQ(station.find("openCloseButton")->text(), "Connect");
     EXPECT_FALSE(station.display.readMemoriesButton.enabled());
     station.click("m20Button");  // goes nowhere, and does no harm
-    EXPECT_EQ(station.controller.link.serialPort, nullptr);
+    EXPECT_EQ(station.controller.link.serialPort(), nullptr);
 }
 
 // Name and contents of every key, pop-up and field that stands in the window.

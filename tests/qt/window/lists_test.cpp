@@ -66,7 +66,7 @@ TEST(ListsTest, AreFilledFilteredAndTunedTo) {
     }));
 
     station.lists.display.openCloseButton.performClick();
-    ASSERT_TRUE(eventually([&] { return station.lists.radio.vqAorB == "A"; }, 10s));
+    ASSERT_TRUE(eventually([&] { return station.lists.mirror.state().vqAorB == "A"; }, 10s));
     ASSERT_EQ(station.show(0, "potaTable"), table);  // connecting has shown the transceiver's page
     QTest::keyClicks(station.listsWindow.findChild<QLineEdit*>("potaTableFilter"), "park 21");
     EXPECT_EQ(table->model()->rowCount(), 1);

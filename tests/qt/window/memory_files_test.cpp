@@ -20,15 +20,14 @@ using namespace std::chrono_literals;
 struct FilesStation : Station {
     FilesStation() {
         synchronise();
-        EXPECT_TRUE(eventually([this] { return controller.memories.whole; }, 20s));
+        EXPECT_TRUE(eventually([this] { return controller.memories.read().whole; }, 20s));
         settle();
-        auto& table = controller.memories.vqMemArray;
-        table.fill({});
+        MemoryTable table;
         table[0] = {"014250000", "2", "CALLING     "};
         table[1] = {"007030000", "3", "CW"};
         table[4] = {"014074000", "C", "FT8"};
         display.mainTab.selectItem(Display::memoriesPage);
-        display.memoriesTable.reloadData();
+        controller.memories.setRows(table);
         EXPECT_TRUE(eventually([this] {
             const auto* button = find("importMemoriesButton");
             return button && button->isVisible();
@@ -72,9 +71,9 @@ TEST(MemoryFilesTest, TheTableIsExportedToTheFileThatIsChosen) {
     QFile file(station.path("out.csv"));
     ASSERT_TRUE(eventually([&] { return file.exists(); }));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll().toStdString(), memoryCsv(station.controller.memories.vqMemArray));
+    EXPECT_EQ(file.readAll().toStdString(), memoryCsv(station.controller.memories.vqMemArray()));
 
-    station.controller.memories.vqMemArray.fill({});
+    station.controller.memories.setRows({});
     station.click("exportMemoriesButton");
     auto* box = FilesStation::shown<QMessageBox>();
     ASSERT_NE(box, nullptr);
@@ -84,7 +83,7 @@ TEST(MemoryFilesTest, TheTableIsExportedToTheFileThatIsChosen) {
 
 TEST(MemoryFilesTest, AnImportChangesWhatIsTickedInItsPreview) {
     FilesStation station;
-    const MemoryTable before = station.controller.memories.vqMemArray;
+    const MemoryTable before = station.controller.memories.vqMemArray();
     station.write("in.csv",
                   "Location,Name,Frequency,Mode\n2,SLOW CW,7.031,CWR\n1,CALLING,14.250000,USB\n3,NEW,3.6,LSB\n"
                   "5,MOVED,14.075,DIG\n0,X,7.1,LSB\n9,X,146.52,FM\n");
@@ -124,14 +123,14 @@ TEST(MemoryFilesTest, AnImportChangesWhatIsTickedInItsPreview) {
             expected[1] = {"007031000", "7", "SLOW CW"};
             expected[2] = {"003600000", "1", "NEW"};
         }
-        EXPECT_EQ(station.controller.memories.vqMemArray, expected);
+        EXPECT_EQ(station.controller.memories.vqMemArray(), expected);
     }
     EXPECT_EQ(station.radio.takeReceived(), "") << "nothing is sent";
 }
 
 TEST(MemoryFilesTest, WhatIsNoFileOfChannelsIsRefusedWithTheReason) {
     FilesStation station;
-    const MemoryTable before = station.controller.memories.vqMemArray;
+    const MemoryTable before = station.controller.memories.vqMemArray();
     station.write("large.csv", QByteArray(1024 * 1024 + 1, 'x'));
     station.write("letter.csv", "Dear OM,\n");
     for (const auto& [name, reason] : {std::pair{"large.csv", "1 MiB"}, {"letter.csv", "no column \"Location\""}}) {
@@ -142,7 +141,7 @@ TEST(MemoryFilesTest, WhatIsNoFileOfChannelsIsRefusedWithTheReason) {
         box->accept();
         ASSERT_TRUE(eventually([&] { return !FilesStation::shownNow<QDialog>(); }));
     }
-    EXPECT_EQ(station.controller.memories.vqMemArray, before);
+    EXPECT_EQ(station.controller.memories.vqMemArray(), before);
 }
 
 }  // namespace

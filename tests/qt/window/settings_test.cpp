@@ -87,7 +87,7 @@ TEST(SettingsTest, SettingsSurviveARestart) {
     station.display.autoMemSquelchSlider.drag(9);
     station.radio.operate([](auto& radio) { radio.receive("EX040101N2ABC       ;", {}); });
     station.controller.sendCommand("EX040101;");
-    ASSERT_TRUE(eventually([&] { return station.controller.radio.vqCall == "N2ABC"; }));
+    ASSERT_TRUE(eventually([&] { return station.controller.setupMenu.vqCall() == "N2ABC"; }));
     station.display.openCloseButton.performClick();
     runEventLoop(1ms);
 

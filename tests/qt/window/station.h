@@ -39,7 +39,7 @@ public:
 
     void open() {
         click("openCloseButton");
-        ASSERT_TRUE(controller.link.serialPort && controller.link.serialPort->isOpen());
+        ASSERT_TRUE(controller.link.serialPort() && controller.link.serialPort()->isOpen());
     }
     // Opens the port and waits until everything that was asked has been answered and the line is quiet.
     void synchronise() {

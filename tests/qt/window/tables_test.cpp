@@ -15,6 +15,7 @@
 #include <cstdio>
 
 #include "station.h"
+#include "tests/support/rows.h"
 
 namespace corvane {
 namespace {
@@ -39,13 +40,15 @@ struct Memories : Station {
     void read() {
         settle();
         display.readMemoriesButton.performClick();
-        EXPECT_TRUE(eventually([&] { return controller.memories.whole; }));
+        EXPECT_TRUE(eventually([&] { return controller.memories.read().whole; }));
         settle();
     }
     QTableView& table(const char* name = "memoriesTable") { return *find<QTableView>(name); }
     QModelIndex cell(int row, int column) { return table().model()->index(row, column); }
     std::string text(int row, int column) { return cell(row, column).data().toString().toStdString(); }
-    MemoryChannel& row(int index) { return controller.memories.vqMemArray[static_cast<std::size_t>(index)]; }
+    const MemoryChannel& row(int index) const {
+        return controller.memories.vqMemArray()[static_cast<std::size_t>(index)];
+    }
     void click(QTableView& view, const QModelIndex& index) {
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
     }
@@ -167,27 +170,27 @@ TEST(TablesTest, AModeIsChosenInItsRow) {
 
     // A menu that stays open over another table chooses nothing.
     QTest::keyClick(&station.table(), Qt::Key_Space);
-    station.row(2) = {"007030000", "3", "OTHER"};
+    putChannel(station.controller.memories, 2, {"007030000", "3", "OTHER"});
     station.choose("memsTableModePopUpButton", "PSK");
     EXPECT_EQ(station.row(2).mode, "3");
 }
 
 TEST(TablesTest, RowsAreDraggedToTheGapAboveARow) {
     Memories station;
-    const MemoryTable before = station.controller.memories.vqMemArray;
+    const MemoryTable before = station.controller.memories.vqMemArray();
     EXPECT_TRUE(station.dragRow(2, 5));
     EXPECT_EQ(station.row(4), before[2]);
     EXPECT_EQ(station.row(2), before[3]);
     EXPECT_EQ(station.text(4, channelColumn), "M-05");
     EXPECT_EQ(station.table().currentIndex().row(), 4) << "the keyboard goes along";
     EXPECT_TRUE(station.dragRow(4, 2));
-    EXPECT_EQ(station.controller.memories.vqMemArray, before);
+    EXPECT_EQ(station.controller.memories.vqMemArray(), before);
     for (const char* text : {"", "M-02", "1.5", "99", "-1"})
         EXPECT_FALSE(station.drag(Memories::plainText(text), 5)) << text;
     auto* picture = new QMimeData;
     picture->setData("image/png", "1");
     EXPECT_FALSE(station.drag(picture, 5));
-    EXPECT_EQ(station.controller.memories.vqMemArray, before);
+    EXPECT_EQ(station.controller.memories.vqMemArray(), before);
     station.table().scrollToBottom();
     EXPECT_TRUE(station.drag(Memories::plainText("97"), 99));
     EXPECT_EQ(station.row(98), before[97]);
@@ -198,7 +201,7 @@ TEST(TablesTest, RowsAreDraggedToTheGapAboveARow) {
 TEST(TablesTest, KeysMoveSortAndTune) {
     Memories station;
     QTableView& table = station.table();
-    const MemoryTable before = station.controller.memories.vqMemArray;
+    const MemoryTable before = station.controller.memories.vqMemArray();
     table.setCurrentIndex(station.cell(1, tagColumn));
     for (int press = 0; press < 2; ++press) QTest::keyClick(&table, Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(station.row(3), before[1]);
@@ -217,17 +220,15 @@ TEST(TablesTest, KeysMoveSortAndTune) {
     QTest::keyClick(&table, Qt::Key_F10, Qt::ShiftModifier);
     station.choose("memoriesTableMenu", "Sort by Frequency (MHz)");
     EXPECT_GT(station.row(0).frequency, station.row(1).frequency);
-    const MemoryTable sorted = station.controller.memories.vqMemArray;
+    const MemoryTable sorted = station.controller.memories.vqMemArray();
     station.pressHeader(modeColumn);
-    EXPECT_EQ(station.controller.memories.vqMemArray, sorted);
+    EXPECT_EQ(station.controller.memories.vqMemArray(), sorted);
     QTest::keyClick(&table, Qt::Key_F10, Qt::ShiftModifier);
     station.choose("memoriesTableMenu", "Move down");
     EXPECT_EQ(station.row(1), sorted[0]);
 
-    station.controller.autoMemories.vqAutoMemoryArray = {"021200000", "007031000"};
-    station.controller.autoMemories.vqAutoModeArray = {"USB", "CW-U"};
-    station.controller.autoMemories.vqAutoNotesArray = {"   ", "   "};
-    station.display.autoMemTable.reloadData();
+    for (const char* responses : {"VS0;MD03;FA007031000;", "MD02;FA021200000;"})
+        keepAutoMemory(station.controller, responses);
     QTableView& kept = station.table("autoMemTable");
     ASSERT_TRUE(eventually([&] { return kept.model()->rowCount() == 2; }));
     kept.setFocus();
@@ -239,18 +240,16 @@ TEST(TablesTest, KeysMoveSortAndTune) {
 // What is being typed belongs to its row: it follows the row, and comes to nothing when the row is gone.
 TEST(TablesTest, AnOpenEditorNeverWritesIntoAnotherRow) {
     Memories station;
-    auto& kept = station.controller.autoMemories;
-    kept.vqAutoMemoryArray = {"021200000", "007031000"};
-    kept.vqAutoModeArray = {"USB", "CW-U"};
-    kept.vqAutoNotesArray = {"   ", "   "};
-    station.display.autoMemTable.reloadData();
+    const AutoMemoryState& kept = station.controller.autoMemories.state();
+    for (const char* responses : {"VS0;MD03;FA007031000;", "MD02;FA021200000;"})
+        keepAutoMemory(station.controller, responses);
     QTableView& notes = station.table("autoMemTable");
     ASSERT_TRUE(eventually([&] { return notes.model()->rowCount() == 2; }));
     QLineEdit* note = station.edit(notes, notes.model()->index(1, 4));
     ASSERT_NE(note, nullptr);
     QTest::keyClicks(note, "loud");
     station.radio.operate([](auto& radio) { radio.tune(28'400'000); });
-    ASSERT_TRUE(eventually([&] { return station.controller.radio.vqFreqA == "028400000"; }));
+    ASSERT_TRUE(eventually([&] { return station.controller.mirror.state().vqFreqA == "028400000"; }));
     station.display.autoMemoryNowButton.performClick();
     ASSERT_TRUE(eventually([&] { return notes.model()->rowCount() == 3; }));
     ASSERT_EQ(Memories::editor(notes), note) << "it stays open";
@@ -284,7 +283,7 @@ TEST(TablesTest, AnOpenEditorNeverWritesIntoAnotherRow) {
     QTest::keyClicks(name, "LOST");
     station.display.readMemoriesButton.performClick();
     EXPECT_TRUE(eventually([&] { return Memories::isClosed(station.table()); }));
-    EXPECT_TRUE(eventually([&] { return station.controller.memories.whole; }));
+    EXPECT_TRUE(eventually([&] { return station.controller.memories.read().whole; }));
     EXPECT_NE(station.row(3).tag, "LOST");
 }
 
@@ -298,7 +297,7 @@ TEST(TablesTest, WhatIsSortedDraggedAndEditedIsWrittenAndReadBack) {
     station.click(station.table(), station.cell(1, modeColumn));
     station.choose("memsTableModePopUpButton", "DATA-U");
     station.type(0, frequencyColumn, "");
-    const MemoryTable meant = station.controller.memories.vqMemArray;
+    const MemoryTable meant = station.controller.memories.vqMemArray();
     EXPECT_EQ(meant[1], (MemoryChannel{"050313000", "C", "MAGIC BAND"}));
 
     station.click("writeMemoriesButton");
@@ -308,7 +307,7 @@ TEST(TablesTest, WhatIsSortedDraggedAndEditedIsWrittenAndReadBack) {
         if (button->text() == "Write") button->click();
     station.settle();
     station.read();
-    const MemoryTable& found = station.controller.memories.vqMemArray;
+    const MemoryTable& found = station.controller.memories.vqMemArray();
     int programmed = 0;
     for (int index = 0; index < memoryChannels; ++index) {
         const auto at = static_cast<std::size_t>(index);
@@ -356,10 +355,10 @@ TEST(TablesTest, LinksOpenByHandAndByKey) {
     }));
     auto& table = *station.find<QTableView>("potaTable");
     ASSERT_TRUE(eventually([&] { return station.display.potaStatusField.stringValue() != "Refreshing\u2026"; }));
-    station.controller.feeds.vqPotaArray = {
-        {{"N0CALL", "14074", "FT8", "", "Park & <b>Co</b>", "5", "45.0", "-69.5", "US-ME", "US-0001"}},
-        {{"N1CALL", "7074", "FT8", "", "", "6", "1.0", "2.0", "US-ME", ""}}};
-    station.display.potaTable.reloadData();
+    station.controller.lists.setRows(
+        listFeed(Feed::pota),
+        {{{"N0CALL", "14074", "FT8", "", "Park & <b>Co</b>", "5", "45.0", "-69.5", "US-ME", "US-0001"}},
+         {{"N1CALL", "7074", "FT8", "", "", "6", "1.0", "2.0", "US-ME", ""}}});
     ASSERT_TRUE(eventually([&] { return table.model()->rowCount() == 2; }));
     const auto cell = [&](int row, const char* column) {
         return table.model()->index(row, station.display.potaTable.columnWithIdentifier(column));

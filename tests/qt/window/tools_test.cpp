@@ -38,8 +38,9 @@ struct Tools : Station {
         return eventually([&] { return tuned() == hertz; });
     }
     bool memoriesRead() {
-        return eventually(
-            [this] { return controller.memories.vqMemRead == "0" && controller.memories.vqTagRead == "0"; });
+        return eventually([this] {
+            return controller.memories.read().vqMemRead == "0" && controller.memories.read().vqTagRead == "0";
+        });
     }
     QMessageBox* box() { return window.findChild<QMessageBox*>(); }
 };
@@ -160,11 +161,11 @@ TEST(ToolsTest, AnInterruptedReadLeavesTheProgramUsable) {
     const auto readsEverything = [&] {
         station.settle();
         station.display.readMemoriesButton.performClick();
-        return station.memoriesRead() && station.controller.memories.vqMemArray[11].tag == "10M FM CALL ";
+        return station.memoriesRead() && station.controller.memories.vqMemArray()[11].tag == "10M FM CALL ";
     };
     const auto stopAt = [&](int handled) {
         station.display.readMemoriesButton.performClick();
-        ASSERT_TRUE(eventually([&] { return station.controller.memories.vqMemReadCnt >= handled; }));
+        ASSERT_TRUE(eventually([&] { return station.controller.memories.read().vqMemReadCnt >= handled; }));
     };
     station.radio.operate([](auto& radio) { radio.setFaults({.silent = true}); });
     station.display.readMemoriesButton.performClick();
@@ -182,7 +183,7 @@ TEST(ToolsTest, AnInterruptedReadLeavesTheProgramUsable) {
     station.radio.transceiver.setInstantAnswers(false);
     stopAt(3);
     station.radio.unplug();
-    ASSERT_TRUE(eventually([&] { return station.controller.link.serialPort == nullptr; }));
+    ASSERT_TRUE(eventually([&] { return station.controller.link.serialPort() == nullptr; }));
     EXPECT_NE(station.display.memoryReadField.stringValue().find("the link is closed"), std::string::npos);
     station.radio.transceiver.setInstantAnswers(true);
     station.radio.plugIn();
@@ -226,7 +227,8 @@ TEST(ToolsTest, AutoMemoriesAreTunedToAndClearedInTheirTable) {
     station.click("tag815");
     for (const int hertz : {7'030'000, 7'040'000, 7'050'000}) {
         station.radio.operate([&](auto& radio) { radio.tune(hertz); });
-        ASSERT_TRUE(eventually([&] { return station.controller.radio.vqFreqA == "00" + std::to_string(hertz); }));
+        ASSERT_TRUE(
+            eventually([&] { return station.controller.mirror.state().vqFreqA == "00" + std::to_string(hertz); }));
         station.click("autoMemoryNowButton");
     }
     auto* table = station.find<QTableView>("autoMemTable");

@@ -1,0 +1,34 @@
+// What is heard: the voice guide and the program's own sounds behind their switches, the named alerts in any case.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "app/preferences.h"
+#include "platform/alerts.h"
+#include "platform/sound_player.h"
+#include "platform/speech_synthesizer.h"
+
+namespace corvane {
+
+class Voice {
+public:
+    Voice(const Preferences& preferences, SpeechSynthesizer& speech, SoundPlayer& sounds, Alerts& alerts)
+        : synth(speech), preferences_(preferences), sounds_(sounds), alerts_(alerts) {}
+
+    void speak(std::string_view text);            // while the voice guide is on
+    void playSound(std::string_view name);        // while sounds are on: "Seatbelts"
+    void playSystemSound(std::string_view name);  // "Basso"
+    // A box over the window, with a sound: what went wrong, then what to do about it.
+    void warn(std::string_view message, std::string_view detail);
+
+    SpeechSynthesizer& synth;
+    std::string synthVoice;  // empty: the default voice of the user's language
+
+private:
+    const Preferences& preferences_;
+    SoundPlayer& sounds_;
+    Alerts& alerts_;
+};
+
+}  // namespace corvane

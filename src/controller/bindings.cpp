@@ -1,0 +1,111 @@
+// What each control does.
+#include <array>
+#include <utility>
+
+#include "controller/cell_views.h"
+#include "controller/serial_port_demo_controller.h"
+#include "controls/sendable_text.h"
+#include "feeds/feed_table.h"
+
+namespace corvane {
+
+void SerialPortDemoController::bindControls() {
+    for (const FrontPanelKey& row : frontPanelKeys)
+        display.key(row.outlet.tag).action = [this](Button& sender) { go(sender); };
+    display.sendButton.action = [this](Button& sender) { sendBox(sender); };
+    display.sendTextField.action = [this](TextField& sender) { returnPressedInTextField(sender); };
+    display.openCloseButton.action = [this](Button& sender) { openOrClosePort(sender); };
+    display.PortPopUpButton.action = [this](PopUpButton& sender) { link.choosePort(sender); };
+    display.BaudPopUpButton.action = [this](PopUpButton& sender) { link.chooseBaudRate(sender); };
+    display.readMemoriesButton.action = [this](Button& sender) { getMemoriesFromRadio(sender); };
+    display.writeMemoriesButton.action = [this](Button& sender) { memories.askBeforeWriting(sender); };
+    display.exportMemoriesButton.action = [this](Button& sender) { memories.exportMemories(sender); };
+    display.importMemoriesButton.action = [this](Button& sender) { memories.importMemories(sender); };
+    display.autoMemoryNowButton.action = [this](Button& sender) { autoMemoryNow(sender); };
+    for (const PreferenceSwitch& row : preferenceSwitches)
+        (display.*row.item).action = [this](MenuItem& sender) { goMainMenu(sender); };
+}
+
+void SerialPortDemoController::bindPopUps() {
+    using Controller = SerialPortDemoController;
+    struct Row {
+        PopUpButton Display::*popUp;
+        void (Controller::*action)(PopUpButton& sender);
+    };
+    static constexpr std::array rows{
+        Row{&Display::presetPopUpButton, &Controller::goMacro},
+        Row{&Display::modesPopUpButton, &Controller::goMode},
+        Row{&Display::memPopUpButton, &Controller::goMemory},
+        Row{&Display::colorPopUpButton, &Controller::goColor},
+        Row{&Display::spectrumModePopUpButton, &Controller::goSpectrumMode},
+        Row{&Display::smeterPopUpButton, &Controller::goSmeter},
+        Row{&Display::ampPopUpButton, &Controller::goAmp},
+        Row{&Display::AGCPopUpButton, &Controller::goAGC},
+        Row{&Display::ATTPopUpButton, &Controller::goATT},
+        Row{&Display::RFILPopUpButton, &Controller::goRFIL},
+        Row{&Display::DNRPopupButton, &Controller::goDNR},
+        Row{&Display::NBPopupButton, &Controller::goNB},
+        Row{&Display::FuncKnobButton, &Controller::goFunctionKnob},
+        Row{&Display::MPVDButton, &Controller::goMPVD},
+        Row{&Display::scopeSpeedPopUpButton, &Controller::goSuperPopUp},
+        Row{&Display::scopePeakPopUpButton, &Controller::goSuperPopUp},
+        Row{&Display::scopeLevelPopUpButton, &Controller::goSuperPopUp},
+        Row{&Display::scopeSpanPopUpButton, &Controller::goSuperPopUp},
+        Row{&Display::APOPopUpButton, &Controller::goSuperPopUp},
+        Row{&Display::powerPopUpButton, &Controller::goSuperPopUp},
+    };
+    for (const Row& row : rows)
+        (display.*row.popUp).action = [this, act = row.action](PopUpButton& sender) { (this->*act)(sender); };
+    display.menu.forEachPopUp([this](const MenuItemRow& row, PopUpButton& popUp) {
+        if (row.write != MenuWrite::none) popUp.action = [this](PopUpButton& sender) { goSuperPopUp(sender); };
+    });
+    display.afGainSlider.action = [this](Slider& sender) { goAF(sender); };
+    display.rfGainSlider.action = [this](Slider& sender) { goRF(sender); };
+    display.autoMemSquelchSlider.action = [this](Slider& sender) { goAutoMemSquelch(sender); };
+}
+
+void SerialPortDemoController::bindEntries() {
+    display.tuneButton.action = [this](Button& sender) { doTune(sender); };
+    display.freqTextField.action = [this](TextField& sender) { returnPressedInFreqField(sender); };
+
+    // A text that the transceiver cannot hold is refused while it is typed, and is not sent.
+    const auto refuseIn = [](TextField& typed, TextField& notice) {
+        typed.onEdit = [&notice](TextField& field) { acceptsText(field, notice); };
+    };
+    refuseIn(display.callTextField, display.callNoticeField);
+    display.callTextField.action = [this](TextField& sender) { returnPressedInCallField(sender); };
+    display.saveCallButton.action = [this](Button& sender) {
+        if (acceptsText(display.callTextField, display.callNoticeField)) doCall(sender);
+    };
+    refuseIn(display.textMemoryField, display.textMemoryNoticeField);
+    display.textMemoryField.action = [this](TextField& sender) { returnPressedInTextMessageField(sender); };
+    display.sendTextMemoryButton.action = [this](Button& sender) {
+        if (acceptsText(display.textMemoryField, display.textMemoryNoticeField)) sendTextMessage(sender);
+    };
+    display.clearTextMemoryButton.action = [this](Button&) { keyer.clearTextMessage(); };
+    for (const auto& [popUp, text] : {std::pair{&display.cwMemoryPopUpButton, &display.cwMemoryField},
+                                      std::pair{&display.rttyMemoryPopUpButton, &display.rttyMemoryField},
+                                      std::pair{&display.pskMemoryPopUpButton, &display.pskMemoryField}}) {
+        refuseIn(*text, display.memoryTextNoticeField);
+        popUp->action = [this, text = text](PopUpButton& sender) {
+            if (acceptsText(*text, display.memoryTextNoticeField)) goSuperPopUp(sender);
+        };
+    }
+}
+
+void SerialPortDemoController::bindTables() {
+    for (TableView* table : {&display.memoriesTable, &display.autoMemTable}) table->setDataSource(*this);
+    for (const ListFeed& row : listFeeds) (display.*row.table).setDataSource(*this);
+    const auto bind = [this](const auto& cellViews) {
+        for (const auto& row : cellViews) {
+            auto& control = display.*row.control;
+            (display.*row.table).setCellControl(row.column, control);
+            control.action = [this, act = row.action](auto& sender) { (this->*act)(sender); };
+        }
+    };
+    bind(buttonCellViews);
+    bind(popUpCellViews);
+    bind(textCellViews);
+}
+
+}  // namespace corvane

@@ -1,0 +1,77 @@
+// The two actions that many controls share: which room a key of the front panel, or a pop-up, is of.
+#include <variant>
+
+#include "controller/serial_port_demo_controller.h"
+#include "interpret/menu_groups.h"
+
+namespace corvane {
+
+namespace {
+
+struct Press {
+    SerialPortDemoController& face;
+    Button& sender;
+    int firstTag;
+
+    template <typename Key>
+    void operator()(const Key& key) const {
+        face.frontPanel.press(sender, key);
+    }
+    void operator()(const ToggleKey& key) const { face.frontPanel.press(sender, key, firstTag); }
+    void operator()(const MuteKey& key) const { face.frontPanel.press(sender, key, firstTag); }
+    void operator()(const FirstScopeColorKey& key) const { face.frontPanel.press(sender, key, firstTag); }
+    void operator()(const TextMemoryKey& key) const {
+        if (auto command = face.keyer.playMemory(key.memory, sender)) face.frontPanel.finish(std::move(*command));
+    }
+    void operator()(const ClearLogKey&) const {
+        face.keyer.clearLog();
+        face.frontPanel.finish({});
+    }
+    void operator()(const ReadMenuKey& key) const {
+        face.frontPanel.finish(face.setupMenu.readGroup(menuGroups.at(static_cast<std::size_t>(key.page))));
+    }
+    void operator()(const ProductPageKey&) const { face.openLink(face.hosts.productPage()); }
+    void operator()(const ClearAutoMemoriesKey&) const { face.autoMemories.clear(); }
+    // The key's refresh ends with a sound, a refresh by itself without one.
+    void operator()(const RefreshKey& key) const {
+        const auto sound = [&voice = face.voice] { voice.playSound("Funk"); };
+        if (key.feed == Feed::bandConditions)
+            face.conditions.fetch(sound);
+        else
+            face.lists.fetch(key.feed, sound);
+    }
+};
+
+}  // namespace
+
+void SerialPortDemoController::go(Button& sender) {
+    if (const FrontPanelKey* key = frontPanelKey(sender.tag()))
+        std::visit(Press{*this, sender, key->outlet.tag}, key->action);
+    else
+        frontPanel.pressWithoutAction(sender);
+}
+
+void SerialPortDemoController::goSuperPopUp(PopUpButton& sender) {
+    switch (sender.tag()) {
+        case 2000:
+            return functionPopUps.chooseScopeSetting(sender, "SS00");
+        case 2001:
+            return functionPopUps.chooseScopeSetting(sender, "SS01");
+        case 2004:
+            return functionPopUps.chooseScopeLevel(sender);
+        case 2005:
+            return functionPopUps.chooseScopeSetting(sender, "SS05");
+        case 2006:
+            return powerOff.choose(sender);
+        case 2007:
+            return functionPopUps.choosePower(sender);
+        case 3001:
+        case 3002:
+        case 3003:
+            return keyer.writeMemoryText(sender);
+        default:
+            setupMenu.writeMenuItem(sender);
+    }
+}
+
+}  // namespace corvane

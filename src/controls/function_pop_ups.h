@@ -1,0 +1,50 @@
+// The function pop-ups and sliders: each sends what its position stands for. The display follows when the transceiver
+// reports.
+#pragma once
+
+#include <string_view>
+
+#include "app/voice.h"
+#include "controls/command_pacer.h"
+#include "display/display.h"
+#include "interpret/mirror.h"
+#include "platform/tasks.h"
+#include "radio/link.h"
+
+namespace corvane {
+
+class FunctionPopUps {
+public:
+    FunctionPopUps(Display& display, Link& link, const Mirror& mirror, const Preferences& preferences, Voice& voice,
+                   Scheduler& scheduler);
+
+    void goMode(PopUpButton& sender);
+    void goMemory(PopUpButton& sender);
+    void goColor(PopUpButton& sender);
+    void goSpectrumMode(PopUpButton& sender);
+    void goSmeter(PopUpButton& sender);
+    void goAmp(PopUpButton& sender);
+    void goAGC(PopUpButton& sender);
+    void goATT(PopUpButton& sender);
+    void goRFIL(PopUpButton& sender);
+    void goDNR(PopUpButton& sender);
+    void goNB(PopUpButton& sender);
+    void goFunctionKnob(PopUpButton& sender);
+    void goMPVD(PopUpButton& sender);
+    void goAF(Slider& sender);
+    void goRF(Slider& sender);
+    void chooseScopeSetting(PopUpButton& sender, std::string_view before);  // "SS05" with entry 7 sends "SS0570000;"
+    void chooseScopeLevel(PopUpButton& sender);                             // by its title: "SS04+10.5;"
+    void choosePower(PopUpButton& sender);
+
+private:
+    Link& link_;
+    const Mirror& mirror_;
+    const Preferences& preferences_;
+    Voice& voice_;
+    Tasks tasks_;
+    CommandPacer afGainPacer_;
+    CommandPacer rfGainPacer_;
+};
+
+}  // namespace corvane

@@ -1,0 +1,33 @@
+// Texts on the air: what the operator types, and the memories that the transceiver keeps for each mode group.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "display/display.h"
+#include "interpret/mirror.h"
+#include "radio/link.h"
+
+namespace corvane {
+
+class Keyer {
+public:
+    Keyer(Display& display, Link& link, Mirror& mirror);
+
+    void sendTextMessage(Button& sender);  // transmits the typed text through memory 5
+    void returnPressedInTextMessageField(TextField& sender);
+    void clearTextMessage();
+    // What transmits memory 1 to 5 of the present mode, whose text joins the log; nothing in a mode without memories.
+    std::optional<std::string> playMemory(int memory, const Button& sender);
+    void clearLog();
+
+    // The sender is the pop-up of an editor, with the memory to write.
+    void writeMemoryText(PopUpButton& sender);
+
+private:
+    Display& display_;
+    Link& link_;
+    Mirror& mirror_;
+};
+
+}  // namespace corvane

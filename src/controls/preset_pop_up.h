@@ -1,0 +1,23 @@
+// The preset pop-up, by its titles.
+#pragma once
+
+#include "app/voice.h"
+#include "display/display.h"
+#include "interpret/mirror.h"
+#include "radio/link.h"
+
+namespace corvane {
+
+class PresetPopUp {
+public:
+    PresetPopUp(Display& display, Link& link, const Mirror& mirror, Voice& voice);
+
+    void goMacro(PopUpButton& sender);
+
+private:
+    Link& link_;
+    const Mirror& mirror_;
+    Voice& voice_;
+};
+
+}  // namespace corvane

@@ -1,0 +1,37 @@
+#include "feeds/check_in.h"
+
+#include <nlohmann/json.hpp>
+#include <utility>
+
+#include "feeds/feed_row.h"
+#include "wire/utf8.h"
+
+namespace corvane {
+
+CheckIn::Next CheckIn::take(Event event) {
+    const bool confirm = kind_ == Kind::confirm;
+    switch (event) {
+        case Event::begun:
+            return confirm ? Next::announce : Next::nothing;
+        case Event::answered:
+            if (confirm) return Next::nothing;
+            [[fallthrough]];
+        case Event::timePassed:
+            return std::exchange(fetched_, true) ? Next::nothing : Next::fetchList;
+        case Event::listShown:
+            return confirm ? Next::nothing : Next::announce;
+    }
+    return Next::nothing;
+}
+
+std::string CheckIn::body(const std::string& operatorKey) const {
+    const int action = kind_ == Kind::confirm ? 1 : 0;
+    return nlohmann::json{{"key", operatorKey}, {"net_id", net_}, {"action", action}}.dump();
+}
+
+std::string CheckIn::announcement() const {
+    if (kind_ == Kind::retract) return "your confirmation of this net has been retracted";
+    return "thank you for confirming " + std::string(utf8Prefix(name_, longestSpokenName));
+}
+
+}  // namespace corvane

@@ -1,0 +1,58 @@
+#include "feeds/check_ins.h"
+
+#include <utility>
+
+#include "app/operator_key.h"
+
+namespace corvane {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto recordingTime = 2s;  // what the directory is given to note a check-in
+
+}  // namespace
+
+CheckIns::CheckIns(Lists& lists, Voice& voice, HttpClient& http, SettingsStore& settings, Scheduler& scheduler,
+                   const ServiceHosts& hosts)
+    : lists_(lists), voice_(voice), http_(http), settings_(settings), hosts_(hosts), tasks_(scheduler) {}
+
+void CheckIns::goNetsConfirm(Button& sender) { begin(sender.tag(), CheckIn::Kind::confirm); }
+void CheckIns::goNetsUnconfirm(Button& sender) { begin(sender.tag(), CheckIn::Kind::retract); }
+
+void CheckIns::begin(int row, CheckIn::Kind kind) {
+    const FeedRow* net = rowAt(lists_.state().vqNetsArray, row, 7);
+    if (!net) return;
+    const auto checkIn = std::make_shared<CheckIn>(kind, (*net)[6], (*net)[0]);
+    post(checkIn);
+    take(checkIn, CheckIn::Event::begun);
+    tasks_.after(recordingTime, [this, checkIn] { take(checkIn, CheckIn::Event::timePassed); });
+}
+
+void CheckIns::take(const std::shared_ptr<CheckIn>& checkIn, CheckIn::Event event) {
+    switch (checkIn->take(event)) {
+        case CheckIn::Next::nothing:
+            break;
+        case CheckIn::Next::announce:
+            voice_.speak(checkIn->announcement());
+            break;
+        case CheckIn::Next::fetchList:
+            lists_.fetch(Feed::nets, [this, checkIn] { take(checkIn, CheckIn::Event::listShown); });
+    }
+}
+
+// Whether it arrived shows in the list that is fetched next.
+void CheckIns::post(const std::shared_ptr<CheckIn>& checkIn) {
+    HttpRequest request;
+    request.method = "POST";
+    request.url = hosts_.directory + "/netconf.php";
+    request.timeout = 30s;
+    request.ignoreCaches = true;
+    request.contentType = "Application/json";
+    request.body = checkIn->body(operatorKey(settings_));
+    const auto answered = tasks_.guarded([this, checkIn] { take(checkIn, CheckIn::Event::answered); });
+    http_.send(request, [answered](const HttpResponse&) -> HttpClient::Rest { return answered; });
+}
+
+}  // namespace corvane

@@ -1,0 +1,68 @@
+// The on-line lists: fetching them, what their tables show, and tuning to a row.
+//
+//   fetching   a request, its answer, the line beside it   feeds/lists.cpp
+//   tuning     the Tune key of a row                       feeds/tune_actions.cpp
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+
+#include "app/service_hosts.h"
+#include "display/display.h"
+#include "feeds/feed_refresh.h"
+#include "feeds/feed_table.h"
+#include "interpret/mirror.h"
+#include "platform/log.h"
+#include "platform/settings_store.h"
+#include "platform/tasks.h"
+#include "radio/link.h"
+
+namespace corvane {
+
+class Lists {
+public:
+    // What the room uses of the system.
+    struct Surroundings {
+        HttpClient& http;
+        Scheduler& scheduler;
+        SettingsStore& settings;
+        Log& log;
+        const ServiceHosts& hosts;
+    };
+
+    Lists(Display& display, Link& link, const Mirror& mirror, Voice& voice, const Surroundings& surroundings);
+
+    const FeedState& state() const { return state_; }
+    // Puts these rows into a list's table.
+    void setRows(const ListFeed& feed, FeedList rows);
+
+    // Empties the list and asks for it anew. `then` is called when the rows of this fetch, or of one that has replaced
+    // it, are shown.
+    void fetch(Feed list, std::function<void()> then = {});
+    void fetchAll();  // in the order of the start
+
+    int numberOfRows(const TableView& table) const;  // 0 for a table of another room
+    TableCell viewFor(const TableView& table, int row, int column) const;
+
+    // The sender's tag is the row.
+    void goPotaTune(Button& sender);
+    void goSotaTune(Button& sender);
+    void goNetLoggerTune(Button& sender);
+    void goNetsTune(Button& sender);
+    void goMWTune(Button& sender);
+
+private:
+    void tuneTo(std::string command, const std::string& name);
+
+    Display& display_;
+    Link& link_;
+    const Mirror& mirror_;
+    Voice& voice_;
+    Surroundings around_;
+    Tasks tasks_;
+    FeedState state_;
+    std::deque<FeedRefresh> refreshes_;  // in the order of listFeeds
+};
+
+}  // namespace corvane

@@ -1,0 +1,120 @@
+#include "interpret/setup_menu.h"
+
+#include "interpret/menu_groups.h"
+#include "interpret/menu_values.h"
+#include "interpret/menu_writes.h"
+#include "interpret/numeric_pop_ups.h"
+#include "wire/wire_text.h"
+
+namespace corvane {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto patience = 2s;  // without an answer
+
+}  // namespace
+
+SetupMenu::SetupMenu(Display& display, Link& link, SettingsStore& settings, Scheduler& scheduler)
+    : display_(display), link_(link), settings_(settings), tasks_(scheduler) {}
+
+void SetupMenu::fillMenuPopUp(int first, int last, int step, int tag, int digits, int page, int defaultNumber) {
+    PopUpButton* popUp = display_.menu.popUp(page, tag);
+    if (!popUp) return;
+    const NumberRun numbers{first * step, last * step, step, digits};
+    popUp->setEntries(numbers);
+    popUp->setItemImage(defaultNumber - first, Image::NSImageNameStatusPartiallyAvailable);
+    popUp->selectItemWithTitle(NumberRun{defaultNumber, defaultNumber, 1, digits}.at(0));
+}
+
+void SetupMenu::fillMenuPopUps() {
+    const bool again = filled_;
+    for (const NumericPopUp& row : numericPopUps) {
+        PopUpButton* popUp = display_.menu.popUp(row.page, row.tag);
+        const int selected = popUp ? popUp->indexOfSelectedItem() : PopUpButton::noSelection;
+        fillMenuPopUp(row.first, row.last, row.step, row.tag, row.digits, row.page, row.defaultNumber);
+        if (again && popUp) popUp->selectItem(selected);
+    }
+    filled_ = true;
+}
+
+void SetupMenu::takeMenuItem(std::string_view response) {
+    const auto report = menuReport(response);
+    if (!report) return;
+    const auto& [row, value] = *report;
+    if (row->read == MenuRead::text) takeCallSign(value);
+    if (PopUpButton* popUp = display_.menu.popUp(row->page(), row->tag())) {
+        if (row->read == MenuRead::title) popUp->selectItemWithTitle(value);
+        if (const auto index = decimal(value);
+            row->read == MenuRead::index && index && *index >= 0 && *index < popUp->titles().size())
+            popUp->selectItem(*index);
+    }
+    if (read_.takeAnswer(*row)) showReadProgress();
+}
+
+bool SetupMenu::takeRefusal() {
+    if (!read_.takeRefusal()) return false;
+    showReadProgress();
+    return true;
+}
+
+void SetupMenu::takeCallSign(std::string_view value) {
+    vqCall_ = trimmed(value);
+    settings_.setText("call", vqCall_);
+    display_.callTextField.setStringValue(vqCall_);
+}
+
+std::string SetupMenu::readGroup(const MenuGroup& group) {
+    startRead(group);
+    link_.sendCommand(group.before);
+    for (int subMenu = group.firstSubMenu; subMenu < group.lastSubMenu; ++subMenu)
+        link_.sendCommand(subMenuRequest(subMenu));
+    std::string last = subMenuRequest(group.lastSubMenu);
+    if (!group.after.empty()) {
+        link_.sendCommand(last);
+        last = group.after;
+    }
+    if (group.lastTwice) link_.sendCommand(last);
+    return last;
+}
+
+void SetupMenu::startRead(const MenuGroup& group) {
+    if (!link_.isOpen()) return;
+    const MenuGroupRead next(group, read_.number() + 1);
+    if (next.page() != read_.page()) endRead(": stopped, another group is being read.");
+    read_ = next;
+    showReadProgress();
+    watchRead();
+}
+
+void SetupMenu::endRead(std::string_view problem) {
+    if (!read_.running()) return;
+    read_.stop();
+    showReadProgress(problem);
+}
+
+void SetupMenu::showReadProgress(std::string_view problem) {
+    LevelIndicator& progress = display_.menu.readProgress(read_.page());
+    progress.setVisible(read_.running());
+    progress.setIntegerValue(read_.percent());
+    display_.menu.readField(read_.page()).setStringValue(read_.text() + std::string(problem));
+}
+
+// Once the answers have stopped coming the read has ended.
+void SetupMenu::watchRead() {
+    tasks_.after(patience, [this, handled = read_.handled(), number = read_.number()] {
+        if (number != read_.number() || !read_.running()) return;
+        if (handled == read_.handled()) return endRead(": no answer. Read again to ask once more.");
+        watchRead();
+    });
+}
+
+// A tag that names no item sends nothing; above all not the command before it.
+void SetupMenu::writeMenuItem(PopUpButton& sender) {
+    const MenuItemRow* row = menuItem(sender.tag() - menuTagBase);
+    if (!row) return;
+    link_.send(menuSetCommand(*row, sender.indexOfSelectedItem(), sender.titleOfSelectedItem()));
+}
+
+}  // namespace corvane

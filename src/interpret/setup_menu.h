@@ -1,0 +1,54 @@
+// The transceiver's setup menu: what its pop-ups hold, what the transceiver reports of it, reading a group of it, and
+// setting an item.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "display/display.h"
+#include "interpret/menu_group_read.h"
+#include "platform/settings_store.h"
+#include "platform/tasks.h"
+#include "radio/link.h"
+
+namespace corvane {
+
+struct MenuGroup;
+
+class SetupMenu {
+public:
+    SetupMenu(Display& display, Link& link, SettingsStore& settings, Scheduler& scheduler);
+
+    // Fills a pop-up of the setup menu with the numbers index * step, e.g. (0, 100, 1, 2010115, 3, 0, 50) "000" to
+    // "100".
+    void fillMenuPopUp(int first, int last, int step, int tag, int digits, int page, int defaultNumber);
+    // Fills all that hold numbers. What the transceiver reported, or the operator chose, outlasts another filling.
+    void fillMenuPopUps();
+
+    void takeMenuItem(std::string_view response);  // "EX0101040250"
+    bool takeRefusal();  // an error answer: whether a read of a group was waiting for an answer
+    // The call sign in the transceiver's menu; empty before the first report.
+    const std::string& vqCall() const { return vqCall_; }
+
+    // Asks for the items of a group, all but the command that ends it, which is returned.
+    std::string readGroup(const MenuGroup& group);
+    void endRead(std::string_view problem);  // ": stopped, the link is closed."; shown behind how far it came
+
+    void writeMenuItem(PopUpButton& sender);  // sets the item of the sender's tag to the chosen entry
+
+private:
+    void takeCallSign(std::string_view value);
+    void startRead(const MenuGroup& group);
+    void watchRead();
+    void showReadProgress(std::string_view problem = {});
+
+    Display& display_;
+    Link& link_;
+    SettingsStore& settings_;
+    Tasks tasks_;
+    bool filled_ = false;  // the numeric pop-ups have their entries
+    MenuGroupRead read_;
+    std::string vqCall_;
+};
+
+}  // namespace corvane

@@ -1,0 +1,31 @@
+// A memory channel of the transceiver, and all of them.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "wire/memory_fields.h"
+
+namespace corvane {
+
+// Row i is channel i + 1.
+struct MemoryChannel {
+    std::string frequency = " ";  // nine digits of hertz; any other length is an empty channel
+    std::string mode = " ";       // mode code, one character
+    std::string tag = " ";        // up to 12 characters
+
+    bool operator==(const MemoryChannel&) const = default;
+};
+
+using MemoryTable = std::array<MemoryChannel, memoryChannels>;
+
+// A channel as the transceiver reported it, with what a table row does not keep.
+struct ChannelAsRead {
+    MemoryChannel row;
+    std::string rest;  // clarifier, mode, tone and shift: what follows the frequency, e.g. "+000000210000"
+
+    bool operator==(const ChannelAsRead&) const = default;
+};
+using ChannelsAsRead = std::array<ChannelAsRead, memoryChannels>;
+
+}  // namespace corvane

@@ -1,0 +1,128 @@
+// Reading the memory channels. The pace is the transceiver's; nothing is sent on a timer.
+#include "memories/memory_channels.h"
+
+#include "display/table_columns.h"
+
+namespace corvane {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto patience = 3s;  // longer than any transceiver takes for one answer
+
+}  // namespace
+
+MemoryChannels::MemoryChannels(Display& display, Link& link, Mirror& mirror, Voice& voice,
+                               const Surroundings& surroundings)
+    : display_(display),
+      link_(link),
+      mirror_(mirror),
+      voice_(voice),
+      around_(surroundings),
+      tasks_(surroundings.scheduler) {
+    showChannels();
+    setKeysEnabled(false);
+    display_.memoryReadField.setStringValue("Not read yet");
+    showWhereChannelsAreSaved();
+}
+
+void MemoryChannels::setRows(const MemoryTable& rows) {
+    vqMemArray_ = rows;
+    display_.memoriesTable.reloadData();
+}
+
+void MemoryChannels::setKeysEnabled(bool enabled) {
+    display_.readMemoriesButton.setEnabled(enabled);
+    display_.writeMemoriesButton.setEnabled(enabled);
+}
+
+void MemoryChannels::startMemoryRead() {
+    setRows({});
+    ask(read_.begin(link_.session()));
+    watchMemoryRead();
+}
+
+void MemoryChannels::ask(const MemoryReadStep& step) {
+    if (step.request.empty()) return;
+    link_.send(step.request);
+    showReadProgress();
+}
+
+std::string_view MemoryChannels::refusedReply() const {
+    if (read_.vqMemRead == "run") return "MR304";
+    return read_.vqTagRead == "run" ? "MT304" : "";
+}
+
+void MemoryChannels::takeMemoryReply(std::string_view response) {
+    const MemoryReply reply = memoryReply(response);
+    const MemoryReadStep step = read_.take(reply);
+    if (step.inUse) return mirror_.takeMemoryInUse(response);
+    if (step.row) vqMemArray_[*step.row] = rowOf(reply);
+    ask(step);
+}
+
+void MemoryChannels::takeTagReply(std::string_view response) {
+    const TagReply reply = tagReply(response);
+    const bool unasked = read_.vqTagRead != "run";
+    const MemoryReadStep step = read_.take(reply);
+    if (step.row) vqMemArray_[*step.row].tag = reply.tag;
+    if (unasked && step.row) showChannels();
+    ask(step);
+    if (step.ended) finishMemoryRead();
+}
+
+void MemoryChannels::finishMemoryRead() {
+    display_.memoriesTable.setSortDescriptorPrototype(memoryFrequencyColumn, {});
+    showChannels();
+    showReadProgress();
+    showWhereChannelsAreSaved();
+    voice_.playSound("Funk");
+}
+
+// Shows the channels in the table and in the memory pop-up, whose choice stays.
+void MemoryChannels::showChannels() {
+    display_.memoriesTable.reloadData();
+    std::vector<std::string> titles;
+    for (int row = 0; row < memoryChannels; ++row)
+        titles.push_back(memoryPopUpTitle(row, vqMemArray_[static_cast<std::size_t>(row)]));
+    const int chosen = display_.memPopUpButton.indexOfSelectedItem();
+    display_.memPopUpButton.setEntries(std::move(titles));
+    display_.memPopUpButton.selectItem(chosen);
+}
+
+void MemoryChannels::showReadProgress(std::string_view problem) {
+    const MemoryReadProgress progress = read_.progress(vqMemArray_);
+    display_.memoryReadProgress.setVisible(progress.running);
+    display_.memoryReadProgress.setIntegerValue(progress.handled);
+    display_.memoryReadField.setStringValue(progress.text + std::string(problem));
+}
+
+// A chain that has stopped says so; it goes on by itself should the answer still come.
+void MemoryChannels::watchMemoryRead() {
+    tasks_.after(patience, [this, handled = read_.handled(), number = read_.number] {
+        if (number != read_.number || !read_.running()) return;
+        if (handled == read_.handled()) {
+            read_.stalled = true;
+            showReadProgress(": no answer. Press Read memories to start again.");
+        }
+        watchMemoryRead();
+    });
+}
+
+void MemoryChannels::linkClosed() {
+    if (read_.running()) showReadProgress(": stopped, the link is closed.");
+    read_.endEarly();
+    display_.memoryReadProgress.setVisible(false);
+}
+
+// Late replies name channels, and rows that have changed their places are other channels.
+void MemoryChannels::endHaltedRead() {
+    if (!read_.stalled) return;
+    read_.endEarly();
+    display_.memoryReadProgress.setVisible(false);
+    display_.memoryReadField.setStringValue(
+        "Reading ended early: rows have changed. Press Read memories to start again.");
+}
+
+}  // namespace corvane

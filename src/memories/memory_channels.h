@@ -1,0 +1,101 @@
+// The 99 memory channels: their table, reading and writing them, what hands do to their rows, and files of them.
+//
+//   reading   the chain of request and reply            memories/memory_channels.cpp
+//   writing   one burst of commands, saved before       memories/memory_write.cpp
+//   edits     editing, moving and sorting rows          memories/memory_edits.cpp
+//   files     export and import                         memories/memory_files.cpp
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "display/display.h"
+#include "interpret/mirror.h"
+#include "memories/memory_channel.h"
+#include "memories/memory_csv.h"
+#include "memories/memory_read.h"
+#include "platform/data_folder.h"
+#include "platform/file_chooser.h"
+#include "platform/tasks.h"
+#include "radio/link.h"
+
+namespace corvane {
+
+class MemoryChannels {
+public:
+    // What the room uses of the system.
+    struct Surroundings {
+        Scheduler& scheduler;
+        Alerts& alerts;
+        DataFolder& dataFolder;
+        FileChooser& files;
+    };
+
+    MemoryChannels(Display& display, Link& link, Mirror& mirror, Voice& voice, const Surroundings& surroundings);
+
+    const MemoryTable& vqMemArray() const { return vqMemArray_; }
+    const MemoryRead& read() const { return read_; }
+    const std::string& tagOf(int row) const { return vqMemArray_.at(static_cast<std::size_t>(row)).tag; }
+
+    // Puts these rows into the table.
+    void setRows(const MemoryTable& rows);
+    void setKeysEnabled(bool enabled);  // the keys that read and write
+
+    // --- reading
+    void startMemoryRead();
+    void takeMemoryReply(std::string_view response);  // "MR001014250000+000000210000"
+    void takeTagReply(std::string_view response);     // "MT0011CALLING     "
+    // The reply that an error answer stands for while a read waits for one: "MR304" or "MT304", of a channel that does
+    // not exist; empty while none does.
+    std::string_view refusedReply() const;
+    void linkClosed();
+
+    // --- writing
+    void askBeforeWriting(Button& sender);
+    void writeMemoriesToRadio(Button& sender);
+
+    // --- edits
+    void textEdited(TextField& sender);  // in the cell where the sender is
+    void modeEdited(PopUpButton& sender);
+    std::optional<int> acceptDrop(std::string_view plainText, int row);
+    bool mouseDownInHeader(int column);
+
+    // --- files
+    void exportMemories(Button& sender);
+    void importMemories(Button& sender);
+    // Shows what a file would change, for the operator to take or leave.
+    using TakeChannels = std::function<void(const std::vector<ImportedChannel>& chosen)>;
+    std::function<void(MemoryImport import, const MemoryTable& shown, TakeChannels take)> onImport =
+        [](const MemoryImport&, const MemoryTable&, const TakeChannels&) {};
+
+private:
+    void ask(const MemoryReadStep& step);
+    void finishMemoryRead();
+    void watchMemoryRead();
+    void endHaltedRead();
+    void showChannels();
+    void showReadProgress(std::string_view problem = {});
+
+    bool saveMemoriesAsRead();
+    void showWhereChannelsAreSaved();
+
+    bool canTakeChannels() const;
+    void importFile(const std::string& path);
+    void tell(std::string_view what, std::string_view why);
+    void takeImportedChannels(const MemoryTable& shown, std::span<const ImportedChannel> channels);
+
+    Display& display_;
+    Link& link_;
+    Mirror& mirror_;
+    Voice& voice_;
+    Surroundings around_;
+    Tasks tasks_;
+    MemoryTable vqMemArray_;
+    MemoryRead read_;
+};
+
+}  // namespace corvane

@@ -1,0 +1,65 @@
+// What hands do to the table of memory channels: edit a cell, choose a mode, move a row, sort.
+#include "memories/memory_channels.h"
+
+#include "display/table_columns.h"
+#include "memories/memory_entry.h"
+#include "memories/memory_order.h"
+#include "wire/wire_text.h"
+
+namespace corvane {
+
+void MemoryChannels::textEdited(TextField& sender) {
+    const auto place = display_.memoriesTable.placeOf(sender);
+    if (!place) return;
+    MemoryChannel& channel = vqMemArray_.at(static_cast<std::size_t>(place->row));
+    const std::string& typed = sender.stringValue();
+    if (place->column == memoryFrequencyColumn) {
+        const MemoryFrequencyEntry entry = memoryFrequencyEntry(typed);
+        channel.frequency = entry.field;
+        if (entry.clearsRow) channel = {"", "", ""};
+        if (!entry.field.empty()) display_.memoriesTable.setSortDescriptorPrototype(memoryFrequencyColumn, {});
+        display_.memoriesTable.reloadData();
+        if (entry.warning) voice_.warn(entry.warning->message, entry.warning->detail);
+    } else if (place->column == memoryModeColumn) {
+        if (auto mode = memoryModeTyped(typed)) channel.mode = std::move(*mode);
+    } else if (place->column == memoryTagColumn) {
+        channel.tag = memoryTag(typed);
+        display_.memoriesTable.reloadData();
+    }
+}
+
+void MemoryChannels::modeEdited(PopUpButton& sender) {
+    const auto place = display_.memoriesTable.placeOf(sender);
+    if (!place || sender.indexOfSelectedItem() == PopUpButton::noSelection) return;
+    vqMemArray_.at(static_cast<std::size_t>(place->row)).mode = memoryModeField(sender.indexOfSelectedItem());
+}
+
+// Replies that are still to come name channels, not rows: while they come every row stays in its place.
+std::optional<int> MemoryChannels::acceptDrop(std::string_view plainText, int row) {
+    const auto source = decimal(plainText);
+    const bool drop = row >= 0 && row <= memoryChannels;
+    if (!drop || !source || *source < 0 || *source >= memoryChannels || read_.repliesAreComing()) return std::nullopt;
+    const int destination = dropDestination(*source, row);
+    endHaltedRead();
+    moveChannel(vqMemArray_, *source, destination);
+    display_.memoriesTable.reloadData();
+    return destination;
+}
+
+bool MemoryChannels::mouseDownInHeader(int column) {
+    TableView& table = display_.memoriesTable;
+    if (!table.column(column).sorts || read_.repliesAreComing()) return false;
+    endHaltedRead();
+    const SortDirection before = table.sortDirection(column);
+    if (column == memoryFrequencyColumn)
+        sortByFrequency(vqMemArray_, before);
+    else
+        sortByTag(vqMemArray_, before);
+    for (int each = 0; each < static_cast<int>(table.columns().size()); ++each)
+        if (each != column) table.setSortDescriptorPrototype(each, {});
+    table.setSortDescriptorPrototype(column, TableView::SortDescriptor{"Col" + std::to_string(column)});
+    table.reloadData();
+    return true;
+}
+
+}  // namespace corvane

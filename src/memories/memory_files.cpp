@@ -1,0 +1,74 @@
+// Memory channels to a file and from one. The transceiver gets what is imported with the next write.
+#include <algorithm>
+
+#include "display/table_columns.h"
+#include "memories/memory_channels.h"
+#include "memories/memory_commands.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr std::string_view kind = "Memory channels (*.csv)";
+constexpr std::size_t largestFile = 1024 * 1024;  // bytes; 99 channels take some ten thousand
+
+}  // namespace
+
+void MemoryChannels::tell(std::string_view what, std::string_view why) {
+    around_.alerts.warn(std::string(what).append("\n\n").append(why));
+}
+
+void MemoryChannels::exportMemories(Button&) {
+    if (std::ranges::none_of(vqMemArray_, isProgrammed))
+        return tell("There is nothing to export", "No memory channel is programmed. Read memories first.");
+    const auto write = [this](const std::string& path) {
+        const SavedFile file = around_.files.write(path, memoryCsv(vqMemArray_));
+        if (!file.error.empty()) tell("The memory channels were not exported", file.path + ": " + file.error);
+    };
+    around_.files.chooseNew("Export memory channels", kind, "memory-channels.csv", tasks_.guarded(write));
+}
+
+// The read that every opening of the port begins with would replace what is imported.
+bool MemoryChannels::canTakeChannels() const {
+    return link_.isOpen() && read_.session == link_.session() && !read_.repliesAreComing();
+}
+
+void MemoryChannels::importMemories(Button&) {
+    if (!canTakeChannels())
+        return tell("The memory channels have not been read yet",
+                    "Connect, and import a file when reading has ended: it would replace what is imported before.");
+    around_.files.chooseExisting("Import memory channels", kind,
+                                 tasks_.guarded([this](const std::string& path) { importFile(path); }));
+}
+
+void MemoryChannels::importFile(const std::string& path) {
+    const auto refuse = [this, &path](const std::string& why) {
+        tell("No memory channels were imported", path + ": " + why);
+    };
+    const OpenedFile file = around_.files.read(path, largestFile);
+    if (!file.error.empty()) return refuse(file.error);
+    if (file.contents.size() > largestFile) return refuse("a file of more than 1 MiB holds something else.");
+    MemoryImport import = readMemoryCsv(file.contents);
+    if (!import.problem.empty()) return refuse(import.problem);
+    onImport(std::move(import), vqMemArray_,
+             tasks_.guarded([this, shown = vqMemArray_](const std::vector<ImportedChannel>& chosen) {
+                 takeImportedChannels(shown, chosen);
+             }));
+}
+
+// What was shown may have changed by the time of the answer.
+void MemoryChannels::takeImportedChannels(const MemoryTable& shown, std::span<const ImportedChannel> channels) {
+    if (!canTakeChannels() || vqMemArray_ != shown)
+        return voice_.warn("Nothing was imported: the channels have changed meanwhile", "Import the file again.");
+    endHaltedRead();
+    for (const ImportedChannel& imported : channels)
+        vqMemArray_.at(static_cast<std::size_t>(imported.row)) = imported.channel;
+    for (const int column : {memoryFrequencyColumn, memoryTagColumn})
+        display_.memoriesTable.setSortDescriptorPrototype(column, {});
+    display_.memoriesTable.reloadData();
+    display_.memoryReadField.setStringValue(std::to_string(channels.size()) +
+                                            (channels.size() == 1 ? " channel" : " channels") +
+                                            " imported, not written to the transceiver yet");
+}
+
+}  // namespace corvane

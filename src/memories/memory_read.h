@@ -1,0 +1,57 @@
+// Reading the memory channels, as a value: a chain of request and reply, first frequencies and modes, then tags.
+#pragma once
+
+#include <bitset>
+#include <optional>
+#include <string>
+
+#include "memories/memory_channel.h"
+#include "memories/memory_commands.h"
+
+namespace corvane {
+
+// What a reply comes to.
+struct MemoryReadStep {
+    std::optional<std::size_t> row;  // the row of the table that the reply fills
+    std::string request;             // what is asked next, e.g. "MR007;"; empty: nothing
+    bool ended = false;              // it was the last reply of a whole read
+    bool inUse = false;              // no read was waiting for it: it describes the channel in use
+
+    bool operator==(const MemoryReadStep&) const = default;
+};
+
+struct MemoryReadProgress {
+    bool running = false;
+    int handled = 0;   // replies; a whole read has 200
+    std::string text;  // "Reading frequencies, channel 37 of 99"
+};
+
+struct MemoryRead {
+    std::string vqMemRead = "0";  // "run" while frequencies and modes are read
+    std::string vqTagRead = "0";  // "run" while tags are read
+    int vqMemReadCnt = 0;         // replies handled in the present read
+    int vqTagReadCnt = 0;
+    unsigned number = 0;                   // grows with every read begun or ended early, so that a late watch is known
+    unsigned session = 0;                  // the opening of the port in which a read was begun last
+    bool whole = false;                    // whether the last read came to its end
+    bool stalled = false;                  // whether the present read waits for an answer that does not come
+    std::bitset<memoryChannels> answered;  // the rows that the present read has filled
+    ChannelsAsRead asRead;                 // what the transceiver is known to hold
+    bool unsaved = false;                  // whether that has changed since it was saved last
+
+    MemoryReadStep begin(unsigned inSession);
+    MemoryReadStep take(const MemoryReply& reply);
+    MemoryReadStep take(const TagReply& reply);
+    void endEarly();  // later replies are not stored
+
+    bool running() const { return vqMemRead == "run" || vqTagRead == "run"; }
+    bool repliesAreComing() const { return running() && !stalled; }
+    int handled() const { return vqMemReadCnt + vqTagReadCnt; }
+    MemoryReadProgress progress(const MemoryTable& table) const;
+
+private:
+    std::size_t fill(const MemoryReply& reply);
+    void finish();
+};
+
+}  // namespace corvane

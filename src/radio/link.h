@@ -1,0 +1,115 @@
+// The link to the transceiver: which port, opening and closing it, what leaves through it, and the steps after an
+// opening.
+//
+//   sending   what leaves for the transceiver       radio/link.cpp
+//   ports     choosing, opening, coming and going   radio/serial_ports.cpp
+//   session   the steps after a port opened         radio/session_start.cpp
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/voice.h"
+#include "display/display.h"
+#include "platform/log.h"
+#include "platform/notification_center.h"
+#include "platform/serial_port_manager.h"
+#include "platform/settings_store.h"
+#include "platform/tasks.h"
+
+namespace corvane {
+
+// Reads everything that the display shows and switches auto information on, in one write of 150 bytes.
+inline constexpr std::string_view synchronisationString =
+    "PS;AI1;AI;AG0;VS1;VS0;IF;OI;VS;SV;MD0;NB0;NR0;PC;FA;FB;VS0;BC0;BI;PA0;BP00;CO00;GT0;RA0;RF0;SF0;SF1;SS00;SS01;"
+    "SS02;"
+    "SS03;SS04;SS05;SS06;MS;EX040101;SV;";
+static_assert(synchronisationString.size() == 150);
+
+// Side B on memory channel 002, then side A on memory channel 001.
+inline constexpr std::string_view memorySlotString = "VS1;MC002;MC;MW002;VM;VS0;MC001;MC;MW001;VM;";
+static_assert(memorySlotString.size() == 44);
+
+class Link {
+public:
+    // What the link uses of the system. `reports` is who a port reports to: it hands on what is for the link.
+    struct Surroundings {
+        ORSSerialPortManager& ports;
+        SettingsStore& settings;
+        NotificationCenter& notices;
+        Log& log;
+        Scheduler& scheduler;
+        ORSSerialPortDelegate& reports;
+    };
+
+    Link(Display& display, Voice& voice, const Surroundings& surroundings);
+    ~Link();  // closes the port
+
+    // Told by the link:
+    std::function<void(bool ready)> onReady = [](bool) {};  // whether commands would reach the transceiver
+    std::function<void()> onClosed = [] {};                 // the session is over: the port was closed, or has gone
+    std::function<void()> onMemoryReadDue = [] {};          // a step of the opening: read the memory channels
+
+    // --- sending. Without a current port everything is dropped without a word: the display follows the transceiver's
+    // own reports, so nothing is shown that did not happen.
+    void sendCommand(std::string_view commands);  // one write for each command in the text
+    void writeString(std::string_view commands);  // the whole text in one write
+    void send(std::string command);   // makes it the command built last and sends it; an empty one does nothing
+    void write(std::string command);  // the same in one write
+    void sendBox(Button& sender);     // what is typed in the raw-command box
+    void returnPressedInTextField(TextField& sender);  // Return in the raw-command box
+    // What the last action built, e.g. "BS05;BI1;"; no meaning after it was sent.
+    const std::string& cmd() const { return cmd_; }
+    void build(std::string command) { cmd_ = std::move(command); }
+
+    // --- ports
+    void setSerialPort(std::shared_ptr<ORSSerialPort> port);  // makes it, or none, the current port
+    const std::shared_ptr<ORSSerialPort>& serialPort() const { return serialPort_; }
+    bool isOpen() const { return serialPort_ && serialPort_->isOpen(); }
+    const std::vector<int>& availableBaudRates() const { return availableBaudRates_; }
+    void choosePort(PopUpButton& sender);
+    void chooseBaudRate(PopUpButton& sender);
+    void openOrClosePort(Button& sender);
+    void restorePort();  // chooses the port and the speed of the last run, unless a port is open
+    void suggestPort();  // chooses the port to begin with while none is remembered
+    void serialPortWasOpened(ORSSerialPort& port);
+    void serialPortWasClosed(ORSSerialPort& port);
+    void serialPortWasRemovedFromSystem(ORSSerialPort& port);
+    void serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error);
+    void serialPortsWereConnected(const SerialPorts& ports);
+    void serialPortsWereDisconnected(const SerialPorts& ports);
+    bool userNotificationCenterShouldPresentNotification() const;  // notices show while the program is in front, too
+    void userNotificationCenterDidDeliverNotification(NotificationId id);
+    void noteAnswer();  // something has come from the transceiver
+    void fillPortPopUp();
+    void showMessage(std::string_view message);  // in the line below the frequencies
+
+    // --- session: it grows with every opening and closing, so that a step left over from an earlier one is known
+    const std::string& syncRadioCmd() const { return syncRadioCmd_; }
+    unsigned session() const { return session_; }
+
+private:
+    void showStatus();
+    void startSession();
+    void afterOpening(Scheduler::Duration delay, std::function<void()> step);
+    void setUpMemorySlots();
+    void synchronise();
+    void deliverNotice(std::string_view title, std::string_view portName, std::string_view what);
+    void listPortsInLog(std::string_view what, const SerialPorts& ports);
+
+    Display& display_;
+    Voice& voice_;
+    Surroundings around_;
+    Tasks tasks_;
+    std::vector<int> availableBaudRates_{38400};  // bits a second
+    std::shared_ptr<ORSSerialPort> serialPort_;   // the current port, or none
+    std::string cmd_;
+    const std::string syncRadioCmd_{synchronisationString};
+    unsigned session_ = 0;
+    bool answered_ = false;  // whether anything has come from the transceiver since the port was opened
+};
+
+}  // namespace corvane
