@@ -26,7 +26,7 @@ struct RadioState {
     std::string vqCall;             // the call sign in the transceiver's menu
     int vqMuted = 0;                // 1 while the AF gain is below 5
     std::array<std::string, 6> vqTextMemoryArray;  // keyer and text memories as last reported; 1 to 5 are used
-    std::string vqTextMemoryRevert;                // memory 5 of whichever family was reported last
+    std::string vqTextMemoryRevert;                // memory 5 of the mode group that reported last
 };
 
 }  // namespace corvane
