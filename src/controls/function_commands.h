@@ -7,9 +7,6 @@
 
 namespace corvane {
 
-// The code character of an index in the transceiver's lists: 0 to 9, then "A" for 10 to "F" for 15.
-constexpr char indexCode(int index) { return "0123456789ABCDEF"[index & 15]; }
-
 std::string modeCommand(int index);            // 2: "MD03;BI1;SF1H;", CW with the function knob on its speed
 std::string memoryCommand(int index);          // 0: "SS0670000;MC001;MW001;SS0670000;"
 std::string scopeColorCommand(int index);      // 10: "SS03A0000;"; 0 none, the pop-up's first entry asks for nothing

@@ -1,4 +1,4 @@
-// The operating modes: the code character of the "MD" command ("MD02;" is USB) and the name that the program shows.
+// The operating modes: one row each, with every form in which commands, pop-ups, keys and files of channels know it.
 #pragma once
 
 #include <algorithm>
@@ -8,25 +8,9 @@
 
 namespace corvane {
 
-struct OperatingMode {
-    char code;  // "1" to "9", "A" to "F"
-    std::string_view name;
-};
-
-inline constexpr std::array operatingModes{
-    OperatingMode{'1', "LSB"},     OperatingMode{'2', "USB"},    OperatingMode{'3', "CW-U"},
-    OperatingMode{'4', "FM"},      OperatingMode{'5', "AM"},     OperatingMode{'6', "RTTY-L"},
-    OperatingMode{'7', "CW-L"},    OperatingMode{'8', "DATA-L"}, OperatingMode{'9', "RTTY-U"},
-    OperatingMode{'A', "DATA-FM"}, OperatingMode{'B', "FM-N"},   OperatingMode{'C', "DATA-U"},
-    OperatingMode{'D', "AM-N"},    OperatingMode{'E', "PSK"},    OperatingMode{'F', "DATA-FM-N"},
-};
-
-static_assert(std::ranges::is_sorted(operatingModes, {}, &OperatingMode::code), "the pop-ups list them in code order");
-
 // The modes that share their keyer memories: how these are read, stored and played, and what the keyer is called
 // meanwhile.
 struct ModeGroup {
-    std::string_view codes;           // e.g. "37"
     std::string_view memoryRequests;  // reads the five memories, e.g. "KM1;KM2;KM3;KM4;KM5;"
     std::string_view storeCommand;    // in front of a memory's number and its text, e.g. "EM0"
     std::string_view boxTitle;        // e.g. "Send CW"
@@ -34,17 +18,69 @@ struct ModeGroup {
 };
 
 inline constexpr std::array modeGroups{
-    ModeGroup{"37", "KM1;KM2;KM3;KM4;KM5;", "KM", "Send CW", {"KY6;", "KY7;", "KY8;", "KY9;", "KYA;"}},
-    ModeGroup{"69", "EM01;EM02;EM03;EM04;EM05;", "EM0", "Send RTTY", {"EN01;", "EN02;", "EN03;", "EN04;", "EN05;"}},
-    ModeGroup{"E", "EM11;EM12;EM13;EM14;EM15;", "EM1", "Send PSK", {"EN11;", "EN12;", "EN13;", "EN14;", "EN15;"}},
+    ModeGroup{"KM1;KM2;KM3;KM4;KM5;", "KM", "Send CW", {"KY6;", "KY7;", "KY8;", "KY9;", "KYA;"}},
+    ModeGroup{"EM01;EM02;EM03;EM04;EM05;", "EM0", "Send RTTY", {"EN01;", "EN02;", "EN03;", "EN04;", "EN05;"}},
+    ModeGroup{"EM11;EM12;EM13;EM14;EM15;", "EM1", "Send PSK", {"EN11;", "EN12;", "EN13;", "EN14;", "EN15;"}},
 };
 inline constexpr std::string_view noModeGroupBoxTitle = "Keyer / Encoder";
 
+inline constexpr const ModeGroup* noGroup = nullptr;
+inline constexpr const ModeGroup* cwGroup = &modeGroups[0];
+inline constexpr const ModeGroup* rttyGroup = &modeGroups[1];
+inline constexpr const ModeGroup* pskGroup = &modeGroups[2];
+
+struct OperatingMode {
+    char code;                // of the "MD" command, "1" to "9" and "A" to "F": "MD02;" is USB
+    std::string_view name;    // what the program shows
+    int key;                  // the place of its key among the mode keys, from 0
+    const ModeGroup* group;   // noGroup: without keyer memories
+    std::string_view inFile;  // what a file of channels calls it; of two with the same name a comment says which
+    std::array<std::string_view, 6> fromFile;  // the names in files that lead to it besides its own, in capitals
+};
+
+// In the order of the pop-ups: an entry's index is the place of its row. In the pop-up of a memory channel an entry for
+// no mode, whose code is '0', stands before them.
+// clang-format off
+inline constexpr std::array operatingModes{
+    OperatingMode{'1', "LSB", 0, noGroup, "LSB", {}},
+    OperatingMode{'2', "USB", 1, noGroup, "USB", {}},
+    OperatingMode{'3', "CW-U", 4, cwGroup, "CW", {"CW", "NCW", "CWU"}},
+    OperatingMode{'4', "FM", 5, noGroup, "FM", {}},
+    OperatingMode{'5', "AM", 2, noGroup, "AM", {}},
+    OperatingMode{'6', "RTTY-L", 6, rttyGroup, "RTTY", {"RTTY", "FSK"}},
+    OperatingMode{'7', "CW-L", 3, cwGroup, "CWR", {"CWR", "NCWR", "CWL", "CW-R"}},
+    OperatingMode{'8', "DATA-L", 8, noGroup, "DIG", {"DIGL", "PKTLSB", "LSB-D", "DATA-LSB"}},
+    OperatingMode{'9', "RTTY-U", 7, rttyGroup, "RTTYR", {"RTTYR", "FSKR", "RTTY-R"}},
+    OperatingMode{'A', "DATA-FM", 12, noGroup, "PKT", {"PKT", "PKTFM", "FM-D"}},
+    OperatingMode{'B', "FM-N", 10, noGroup, "NFM", {"NFM"}},
+    OperatingMode{'C', "DATA-U", 9, noGroup, "DIG", {"DIG", "DATA", "DIGU", "PKTUSB", "USB-D", "DATA-USB"}},
+    OperatingMode{'D', "AM-N", 11, noGroup, "NAM", {"NAM"}},
+    OperatingMode{'E', "PSK", 13, pskGroup, "DIG", {}},
+    OperatingMode{'F', "DATA-FM-N", 14, noGroup, "PKT", {}},
+};
+// clang-format on
+inline constexpr char noModeCode = '0';
+
+static_assert(std::ranges::equal(operatingModes, std::string_view("123456789ABCDEF"), {}, &OperatingMode::code),
+              "the pop-ups count on one row for each code, in their order");
+static_assert(
+    [] {
+        std::array<bool, operatingModes.size()> taken{};
+        for (const OperatingMode& mode : operatingModes) taken.at(static_cast<std::size_t>(mode.key)) = true;
+        return std::ranges::find(taken, false) == taken.end();
+    }(),
+    "every mode has a key of its own");
+
+// The row of a code, or nullptr: '2' gives the row of USB, '0' none.
+constexpr const OperatingMode* operatingMode(char code) {
+    const auto mode = std::ranges::find(operatingModes, code, &OperatingMode::code);
+    return mode == operatingModes.end() ? nullptr : &*mode;
+}
+
 // The name for a code, or nothing: '2' gives "USB", '0' nothing.
 constexpr std::optional<std::string_view> modeName(char code) {
-    const auto mode = std::ranges::find(operatingModes, code, &OperatingMode::code);
-    if (mode == operatingModes.end()) return std::nullopt;
-    return mode->name;
+    const OperatingMode* mode = operatingMode(code);
+    return mode ? std::optional(mode->name) : std::nullopt;
 }
 
 // The code for a name, compared exactly: "USB" gives '2'; "usb" gives ' ', which the transceiver rejects.
@@ -53,14 +89,34 @@ constexpr char modeCode(std::string_view name) {
     return mode == operatingModes.end() ? ' ' : mode->code;
 }
 
-// The entry that a code selects in a mode pop-up: '1' gives 0, '9' gives 8; '0' gives -1, no entry; a letter gives 0.
+// The code of the mode whose key has this place among the mode keys: 3 gives '7'. The key behind them all asks for no
+// mode: 15 gives '0'.
+constexpr char modeCodeOfKey(int place) {
+    const auto mode = std::ranges::find(operatingModes, place, &OperatingMode::key);
+    return mode == operatingModes.end() ? noModeCode : mode->code;
+}
+
+// The entry that a code selects in the mode pop-up: '1' gives 0, '9' gives 8; '0' gives -1, no entry; a letter gives 0.
 constexpr int modePopUpIndex(char code) { return code >= '0' && code <= '9' ? code - '1' : 0; }
 
 // The group of a mode code, or nullptr for a mode without keyer memories.
 constexpr const ModeGroup* modeGroup(char code) {
-    const auto group = std::ranges::find_if(
-        modeGroups, [code](const ModeGroup& g) { return g.codes.find(code) != std::string_view::npos; });
-    return group == modeGroups.end() ? nullptr : &*group;
+    const OperatingMode* mode = operatingMode(code);
+    return mode ? mode->group : noGroup;
 }
+
+// What the function knob is set to along with a mode: the speed in CW, else the RF power.
+constexpr std::string_view functionKnobSetting(char code) { return modeGroup(code) == cwGroup ? "SF1H;" : "SF1E;"; }
+
+// The codes of the two side bands of one kind of operation. The upper one is usual from 10 MHz on.
+struct SideBands {
+    char lower;
+    char upper;
+
+    static constexpr long long lowestUpper = 10'000'000;  // hertz
+    constexpr char usual(long long hertz) const { return hertz >= lowestUpper ? upper : lower; }
+};
+inline constexpr SideBands voiceSideBands{modeCode("LSB"), modeCode("USB")};
+inline constexpr SideBands cwSideBands{modeCode("CW-L"), modeCode("CW-U")};
 
 }  // namespace corvane
