@@ -222,9 +222,9 @@ bool SerialPortDemoController::pressReadMenuKey(Button& sender) {
     if (group == menuGroups.end()) return false;
     startMenuRead(*group);
     sendCommand(group->before);
-    for (int subMenu = group->firstSubMenu; subMenu < group->lastSubMenu; ++subMenu)
+    for (int subMenu = group->firstSubMenu(); subMenu < group->lastSubMenu(); ++subMenu)
         sendCommand(subMenuRequest(subMenu));
-    link.cmd = subMenuRequest(group->lastSubMenu);
+    link.cmd = subMenuRequest(group->lastSubMenu());
     if (!group->after.empty()) {
         sendCommand(link.cmd);
         link.cmd = group->after;

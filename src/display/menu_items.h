@@ -17,6 +17,9 @@ enum class MenuRead { none, title, index, text };
 
 inline constexpr int menuTagBase = 2000000;  // what a control's tag is above the number of its item
 
+// The page of the settings tab that shows a sub-menu, one for each group: 102 and 107 are on page 0.
+constexpr int menuPageOf(int subMenu) { return subMenu / 100 - 1; }
+
 // Entries are written `a|b|c` with index 0 first, where `-` stands for an index that the transceiver does not use, or
 // `FIRST..LAST/STEP%D` for the numbers from FIRST to LAST by STEP in D digits; `%+D` writes the sign, too. So
 // "-20..+10/1%+2" gives "-20" ... "-01", "+00", "+01" ... "+10".
@@ -29,14 +32,16 @@ struct MenuItemRow {
     MenuRead read;
     int width;  // characters of the value on the line; 0 for an item that is not read
 
-    constexpr int subMenu() const { return number / 100; }      // 10203 gives 102
-    constexpr int page() const { return number / 10000 - 1; }   // of the settings tab
-    constexpr int tag() const { return menuTagBase + number; }  // of its control
+    constexpr int subMenu() const { return number / 100; }        // 10203 gives 102
+    constexpr int page() const { return menuPageOf(subMenu()); }  // of the settings tab
+    constexpr int tag() const { return menuTagBase + number; }    // of its control
 };
 
 struct MenuSubMenu {
     int number;  // group and sub-menu: 102
     std::string_view title;
+
+    constexpr int page() const { return menuPageOf(number); }
 };
 
 inline constexpr int callSignItem = 40101;
@@ -371,6 +376,12 @@ static_assert(std::ranges::all_of(menuItems,
                                              (row.width == 3 || row.write != MenuWrite::threeDigits);
                                   }),
               "what is written is as wide as what is read");
+static_assert(std::ranges::all_of(menuItems,
+                                  [](const MenuItemRow& row) {
+                                      return std::ranges::find(menuSubMenus, row.subMenu(), &MenuSubMenu::number) !=
+                                             menuSubMenus.end();
+                                  }),
+              "every item has a place on a page");
 
 // The item of a number, or null: 10203.
 constexpr const MenuItemRow* menuItem(int number) {

@@ -4,10 +4,8 @@
 
 namespace corvane {
 
-int MenuReadState::pageOf(const MenuGroup& group) { return group.firstSubMenu / 100 - 1; }
-
 void MenuReadState::start(const MenuGroup& group) {
-    page = pageOf(group);
+    page = group.page;
     ++number;
     refused = 0;
     stopped = false;

@@ -29,8 +29,6 @@ struct MenuReadState {
     bool takeRefusal();
     // "Reading 57 of 104 items", "104 items read", "93 items read, 11 unknown to this transceiver".
     std::string text() const;
-
-    static int pageOf(const MenuGroup& group);
 };
 
 }  // namespace corvane

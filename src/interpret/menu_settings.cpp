@@ -1,6 +1,7 @@
 // The transceiver's setup menu: filling its pop-ups, what the transceiver reports of it, and how far a read of a group
 // is.
 #include "controller/serial_port_demo_controller.h"
+#include "interpret/menu_groups.h"
 #include "interpret/menu_values.h"
 #include "interpret/numeric_pop_ups.h"
 #include "wire/wire_text.h"
@@ -60,8 +61,7 @@ void SerialPortDemoController::readCallSign(std::string_view value) {
 void SerialPortDemoController::startMenuRead(const MenuGroup& group) {
     if (!link.serialPort || !link.serialPort->isOpen()) return;
     const int before = menuRead.page;
-    if (menuRead.running() && before != menuRead.pageOf(group))
-        menuReadEnded(": stopped, another group is being read.");
+    if (menuRead.running() && before != group.page) menuReadEnded(": stopped, another group is being read.");
     menuRead.start(group);
     showMenuReadProgress();
     watchMenuRead();
