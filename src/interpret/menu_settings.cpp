@@ -3,7 +3,6 @@
 #include "controller/serial_port_demo_controller.h"
 #include "interpret/menu_groups.h"
 #include "interpret/menu_values.h"
-#include "interpret/numeric_pop_ups.h"
 #include "wire/wire_text.h"
 
 namespace corvane {
@@ -29,10 +28,13 @@ void SerialPortDemoController::fillMenuPopUp(int first, int last, int step, int 
 // What the transceiver reported, or the operator chose, outlasts another filling.
 void SerialPortDemoController::fillMenuPopUps() {
     const bool again = menuRead.filled;
-    for (const NumericPopUp& row : numericPopUps) {
-        PopUpButton* popUp = display.menu.popUp(row.page, row.tag);
+    for (const MenuItemRow& row : menuItems) {
+        if (!row.hasDefault()) continue;
+        const NumberRun numbers = *numberRun(row.entries);
+        PopUpButton* popUp = display.menu.popUp(row.page(), row.tag());
         const int selected = popUp ? popUp->indexOfSelectedItem() : PopUpButton::noSelection;
-        fillMenuPopUp(row.first, row.last, row.step, row.tag, row.digits, row.page, row.defaultNumber);
+        fillMenuPopUp(numbers.first / numbers.step, numbers.last / numbers.step, numbers.step, row.tag(),
+                      numbers.digits, row.page(), row.defaultNumber);
         if (again && popUp) popUp->selectItem(selected);
     }
     menuRead.filled = true;
