@@ -58,8 +58,4 @@ std::string indexCommand(std::string_view before, int index, std::string_view af
     return index < 0 ? std::string() : std::string(before).append(std::to_string(index)).append(after);
 }
 
-std::string powerCommand(int index) {
-    return index < 0 ? std::string() : "PC" + zeroPadded(index + lowestPower, 3) + ';';
-}
-
 }  // namespace corvane

@@ -21,6 +21,4 @@ std::string gainCommand(std::string_view name, int value);  // "AG0", 5: "AG0005
 // The index itself between two texts: "PA0", 1, ";" gives "PA01;". Nothing for an index below 0.
 std::string indexCommand(std::string_view before, int index, std::string_view after);
 
-std::string powerCommand(int index);  // 45: "PC050;", as the first entry is 5 W
-
 }  // namespace corvane

@@ -2,22 +2,10 @@
 // reports.
 #include "controller/serial_port_demo_controller.h"
 #include "controls/function_commands.h"
+#include "controls/setup_pop_ups.h"
 #include "wire/setting_codes.h"
 
 namespace corvane {
-
-namespace {
-
-constexpr int scopeSpeedTag = 2000;
-constexpr int scopePeakTag = 2001;
-constexpr int scopeLevelTag = 2004;
-constexpr int scopeSpanTag = 2005;
-constexpr int powerOffTag = 2006;
-constexpr int powerTag = 2007;
-constexpr int firstEditorTag = 3001;
-constexpr int lastEditorTag = 3003;
-
-}  // namespace
 
 // A position that stands for nothing sends nothing; above all not the command before it.
 void SerialPortDemoController::sendBuilt(std::string command) {
@@ -99,21 +87,13 @@ void SerialPortDemoController::goRF(Slider& sender) {
 }
 
 void SerialPortDemoController::goSuperPopUp(PopUpButton& sender) {
+    const SetupPopUp* popUp = setupPopUp(sender.tag());
+    if (!popUp) return writeMenuItem(sender);
     const int index = sender.indexOfSelectedItem();
-    const int tag = sender.tag();
-    if (tag == scopeSpeedTag) return sendBuilt(indexCommand("SS00", index, "0000;"));
-    if (tag == scopePeakTag) return sendBuilt(indexCommand("SS01", index, "0000;"));
-    if (tag == scopeLevelTag) {
-        return sendBuilt("SS04" + (index < 0 ? "+00.0" : sender.titleOfSelectedItem()) + ';');
-    }
-    if (tag == scopeSpanTag) return sendBuilt(indexCommand("SS05", index, "0000;"));
-    if (tag == powerOffTag) return planPowerOff(index);
-    if (tag == powerTag && index >= 0) {
-        sendBuilt(powerCommand(index));
-        return speak(std::to_string(index + lowestPower) + " watts");
-    }
-    if (firstEditorTag <= tag && tag <= lastEditorTag) return writeMemoryText(sender);
-    writeMenuItem(sender);
+    if (popUp->choice == SetupChoice::powerOff) return planPowerOff(index);
+    if (popUp->choice == SetupChoice::memoryText) return writeMemoryText(sender);
+    sendBuilt(setupCommand(*popUp, index, sender.titleOfSelectedItem()));
+    if (popUp->choice == SetupChoice::watts && index >= 0) speak(std::to_string(index + lowestPower) + " watts");
 }
 
 }  // namespace corvane
