@@ -2,6 +2,7 @@
 #include <variant>
 
 #include "controller/serial_port_demo_controller.h"
+#include "controls/setup_pop_ups.h"
 #include "interpret/menu_groups.h"
 
 namespace corvane {
@@ -52,25 +53,17 @@ void SerialPortDemoController::go(Button& sender) {
 }
 
 void SerialPortDemoController::goSuperPopUp(PopUpButton& sender) {
-    switch (sender.tag()) {
-        case 2000:
-            return functionPopUps.chooseScopeSetting(sender, "SS00");
-        case 2001:
-            return functionPopUps.chooseScopeSetting(sender, "SS01");
-        case 2004:
-            return functionPopUps.chooseScopeLevel(sender);
-        case 2005:
-            return functionPopUps.chooseScopeSetting(sender, "SS05");
-        case 2006:
+    const SetupPopUp* row = setupPopUp(sender.tag());
+    if (!row) return setupMenu.writeMenuItem(sender);
+    switch (row->choice) {
+        case SetupChoice::powerOff:
             return powerOff.choose(sender);
-        case 2007:
-            return functionPopUps.choosePower(sender);
-        case 3001:
-        case 3002:
-        case 3003:
+        case SetupChoice::memoryText:
             return keyer.writeMemoryText(sender);
-        default:
-            setupMenu.writeMenuItem(sender);
+        case SetupChoice::index:
+        case SetupChoice::title:
+        case SetupChoice::watts:
+            return functionPopUps.send(sender, *row);
     }
 }
 

@@ -1,13 +1,13 @@
 #include "controls/function_commands.h"
 
 #include "wire/cat_command.h"
+#include "wire/operating_modes.h"
 #include "wire/setting_codes.h"
 
 namespace corvane {
 
 namespace {
 
-constexpr std::string_view telegraphyCodes = "37";
 constexpr std::string_view roofingFilterCodes = "1245";
 
 std::string codeCommand(std::string_view before, std::string_view codes, int index, std::string_view after) {
@@ -25,10 +25,9 @@ std::string levelCommand(std::string_view name, std::string_view level, int widt
 }  // namespace
 
 std::string modeCommand(int index) {
-    if (index < 0 || index > 14) return {};
-    const char code = indexCode(index + 1);
-    const bool telegraphy = telegraphyCodes.find(code) != std::string_view::npos;
-    return std::string("MD0") + code + ";BI1;" + (telegraphy ? "SF1H;" : "SF1E;");
+    if (index < 0 || index >= static_cast<int>(operatingModes.size())) return {};
+    const char code = operatingModes[static_cast<std::size_t>(index)].code;
+    return (std::string("MD0") + code + ";BI1;").append(functionKnobSetting(code));
 }
 
 std::string memoryCommand(int index) {
@@ -57,10 +56,6 @@ std::string gainCommand(std::string_view name, int value) {
 
 std::string indexCommand(std::string_view before, int index, std::string_view after) {
     return index < 0 ? std::string() : std::string(before).append(std::to_string(index)).append(after);
-}
-
-std::string powerCommand(int index) {
-    return index < 0 ? std::string() : "PC" + zeroPadded(index + lowestPower, 3) + ';';
 }
 
 }  // namespace corvane

@@ -7,9 +7,6 @@
 
 namespace corvane {
 
-// The code character of an index in the transceiver's lists: 0 to 9, then "A" for 10 to "F" for 15.
-constexpr char indexCode(int index) { return "0123456789ABCDEF"[index & 15]; }
-
 std::string modeCommand(int index);            // 2: "MD03;BI1;SF1H;", CW with the function knob on its speed
 std::string memoryCommand(int index);          // 0: "SS0670000;MC001;MW001;SS0670000;"
 std::string scopeColorCommand(int index);      // 10: "SS03A0000;"; 0 none, the pop-up's first entry asks for nothing
@@ -23,7 +20,5 @@ std::string gainCommand(std::string_view name, int value);  // "AG0", 5: "AG0005
 
 // The index itself between two texts: "PA0", 1, ";" gives "PA01;". Nothing for an index below 0.
 std::string indexCommand(std::string_view before, int index, std::string_view after);
-
-std::string powerCommand(int index);  // 45: "PC050;", as the first entry is 5 W
 
 }  // namespace corvane

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "controls/function_commands.h"
+#include "controls/setup_pop_ups.h"
 #include "wire/memory_fields.h"
 #include "wire/setting_codes.h"
 
@@ -85,20 +86,10 @@ void FunctionPopUps::goRF(Slider& sender) {
     rfGainPacer_.submit(gainCommand("RG0", sender.integerValue()));
 }
 
-void FunctionPopUps::chooseScopeSetting(PopUpButton& sender, std::string_view before) {
-    link_.send(indexCommand(before, sender.indexOfSelectedItem(), "0000;"));
-}
-
-void FunctionPopUps::chooseScopeLevel(PopUpButton& sender) {
-    const bool chosen = sender.indexOfSelectedItem() != PopUpButton::noSelection;
-    link_.send("SS04" + (chosen ? sender.titleOfSelectedItem() : "+00.0") + ';');
-}
-
-void FunctionPopUps::choosePower(PopUpButton& sender) {
+void FunctionPopUps::send(PopUpButton& sender, const SetupPopUp& row) {
     const int index = sender.indexOfSelectedItem();
-    if (index == PopUpButton::noSelection) return;
-    link_.send(powerCommand(index));
-    voice_.speak(std::to_string(index + lowestPower) + " watts");
+    link_.send(setupCommand(row, index, sender.titleOfSelectedItem()));
+    if (row.choice == SetupChoice::watts && index >= 0) voice_.speak(std::to_string(index + lowestPower) + " watts");
 }
 
 }  // namespace corvane

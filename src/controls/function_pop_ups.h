@@ -2,8 +2,6 @@
 // reports.
 #pragma once
 
-#include <string_view>
-
 #include "app/voice.h"
 #include "controls/command_pacer.h"
 #include "display/display.h"
@@ -12,6 +10,8 @@
 #include "radio/link.h"
 
 namespace corvane {
+
+struct SetupPopUp;
 
 class FunctionPopUps {
 public:
@@ -33,9 +33,7 @@ public:
     void goMPVD(PopUpButton& sender);
     void goAF(Slider& sender);
     void goRF(Slider& sender);
-    void chooseScopeSetting(PopUpButton& sender, std::string_view before);  // "SS05" with entry 7 sends "SS0570000;"
-    void chooseScopeLevel(PopUpButton& sender);                             // by its title: "SS04+10.5;"
-    void choosePower(PopUpButton& sender);
+    void send(PopUpButton& sender, const SetupPopUp& row);  // what a pop-up of the scope or the power stands for
 
 private:
     Link& link_;

@@ -17,9 +17,9 @@ struct MemoryEditor {
 };
 
 constexpr std::array memoryEditors{
-    MemoryEditor{3001, &Display::cwMemoryField, modeGroups[cwGroup]},
-    MemoryEditor{3002, &Display::rttyMemoryField, modeGroups[rttyGroup]},
-    MemoryEditor{3003, &Display::pskMemoryField, modeGroups[pskGroup]},
+    MemoryEditor{3001, &Display::cwMemoryField, *cwGroup},
+    MemoryEditor{3002, &Display::rttyMemoryField, *rttyGroup},
+    MemoryEditor{3003, &Display::pskMemoryField, *pskGroup},
 };
 
 const ModeGroup* groupInUse(const Mirror& mirror) { return modeGroup(modeCode(mirror.state().vqMode)); }
@@ -37,7 +37,7 @@ void Keyer::sendTextMessage(Button&) {
     if (!group) return;
     const std::string typed = display_.textMemoryField.stringValue();
     // The memory 5 reported last may be another group's, after all three have been read.
-    mirror_.rememberScratchMemory(static_cast<std::size_t>(group - modeGroups.data()));
+    mirror_.rememberScratchMemory(*group);
     for (const std::string_view piece : textPieces(typed)) {
         link_.write(storeScratch(*group, piece));
         link_.write(std::string(group->playCommands[scratchMemory - 1]));

@@ -15,12 +15,12 @@ std::vector<std::string_view> textPieces(std::string_view text) {
     return pieces;
 }
 
-std::string storeScratch(const ModeGroup& family, std::string_view text) {
-    return std::string(family.storeCommand).append(std::to_string(scratchMemory)).append(text).append("};");
+std::string storeScratch(const ModeGroup& group, std::string_view text) {
+    return std::string(group.storeCommand).append(std::to_string(scratchMemory)).append(text).append("};");
 }
 
-std::string storeAndReadBack(const ModeGroup& family, int memory, std::string_view text) {
-    const std::string name = std::string(family.storeCommand) + std::to_string(memory);
+std::string storeAndReadBack(const ModeGroup& group, int memory, std::string_view text) {
+    const std::string name = std::string(group.storeCommand) + std::to_string(memory);
     return name + std::string(utf8Prefix(text, textPieceLength)) + ';' + name + ';';
 }
 

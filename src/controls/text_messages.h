@@ -1,4 +1,4 @@
-// Texts that the transceiver transmits from its memories: memory 5 of the present family is the scratch space of a
+// Texts that the transceiver transmits from its memories: memory 5 of the present mode group is the scratch space of a
 // text that the operator types.
 #pragma once
 
@@ -17,10 +17,10 @@ inline constexpr int scratchMemory = 5;
 // before it use up: 60 characters give 49 and 11, 49 give 49 and 0.
 std::vector<std::string_view> textPieces(std::string_view text);
 
-// Stores a text in the family's memory 5: "EM05CQ TEST};".
-std::string storeScratch(const ModeGroup& family, std::string_view text);
+// Stores a text in memory 5 of the group: "EM05CQ TEST};".
+std::string storeScratch(const ModeGroup& group, std::string_view text);
 
 // Stores a text, cut to 49 characters, in memory n and asks for it back: "KM2CQ TEST;KM2;".
-std::string storeAndReadBack(const ModeGroup& family, int memory, std::string_view text);
+std::string storeAndReadBack(const ModeGroup& group, int memory, std::string_view text);
 
 }  // namespace corvane

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "wire/operating_modes.h"
 #include "wire/tuning_range.h"
 #include "wire/wire_text.h"
 
@@ -11,7 +12,7 @@ namespace corvane {
 
 namespace {
 
-constexpr double lowestUpperSideBand = 10.0;
+constexpr double lowestUpperSideBand = SideBands::lowestUpper / 1e6;  // MHz
 
 // A number typed with six decimals is a whole number of hertz, which binary fractions may miss by a hair.
 constexpr double hair = 1e-6;  // Hz

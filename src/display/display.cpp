@@ -71,11 +71,11 @@ Display::Display()
       mwTable(mwTableOutlet, mwTableColumns) {
     for (PopUpButton* popUp : {&cwMemoryPopUpButton, &rttyMemoryPopUpButton, &pskMemoryPopUpButton})
         fill(*popUp, entryList(editorMemories));
-    memsTableModePopUpButton.setEntries(entryList(memoryModeEntries));
+    memsTableModePopUpButton.setEntries(memoryModeEntries());
     memoryReadProgress.setVisible(false);
     // The synchronisation does not ask for it, and a nudge from 0 would make the receiver deaf.
     rfGainSlider.setIntegerValue(rfGainSlider.maximum());
-    modesPopUpButton.setEntries(entryList(modeEntries));
+    modesPopUpButton.setEntries(modeEntries());
     AGCPopUpButton.setEntries(entryList(agcEntries));
     ATTPopUpButton.setEntries(entryList(attenuatorEntries));
     ampPopUpButton.setEntries(entryList(preAmplifierEntries));

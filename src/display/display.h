@@ -29,7 +29,7 @@ struct Display {
     static constexpr int settingsPage = 5;
     static constexpr int listsPages = 6;                       // five lists and the band conditions
     static constexpr int settingsPages = MenuControls::pages;  // of the settings tab, one a menu group
-    static constexpr int memories = 5;                         // of each family of keyer and text memories
+    static constexpr int memories = 5;                         // of each mode group
 
     Display();
 

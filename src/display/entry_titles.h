@@ -8,23 +8,9 @@
 #include <variant>
 #include <vector>
 
+#include "display/number_run.h"
+
 namespace corvane {
-
-// The numbers from `first` to `last` by `step`, in `digits` digits with leading zeros, with a sign before them if
-// `sign` says so: {-20, 10, 1, 2, true} gives "-20" ... "+00" ... "+10". `step` is above 0; a last below the first
-// gives none.
-struct NumberRun {
-    int first;
-    int last;
-    int step;
-    int digits;
-    bool sign = false;
-
-    int size() const { return last < first ? 0 : (last - first) / step + 1; }
-    std::string at(int index) const;
-    std::optional<int> indexOf(std::string_view title) const;
-    bool operator==(const NumberRun&) const = default;
-};
 
 // A list of texts, or a run of numbers, whose texts are made when they are asked for: ten thousand of them cost
 // nothing.

@@ -6,6 +6,7 @@
 
 #include "display/control.h"
 #include "display/key_actions.h"
+#include "wire/operating_modes.h"
 
 namespace corvane {
 
@@ -141,6 +142,15 @@ static_assert(std::ranges::adjacent_find(frontPanelKeys, std::ranges::greater_eq
                                          [](const FrontPanelKey& key) { return key.outlet.tag; }) ==
                   frontPanelKeys.end(),
               "found by binary search");
+
+static_assert(std::ranges::all_of(operatingModes,
+                                  [](const OperatingMode& mode) {
+                                      return std::ranges::any_of(frontPanelKeys, [&](const FrontPanelKey& key) {
+                                          const auto* action = std::get_if<ModeKey>(&key.action);
+                                          return action && action->code == mode.code;
+                                      });
+                                  }),
+              "every mode has a key");
 
 // The place of the key that starts with this tag; the table's size when there is none.
 constexpr std::size_t frontPanelKeyIndex(int tag) {

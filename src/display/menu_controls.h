@@ -13,7 +13,7 @@ namespace corvane {
 
 class MenuControls {
 public:
-    static constexpr int pages = 4;  // one for each group of the menu
+    static constexpr int pages = menuSubMenus.back().page() + 1;  // one for each group of the menu
     static constexpr int wholeProgress = 100;
 
     MenuControls();

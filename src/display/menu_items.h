@@ -5,6 +5,8 @@
 #include <array>
 #include <string_view>
 
+#include "display/number_run.h"
+
 namespace corvane {
 
 // How an item is set: by the title of the chosen entry as it stands, or by its index in plain decimal, in two or in
@@ -17,6 +19,9 @@ enum class MenuRead { none, title, index, text };
 
 inline constexpr int menuTagBase = 2000000;  // what a control's tag is above the number of its item
 
+// The page of the settings tab that shows a sub-menu, one for each group: 102 and 107 are on page 0.
+constexpr int menuPageOf(int subMenu) { return subMenu / 100 - 1; }
+
 // Entries are written `a|b|c` with index 0 first, where `-` stands for an index that the transceiver does not use, or
 // `FIRST..LAST/STEP%D` for the numbers from FIRST to LAST by STEP in D digits; `%+D` writes the sign, too. So
 // "-20..+10/1%+2" gives "-20" ... "-01", "+00", "+01" ... "+10".
@@ -28,15 +33,22 @@ struct MenuItemRow {
     MenuWrite write;
     MenuRead read;
     int width;  // characters of the value on the line; 0 for an item that is not read
+    // Of an item whose numbers are filled in at the start: the index of the entry that is marked, counted from the
+    // number 0, and the number of the entry that is selected. They are the same entry where the step is 1.
+    int defaultNumber = noDefault;
 
-    constexpr int subMenu() const { return number / 100; }      // 10203 gives 102
-    constexpr int page() const { return number / 10000 - 1; }   // of the settings tab
-    constexpr int tag() const { return menuTagBase + number; }  // of its control
+    static constexpr int noDefault = -1;
+    constexpr bool hasDefault() const { return defaultNumber != noDefault; }
+    constexpr int subMenu() const { return number / 100; }        // 10203 gives 102
+    constexpr int page() const { return menuPageOf(subMenu()); }  // of the settings tab
+    constexpr int tag() const { return menuTagBase + number; }    // of its control
 };
 
 struct MenuSubMenu {
     int number;  // group and sub-menu: 102
     std::string_view title;
+
+    constexpr int page() const { return menuPageOf(number); }
 };
 
 inline constexpr int callSignItem = 40101;
@@ -128,8 +140,8 @@ inline constexpr std::array menuItems = [] {
         Row{10112, "Rear output level", "", "000..100/1%3", title, byIndex, 3},
         Row{10113, "TX bandpass filter", "Hz", bandpassFilters, index, byIndex, 1},
         Row{10114, "Modulation source", "", "MIC|USB|REAR|AUTO", index, byIndex, 1},
-        Row{10115, "USB modulation gain", "", "000..100/1%3", title, byIndex, 3},
-        Row{10116, "Rear modulation gain", "", "000..100/1%3", title, byIndex, 3},
+        Row{10115, "USB modulation gain", "", "000..100/1%3", title, byIndex, 3, 50},
+        Row{10116, "Rear modulation gain", "", "000..100/1%3", title, byIndex, 3, 50},
         Row{10117, "PTT line", "", "OFF|RTS|DTR|DAKY", index, byIndex, 1},
         Row{10118, "Narrow width", "Hz", ssbNarrowWidths, twoDigits, byIndex, 2},
         Row{10119, "CW auto mode", "", "OFF|50 MHz|ON", index, byIndex, 1},
@@ -144,12 +156,12 @@ inline constexpr std::array menuItems = [] {
         Row{10208, "Low cut slope", "", "6 dB/oct|18 dB/oct", index, byIndex, 1},
         Row{10209, "High cut frequency", "Hz", highCutFrequencies, twoDigits, byIndex, 2},
         Row{10210, "High cut slope", "", "6 dB/oct|18 dB/oct", index, byIndex, 1},
-        Row{10211, "USB output level", "", "000..100/1%3", title, byIndex, 3},
-        Row{10212, "Rear output level", "", "000..100/1%3", title, byIndex, 3},
+        Row{10211, "USB output level", "", "000..100/1%3", title, byIndex, 3, 50},
+        Row{10212, "Rear output level", "", "000..100/1%3", title, byIndex, 3, 50},
         Row{10213, "TX bandpass filter", "Hz", bandpassFilters, index, byIndex, 1},
         Row{10214, "Modulation source", "", "MIC|USB|REAR|AUTO", index, byIndex, 1},
-        Row{10215, "USB modulation gain", "", "000..100/1%3", title, byIndex, 3},
-        Row{10216, "Rear modulation gain", "", "000..100/1%3", title, byIndex, 3},
+        Row{10215, "USB modulation gain", "", "000..100/1%3", title, byIndex, 3, 50},
+        Row{10216, "Rear modulation gain", "", "000..100/1%3", title, byIndex, 3, 50},
         Row{10217, "PTT line", "", "OFF|RTS|DTR|DAKY", index, byIndex, 1},
         // FM
         Row{10301, "AF treble gain", "dB", "-20..+10/1%+2", title, byTitle, 3},
@@ -163,14 +175,14 @@ inline constexpr std::array menuItems = [] {
         Row{10309, "High cut frequency", "Hz", highCutFrequencies, twoDigits, byIndex, 2},
         Row{10310, "High cut slope", "", "6 dB/oct|18 dB/oct", index, byIndex, 1},
         Row{10311, "USB output level", "", "000..100/1%3", title, byIndex, 3},
-        Row{10312, "Rear output level", "", "000..100/1%3", title, byIndex, 3},
+        Row{10312, "Rear output level", "", "000..100/1%3", title, byIndex, 3, 50},
         Row{10313, "Modulation source", "", "MIC|USB|REAR|AUTO", index, byIndex, 1},
-        Row{10314, "USB modulation gain", "", "000..100/1%3", title, byIndex, 3},
-        Row{10315, "Rear modulation gain", "", "000..100/1%3", title, byIndex, 3},
+        Row{10314, "USB modulation gain", "", "000..100/1%3", title, byIndex, 3, 50},
+        Row{10315, "Rear modulation gain", "", "000..100/1%3", title, byIndex, 3, 50},
         Row{10316, "PTT line", "", "OFF|RTS|DTR|DAKY", index, byIndex, 1},
         Row{10317, "Repeater shift", "", "minus|SIMPLEX|plus", index, byIndex, 1},
-        Row{10318, "Repeater shift 28 MHz", "kHz", "0000..1000/10%4", title, byTitle, 4},
-        Row{10319, "Repeater shift 50 MHz", "kHz", "0000..4000/10%4", title, byTitle, 4},
+        Row{10318, "Repeater shift 28 MHz", "kHz", "0000..1000/10%4", title, byTitle, 4, 10},
+        Row{10319, "Repeater shift 50 MHz", "kHz", "0000..4000/10%4", title, byTitle, 4, 50},
         Row{10320, "Tone encoder and decoder", "", "OFF|Encode|Tone squelch", index, byIndex, 1},
         Row{10321, "Tone frequency", "Hz", toneFrequencies, threeDigits, byIndex, 3},
         // PSK and data
@@ -185,15 +197,15 @@ inline constexpr std::array menuItems = [] {
         Row{10409, "High cut frequency", "Hz", highCutFrequencies, twoDigits, byIndex, 2},
         Row{10410, "High cut slope", "", "6 dB/oct|18 dB/oct", index, byIndex, 1},
         Row{10411, "USB output level", "", "000..100/1%3", title, byTitle, 3},
-        Row{10412, "Rear output level", "", "000..100/1%3", title, byTitle, 3},
+        Row{10412, "Rear output level", "", "000..100/1%3", title, byTitle, 3, 50},
         Row{10413, "TX bandpass filter", "Hz", bandpassFilters, index, byIndex, 1},
         Row{10414, "Modulation source", "", "MIC|USB|REAR|AUTO", index, byIndex, 1},
-        Row{10415, "USB modulation gain", "", "000..100/1%3", title, byTitle, 3},
-        Row{10416, "Rear modulation gain", "", "000..100/1%3", title, byTitle, 3},
+        Row{10415, "USB modulation gain", "", "000..100/1%3", title, byTitle, 3, 50},
+        Row{10416, "Rear modulation gain", "", "000..100/1%3", title, byTitle, 3, 50},
         Row{10417, "PTT line", "", "OFF|RTS|DTR|DAKY", index, byIndex, 1},
         Row{10418, "Narrow width", "Hz", narrowWidths, twoDigits, byIndex, 2},
         Row{10419, "PSK tone", "Hz", "1000|1500|2000", index, byIndex, 1},
-        Row{10420, "Data shift in SSB", "Hz", "0000..3000/10%4", title, byTitle, 4},
+        Row{10420, "Data shift in SSB", "Hz", "0000..3000/10%4", title, byTitle, 4, 150},
         // RTTY
         Row{10501, "AF treble gain", "dB", "-20..+10/1%+2", title, byTitle, 3},
         Row{10502, "AF middle tone gain", "dB", "-20..+10/1%+2", title, byTitle, 3},
@@ -206,7 +218,7 @@ inline constexpr std::array menuItems = [] {
         Row{10509, "High cut frequency", "Hz", highCutFrequencies, twoDigits, byIndex, 2},
         Row{10510, "High cut slope", "", "6 dB/oct|18 dB/oct", index, byIndex, 1},
         Row{10511, "USB output level", "", "000..100/1%3", title, byIndex, 3},
-        Row{10512, "Rear output level", "", "000..100/1%3", title, byIndex, 3},
+        Row{10512, "Rear output level", "", "000..100/1%3", title, byIndex, 3, 50},
         Row{10513, "PTT line", "", "OFF|RTS|DTR|DAKY", index, byIndex, 1},
         Row{10514, "Narrow width", "Hz", narrowWidths, twoDigits, byIndex, 2},
         Row{10515, "Mark frequency", "Hz", "-|1275|2125", index, byIndex, 1},
@@ -217,7 +229,7 @@ inline constexpr std::array menuItems = [] {
         Row{10602, "Decoder AFC range", "Hz", "8|15|30", index, notRead, 0},
         Row{10603, "QPSK polarity RX", "", "Normal|Reverse", index, notRead, 0},
         Row{10604, "QPSK polarity TX", "", "Normal|Reverse", index, notRead, 0},
-        Row{10605, "PSK TX level", "", "000..100/1%3", title, notRead, 0},
+        Row{10605, "PSK TX level", "", "000..100/1%3", title, notRead, 0, 70},
         // RTTY encoder and decoder
         Row{10701, "RX USOS", "", "Disable|Enable", index, notRead, 0},
         Row{10702, "TX USOS", "", "Disable|Enable", index, notRead, 0},
@@ -237,7 +249,7 @@ inline constexpr std::array menuItems = [] {
         Row{20109, "High cut frequency", "Hz", highCutFrequencies, twoDigits, byIndex, 2},
         Row{20110, "High cut slope", "", "6 dB/oct|18 dB/oct", index, byIndex, 1},
         Row{20111, "USB output level", "", "000..100/1%3", title, byIndex, 3},
-        Row{20112, "Rear output level", "", "000..100/1%3", title, byIndex, 3},
+        Row{20112, "Rear output level", "", "000..100/1%3", title, byIndex, 3, 50},
         Row{20113, "PTT line", "", "OFF|RTS|DTR|DAKY", index, byIndex, 1},
         Row{20114, "Narrow width", "Hz", narrowWidths, twoDigits, byIndex, 2},
         Row{20115, "PC keying", "", "OFF|RTS|DTR|DAKY", index, byIndex, 1},
@@ -251,18 +263,18 @@ inline constexpr std::array menuItems = [] {
         Row{20202, "Dot and dash", "", "Normal|Reverse", index, byIndex, 1},
         Row{20203, "Weight", "", keyerWeights, twoDigits, byIndex, 2},
         Row{20204, "Number style", "", "1290|AUNO|AUNT|A2NO|A2NT|12NO|12NT", index, byIndex, 1},
-        Row{20205, "Contest number", "", "0001..9999/1%4", title, byTitle, 4},
+        Row{20205, "Contest number", "", "0001..9999/1%4", title, byTitle, 4, 1},
         Row{20206, "CW memory 1", "", "Text|Message", index, byIndex, 1},
         Row{20207, "CW memory 2", "", "Text|Message", index, byIndex, 1},
         Row{20208, "CW memory 3", "", "Text|Message", index, byIndex, 1},
         Row{20209, "CW memory 4", "", "Text|Message", index, byIndex, 1},
         Row{20210, "CW memory 5", "", "Text|Message", index, byIndex, 1},
-        Row{20211, "Repeat interval", "s", "01..60/1%2", title, byTitle, 2},
+        Row{20211, "Repeat interval", "s", "01..60/1%2", title, byTitle, 2, 5},
         Row{20212, "Keyer item 12", "", "01..60/1%2", title, notRead, 0},
         // CW decoder
         Row{20301, "Decoder bandwidth", "Hz", "25|50|100|250", shown, byIndex, 1},
         // General
-        Row{30101, "Beep level", "", "000..100/1%3", title, byTitle, 3},
+        Row{30101, "Beep level", "", "000..100/1%3", title, byTitle, 3, 20},
         Row{30102, "RF/SQL knob", "", "RF|SQL|SQL in FM only", index, byIndex, 1},
         Row{30103, "Tuner and linear port", "", "External tuner|Linear|CAT-3|GPO", index, byIndex, 1},
         Row{30104, "Tuner type", "", "Internal|Internal (fast)|External|Active antenna", index, byIndex, 1},
@@ -316,10 +328,10 @@ inline constexpr std::array menuItems = [] {
         Row{30318, "Processor EQ 3 level", "dB", "-20..+10/1%+2", title, byTitle, 3},
         Row{30319, "Processor EQ 3 bandwidth", "", "00..10/1%2", title, byTitle, 2},
         // TX general
-        Row{30401, "HF maximum power", "W", "005..100/1%3", title, byTitle, 3},
-        Row{30402, "50 MHz maximum power", "W", "005..100/1%3", title, byTitle, 3},
-        Row{30403, "70 MHz maximum power", "W", "005..050/1%3", title, byTitle, 3},
-        Row{30404, "AM maximum power", "W", "005..025/1%3", title, byTitle, 3},
+        Row{30401, "HF maximum power", "W", "005..100/1%3", title, byTitle, 3, 100},
+        Row{30402, "50 MHz maximum power", "W", "005..100/1%3", title, byTitle, 3, 100},
+        Row{30403, "70 MHz maximum power", "W", "005..050/1%3", title, byTitle, 3, 50},
+        Row{30404, "AM maximum power", "W", "005..025/1%3", title, byTitle, 3, 25},
         Row{30405, "VOX source", "", "MIC|USB|REAR", index, byIndex, 1},
         Row{30406, "Emergency frequency TX", "", "OFF|ON", index, byIndex, 1},
         Row{30407, "TX inhibit", "", "OFF|ON", index, byIndex, 1},
@@ -337,8 +349,8 @@ inline constexpr std::array menuItems = [] {
         Row{40102, "My call time", "s", "OFF|1|2|3|4|5", index, byIndex, 1},
         Row{40103, "Pop-up time", "", "Fast|Mid|Slow", index, byIndex, 1},
         Row{40104, "Screen saver", "min", "OFF|15|30|60", index, byIndex, 1},
-        Row{40105, "LED dimmer", "", "00..20/1%2", title, byTitle, 2},
-        Row{40106, "Mouse pointer speed", "", "00..20/1%2", title, byTitle, 2},
+        Row{40105, "LED dimmer", "", "00..20/1%2", title, byTitle, 2, 20},
+        Row{40106, "Mouse pointer speed", "", "00..20/1%2", title, byTitle, 2, 10},
         // Scope
         Row{40201, "Resolution bandwidth", "", "High|Mid|Low", index, byIndex, 1},
         Row{40202, "Scope center", "", "Filter|Carrier point", index, byIndex, 1},
@@ -371,6 +383,21 @@ static_assert(std::ranges::all_of(menuItems,
                                              (row.width == 3 || row.write != MenuWrite::threeDigits);
                                   }),
               "what is written is as wide as what is read");
+static_assert(std::ranges::all_of(menuItems,
+                                  [](const MenuItemRow& row) {
+                                      return std::ranges::find(menuSubMenus, row.subMenu(), &MenuSubMenu::number) !=
+                                             menuSubMenus.end();
+                                  }),
+              "every item has a place on a page");
+static_assert(std::ranges::count_if(menuItems, &MenuItemRow::hasDefault) == 27);
+static_assert(std::ranges::all_of(menuItems,
+                                  [](const MenuItemRow& row) {
+                                      const auto run = numberRun(row.entries);
+                                      return !row.hasDefault() ||
+                                             (run && run->first % run->step == 0 && run->has(row.defaultNumber) &&
+                                              run->has(row.defaultNumber * run->step));
+                                  }),
+              "the default is an index and a number of the run");
 
 // The item of a number, or null: 10203.
 constexpr const MenuItemRow* menuItem(int number) {

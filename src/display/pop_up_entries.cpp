@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include "wire/operating_modes.h"
+
 namespace corvane {
 
 namespace {
@@ -11,6 +13,11 @@ std::vector<std::string> numbered(std::vector<std::string> first, int from, int 
                                   std::string_view after = {}) {
     for (int number = from; number <= to; ++number)
         first.push_back(std::string(before).append(std::to_string(number)).append(after));
+    return first;
+}
+
+std::vector<std::string> withModes(std::vector<std::string> first) {
+    for (const OperatingMode& mode : operatingModes) first.emplace_back(mode.name);
     return first;
 }
 
@@ -26,6 +33,8 @@ std::vector<std::string> entryList(std::string_view entries) {
     return list;
 }
 
+std::vector<std::string> modeEntries() { return withModes({}); }
+std::vector<std::string> memoryModeEntries() { return withModes({"\u2013"}); }
 std::vector<std::string> noiseReductionEntries() { return numbered({"OFF"}, 1, 15, ""); }
 std::vector<std::string> noiseBlankerEntries() { return numbered({"OFF"}, 1, 10, ""); }
 std::vector<std::string> scopeColorEntries() { return numbered({}, 1, 11, "Color "); }

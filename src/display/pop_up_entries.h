@@ -10,6 +10,8 @@ namespace corvane {
 // "OFF|FAST|MID" gives three entries; empty text gives none.
 std::vector<std::string> entryList(std::string_view entries);
 
+std::vector<std::string> modeEntries();            // the modes in the order of their codes, "1" to "F"
+std::vector<std::string> memoryModeEntries();      // the same after an entry for no mode: entry 11 stands for "B"
 std::vector<std::string> noiseReductionEntries();  // "OFF", "1" to "15"
 std::vector<std::string> noiseBlankerEntries();    // "OFF", "1" to "10"
 std::vector<std::string> scopeColorEntries();      // "Color 1" to "Color 11"
@@ -17,11 +19,6 @@ std::vector<std::string> scopeLevelEntries();      // "-30.0", "-29.5" ... "+00.
 std::vector<std::string> powerOffEntries();        // "OFF", "0.5 h", "1 h" ... "12 h"
 std::vector<std::string> powerEntries();           // "5w" to "100w"
 
-inline constexpr std::string_view modeEntries =  // in the order of the mode codes "1" to "F"
-    "LSB|USB|CW-U|FM|AM|RTTY-L|CW-L|DATA-L|RTTY-U|DATA-FM|FM-N|DATA-U|AM-N|PSK|DATA-FM-N";
-inline constexpr std::string_view memoryModeEntries =  // the same after an entry for no mode: entry 11 stands for "B"
-    "\u2013|LSB|USB|CW-U|FM|AM|RTTY-L|CW-L|DATA-L|RTTY-U|DATA-FM|FM-N|DATA-U|AM-N|PSK|DATA-FM-N";
-static_assert(memoryModeEntries.ends_with(modeEntries));
 inline constexpr std::string_view agcEntries = "OFF|FAST|MID|SLOW|AUTO";
 inline constexpr std::string_view attenuatorEntries = "OFF|6 dB|12 dB|18 dB";
 inline constexpr std::string_view preAmplifierEntries = "IPO|AMP 1|AMP 2";

@@ -4,43 +4,47 @@
 #include <array>
 
 #include "feeds/single_precision.h"
+#include "wire/operating_modes.h"
 #include "wire/wire_text.h"
 
 namespace corvane {
 
 namespace {
 
-constexpr long long lowestUpperSideBand = 10'000'000;  // hertz
 constexpr std::string_view scopeMode = "SS0640000;";
+constexpr char lsb = voiceSideBands.lower;
+constexpr char usb = voiceSideBands.upper;
 
 struct ModeRow {
     ModeWords words;
     std::string_view mode;
-    std::string_view below;  // 10 MHz
-    std::string_view above;
+    SideBands sideBands;
+    bool setsKnob = true;  // the function knob goes with the mode
 };
 
 constexpr std::array modeRows{
-    ModeRow{ModeWords::spots, "SSB", "MD01;SF1E;", "MD02;SF1E;"},
-    ModeRow{ModeWords::spots, "CW", "MD07;SF1H;", "MD03;SF1H;"},
-    ModeRow{ModeWords::spots, "FT8", "MD02;SF1E;", "MD02;SF1E;"},
-    ModeRow{ModeWords::spots, "FT4", "MD02;SF1E;", "MD02;SF1E;"},
-    ModeRow{ModeWords::nets, "LSB", "MD01;", "MD01;"},
-    ModeRow{ModeWords::nets, "USB", "MD02;", "MD02;"},
-    ModeRow{ModeWords::nets, "CW", "MD07;SF1H;", "MD03;SF1H;"},
-    ModeRow{ModeWords::nets, "FT8", "MD02;SF1E;", "MD02;SF1E;"},
-    ModeRow{ModeWords::nets, "FT4", "MD02;SF1E;", "MD02;SF1E;"},
+    ModeRow{ModeWords::spots, "SSB", voiceSideBands},   ModeRow{ModeWords::spots, "CW", cwSideBands},
+    ModeRow{ModeWords::spots, "FT8", {usb, usb}},       ModeRow{ModeWords::spots, "FT4", {usb, usb}},
+    ModeRow{ModeWords::nets, "LSB", {lsb, lsb}, false}, ModeRow{ModeWords::nets, "USB", {usb, usb}, false},
+    ModeRow{ModeWords::nets, "CW", cwSideBands},        ModeRow{ModeWords::nets, "FT8", {usb, usb}},
+    ModeRow{ModeWords::nets, "FT4", {usb, usb}},
 };
+
+std::string modeCommands(const ModeRow& row, long long hertz) {
+    const char code = row.sideBands.usual(hertz);
+    std::string command = std::string("MD0") + code + ';';
+    return row.setsKnob ? command.append(functionKnobSetting(code)) : command;
+}
 
 }  // namespace
 
 std::string tuneCommandForSpot(long long hertz, std::string_view mode, ModeWords words, std::string_view vfo) {
-    const bool upper = hertz >= lowestUpperSideBand;
+    const bool eightDigits = hertz >= 10'000'000;
     const auto row =
         std::ranges::find_if(modeRows, [&](const ModeRow& each) { return each.words == words && each.mode == mode; });
     std::string command;
-    if (row != modeRows.end()) command = upper ? row->above : row->below;
-    command.append("F").append(vfo).append(upper ? "0" : "00").append(std::to_string(hertz)).append(";");
+    if (row != modeRows.end()) command = modeCommands(*row, hertz);
+    command.append("F").append(vfo).append(eightDigits ? "0" : "00").append(std::to_string(hertz)).append(";");
     return command.append(scopeMode);
 }
 

@@ -5,7 +5,7 @@
 namespace corvane {
 
 MenuGroupRead::MenuGroupRead(const MenuGroup& group, unsigned number)
-    : page_(group.firstSubMenu / 100 - 1), number_(number), stopped_(false) {
+    : page_(group.page), number_(number), stopped_(false) {
     for (std::size_t i = 0; i < menuItems.size(); ++i)
         if (menuItems[i].page() == page_ && isAskedFor(menuItems[i].number)) waiting_.set(i);
     asked_ = static_cast<int>(waiting_.count());

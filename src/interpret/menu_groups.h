@@ -1,48 +1,54 @@
-// The transceiver's setup menu by groups: which items a read of a group asks for.
+// The groups of the transceiver's setup menu: which items a read of one asks for.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
 
+#include "display/menu_items.h"
+
 namespace corvane {
 
-struct SubMenu {
-    int number;  // group and sub-menu, e.g. 0106 as 106
-    int items;   // items 01 to this one
-    int firstNotAsked = 0;
-    int lastNotAsked = 0;
-};
+// A read asks for every item but these.
+inline constexpr std::array menuItemsNotAskedFor{10517, 20212, 20301, 30108, 30109, 30110, 30205, 30206, 30408};
+static_assert(std::ranges::is_sorted(menuItemsNotAskedFor), "found by binary search");
+static_assert(std::ranges::all_of(menuItemsNotAskedFor, [](int item) { return menuItem(item) != nullptr; }));
 
-inline constexpr std::array subMenus{
-    SubMenu{101, 19}, SubMenu{102, 17}, SubMenu{103, 21}, SubMenu{104, 20},        SubMenu{105, 16}, SubMenu{106, 5},
-    SubMenu{107, 6},  SubMenu{201, 20}, SubMenu{202, 11}, SubMenu{301, 26, 8, 10}, SubMenu{302, 4},  SubMenu{303, 19},
-    SubMenu{304, 7},  SubMenu{305, 7},  SubMenu{401, 6},  SubMenu{402, 4},         SubMenu{403, 4},  SubMenu{404, 2},
-};
+// Whether the read of its group asks for an item: 30107 is asked for, 30108 is not, nor is what is no item.
+constexpr bool isAskedFor(int item) {
+    return menuItem(item) && !std::ranges::binary_search(menuItemsNotAskedFor, item);
+}
 
 // What the key that reads a group sends: `before`, then the requests of its sub-menus in order, then `after`. The last
 // of these goes out with the tail that every key has, and where `lastTwice` says so also once before.
 struct MenuGroup {
-    int keyTag;
+    int page;  // of the settings tab
     std::string_view before;
-    int firstSubMenu;
-    int lastSubMenu;
     std::string_view after;
     bool lastTwice;
+
+    constexpr int firstSubMenu() const { return std::ranges::find(menuSubMenus, page, &MenuSubMenu::page)->number; }
+    // The last of which an item is asked for.
+    constexpr int lastSubMenu() const {
+        int last = 0;
+        for (const MenuItemRow& row : menuItems)
+            if (row.page() == page && isAskedFor(row.number)) last = row.subMenu();
+        return last;
+    }
+    constexpr int keyTag() const { return menuTagBase + firstSubMenu() * 100; }  // 2010100 for page 0
 };
 
 inline constexpr std::array menuGroups{
-    MenuGroup{2010100, "AI0;", 101, 107, "AI1;", false},
-    MenuGroup{2020100, "", 201, 202, "", true},
-    MenuGroup{2030100, "", 301, 305, "", false},
-    MenuGroup{2040100, "", 401, 404, "", true},
+    MenuGroup{0, "AI0;", "AI1;", false},
+    MenuGroup{1, "", "", true},
+    MenuGroup{2, "", "", false},
+    MenuGroup{3, "", "", true},
 };
+static_assert(menuGroups.back().page == menuSubMenus.back().page());
 
 // The read requests of a sub-menu back to back: 106 gives "EX010601;EX010602;EX010603;EX010604;EX010605;". A number
 // that is not in the table gives none.
 std::string subMenuRequest(int number);
-
-// Whether the read of its group asks for an item: 30107 is asked for, 30108 is not.
-bool isAskedFor(int item);
 
 }  // namespace corvane

@@ -76,14 +76,14 @@ public:
     void takeSwitch(std::string_view response);                // "BC01", "CO000001", "BP00001", "BI1"
     void setMuted(bool muted) { state_.vqMuted = muted ? 1 : 0; }
     // Makes memory 5 of this mode group the text that is put back into it after a typed text was sent.
-    void rememberScratchMemory(std::size_t group);
+    void rememberScratchMemory(const ModeGroup& group);
 
 private:
     struct Side;  // the fields and controls of VFO A or B
     Side side(char vfo);
     void takeFrequency(std::string_view response, char vfo);
     void takeSideInformation(std::string_view response, char vfo);
-    void takeMemoryText(std::size_t group, int memory, std::string_view text);
+    void takeMemoryText(const ModeGroup& group, int memory, std::string_view text);
 
     Display& display_;
     Link& link_;

@@ -128,28 +128,29 @@ void Mirror::takeSpectrumMode(std::string_view response) {
 }
 
 void Mirror::takeKeyerMemory(std::string_view response) {
-    takeMemoryText(cwGroup, decimalOrZero(positions(response, 3, 1)), trimmed(positions(response, 4, response.size())));
+    takeMemoryText(*cwGroup, decimalOrZero(positions(response, 3, 1)),
+                   trimmed(positions(response, 4, response.size())));
 }
 
 void Mirror::takeTextMemory(std::string_view response) {
     const int bank = decimalOrZero(positions(response, 3, 1));
     const std::string_view text = utf8Prefix(positions(response, 5, response.size()), textMemoryLength);
-    takeMemoryText(bank == 1 ? pskGroup : rttyGroup, decimalOrZero(positions(response, 4, 1)), trimmed(text));
+    takeMemoryText(bank == 1 ? *pskGroup : *rttyGroup, decimalOrZero(positions(response, 4, 1)), trimmed(text));
 }
 
-void Mirror::takeMemoryText(std::size_t group, int memory, std::string_view text) {
+void Mirror::takeMemoryText(const ModeGroup& group, int memory, std::string_view text) {
     if (memory < 1 || memory > Display::memories) return;
-    const std::array families{&display_.cwMemoryButtons, &display_.rttyMemoryButtons, &display_.pskMemoryButtons};
+    const std::array buttons{&display_.cwMemoryButtons, &display_.rttyMemoryButtons, &display_.pskMemoryButtons};
     const auto index = static_cast<std::size_t>(memory);
     state_.vqTextMemoryArray[index] = text;
-    state_.groupMemories[group][index - 1] = text;
+    state_.groupMemories[groupIndex(group)][index - 1] = text;
     display_.textMemoryButtons[index - 1]->setTitle(text);
-    (*families[group])[index - 1].setTitle(text);
+    (*buttons[groupIndex(group)])[index - 1].setTitle(text);
     if (memory == Display::memories) state_.vqTextMemoryRevert = text;
 }
 
-void Mirror::rememberScratchMemory(std::size_t group) {
-    state_.vqTextMemoryRevert = state_.groupMemories[group].back();
+void Mirror::rememberScratchMemory(const ModeGroup& group) {
+    state_.vqTextMemoryRevert = state_.groupMemories[groupIndex(group)].back();
 }
 
 void Mirror::takeSwitchedOff(std::string_view) {

@@ -4,12 +4,9 @@
 #include <array>
 #include <string>
 
-namespace corvane {
+#include "wire/operating_modes.h"
 
-// The mode groups by their place in modeGroups.
-inline constexpr std::size_t cwGroup = 0;
-inline constexpr std::size_t rttyGroup = 1;
-inline constexpr std::size_t pskGroup = 2;
+namespace corvane {
 
 struct RadioState {
     std::string vqFreqA;            // VFO A in hertz, nine digits, e.g. "014250000"; empty before the first report
@@ -32,7 +29,7 @@ struct RadioState {
     int vqSignal = 0;               // the last six digits of the last meter report: meter reading times 1000
     std::array<std::string, 6> vqTextMemoryArray;  // keyer and text memories as last reported; 1 to 5 are used
     std::string vqTextMemoryRevert;                // memory 5 of whichever mode group was reported last
-    std::array<std::array<std::string, 5>, 3> groupMemories;  // the same texts by mode group: CW, RTTY, PSK
+    std::array<std::array<std::string, 5>, modeGroups.size()> groupMemories;  // the same texts by mode group
 };
 
 }  // namespace corvane

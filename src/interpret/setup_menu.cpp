@@ -3,7 +3,6 @@
 #include "interpret/menu_groups.h"
 #include "interpret/menu_values.h"
 #include "interpret/menu_writes.h"
-#include "interpret/numeric_pop_ups.h"
 #include "wire/wire_text.h"
 
 namespace corvane {
@@ -30,10 +29,13 @@ void SetupMenu::fillMenuPopUp(int first, int last, int step, int tag, int digits
 
 void SetupMenu::fillMenuPopUps() {
     const bool again = filled_;
-    for (const NumericPopUp& row : numericPopUps) {
-        PopUpButton* popUp = display_.menu.popUp(row.page, row.tag);
+    for (const MenuItemRow& row : menuItems) {
+        if (!row.hasDefault()) continue;
+        const NumberRun numbers = *numberRun(row.entries);
+        PopUpButton* popUp = display_.menu.popUp(row.page(), row.tag());
         const int selected = popUp ? popUp->indexOfSelectedItem() : PopUpButton::noSelection;
-        fillMenuPopUp(row.first, row.last, row.step, row.tag, row.digits, row.page, row.defaultNumber);
+        fillMenuPopUp(numbers.first / numbers.step, numbers.last / numbers.step, numbers.step, row.tag(),
+                      numbers.digits, row.page(), row.defaultNumber);
         if (again && popUp) popUp->selectItem(selected);
     }
     filled_ = true;
@@ -68,9 +70,9 @@ void SetupMenu::takeCallSign(std::string_view value) {
 std::string SetupMenu::readGroup(const MenuGroup& group) {
     startRead(group);
     link_.sendCommand(group.before);
-    for (int subMenu = group.firstSubMenu; subMenu < group.lastSubMenu; ++subMenu)
+    for (int subMenu = group.firstSubMenu(); subMenu < group.lastSubMenu(); ++subMenu)
         link_.sendCommand(subMenuRequest(subMenu));
-    std::string last = subMenuRequest(group.lastSubMenu);
+    std::string last = subMenuRequest(group.lastSubMenu());
     if (!group.after.empty()) {
         link_.sendCommand(last);
         last = group.after;

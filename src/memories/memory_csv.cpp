@@ -47,8 +47,7 @@ constexpr std::array fileColumns{
     FileColumn{"DVCODE", ""},
 };
 constexpr std::string_view lineEnd = "\r\n";
-constexpr std::size_t longestQuoted = 30;        // characters of a field that is named in a reason
-constexpr int lowestUpperSideBand = 10'000'000;  // Hz
+constexpr std::size_t longestQuoted = 30;  // characters of a field that is named in a reason
 
 std::string small(std::string_view text) {
     std::string result(text);
@@ -142,7 +141,7 @@ private:
         auto code = memoryModeCode(mode, header_.field(line, Column::comment));
         if (!code && !mode.empty()) return "the mode " + inQuotes(mode) + " is none of the transceiver's";
         if (!code) {
-            code = decimalOrZero(imported.channel.frequency) < lowestUpperSideBand ? '1' : '2';
+            code = voiceSideBands.usual(decimalOrZero(imported.channel.frequency));
             addNote(imported.note, "no mode: " + std::string(*modeName(*code)) + " is usual there");
         }
         imported.channel.mode = std::string(1, *code);
@@ -168,15 +167,16 @@ std::string memoryCsv(const MemoryTable& channels) {
         const MemoryChannel& channel = channels[row];
         const std::string frequency = isProgrammed(channel) ? shownMemoryFrequency(channel.frequency) : "";
         if (frequency.empty()) continue;
-        const auto* name = memoryModeName(channel.mode.size() == 1 ? channel.mode.front() : ' ');
+        const OperatingMode* mode = operatingMode(channel.mode.size() == 1 ? channel.mode.front() : ' ');
+        const bool named = mode && memoryModeCode(mode->inFile, {}) == mode->code;
         for (std::size_t i = 0; i < fileColumns.size(); ++i) {
             std::string& field = fields[i] = fileColumns[i].usual;
             const auto column = fileColumns[i].read;
             if (column == Column::location) field = std::to_string(row + 1);
             if (column == Column::name) field = trimmed(channel.tag);
             if (column == Column::frequency) field = frequency;
-            if (column == Column::mode) field = name ? name->name : std::string_view{};
-            if (column == Column::comment && name && !name->exact) field = *modeName(name->code);
+            if (column == Column::mode) field = mode ? mode->inFile : std::string_view{};
+            if (column == Column::comment && mode && !named) field = mode->name;
         }
         csv.append(csvLine(fields)).append(lineEnd);
     }

@@ -5,6 +5,7 @@
 
 #include "wire/cat_command.h"
 #include "wire/decimal_number.h"
+#include "wire/operating_modes.h"
 #include "wire/utf8.h"
 #include "wire/wire_text.h"
 
@@ -13,7 +14,6 @@ namespace corvane {
 namespace {
 
 constexpr std::size_t tagLength = 12;
-constexpr std::string_view modeCodes = "123456789ABCDEF";
 
 // What joins the character before it into one that is not ASCII any more: accents, keycaps, variation selectors.
 struct CodePoints {
@@ -58,11 +58,13 @@ std::optional<std::string> memoryModeTyped(std::string_view typed) {
     if (text.empty()) return std::nullopt;
     const char first = text.front();
     const bool sendable = first != ';' && !isControl(first) && isAscii(text.substr(0, 1));
-    return text.find_first_of(modeCodes) != std::string_view::npos && sendable ? std::string(1, first) : "1";
+    const bool namesMode = std::ranges::any_of(text, [](char c) { return operatingMode(c) != nullptr; });
+    return std::string(1, namesMode && sendable ? first : operatingModes.front().code);
 }
 
 std::string memoryModeField(int entry) {
-    return std::string(1, static_cast<char>(entry < 10 ? '0' + entry : 'A' + (entry - 10)));
+    if (entry < 1 || entry > static_cast<int>(operatingModes.size())) return {noModeCode};
+    return {operatingModes[static_cast<std::size_t>(entry) - 1].code};
 }
 
 std::string memoryTag(std::string_view typed) {

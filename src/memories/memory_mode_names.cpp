@@ -8,8 +8,6 @@ namespace corvane {
 
 namespace {
 
-static_assert(std::ranges::equal(memoryModeNames, operatingModes, {}, &MemoryModeName::code, &OperatingMode::code));
-
 bool sameWord(std::string_view left, std::string_view right) {
     const auto capital = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
     return std::ranges::equal(left, right, {}, capital, capital);
@@ -17,20 +15,15 @@ bool sameWord(std::string_view left, std::string_view right) {
 
 }  // namespace
 
-const MemoryModeName* memoryModeName(char code) {
-    const auto row = std::ranges::find(memoryModeNames, code, &MemoryModeName::code);
-    return row == memoryModeNames.end() ? nullptr : &*row;
-}
-
 std::optional<char> memoryModeCode(std::string_view mode, std::string_view comment) {
+    if (mode.empty()) return std::nullopt;
     for (const OperatingMode& own : operatingModes) {
         if (sameWord(own.name, mode)) return own.code;
-        if (sameWord(own.name, comment) && sameWord(memoryModeName(own.code)->name, mode)) return own.code;
+        if (sameWord(own.name, comment) && sameWord(own.inFile, mode)) return own.code;
     }
-    for (const MemoryModeName& row : memoryModeNames)
-        if (row.exact && sameWord(row.name, mode)) return row.code;
-    for (const MemoryModeName& row : otherMemoryModeNames)
-        if (sameWord(row.name, mode)) return row.code;
+    for (const OperatingMode& own : operatingModes)
+        if (std::ranges::any_of(own.fromFile, [&](std::string_view name) { return sameWord(name, mode); }))
+            return own.code;
     return std::nullopt;
 }
 

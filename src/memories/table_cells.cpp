@@ -4,6 +4,7 @@
 #include "memories/memory_commands.h"
 #include "wire/cat_command.h"
 #include "wire/decimal_number.h"
+#include "wire/operating_modes.h"
 #include "wire/tuning_range.h"
 
 namespace corvane {
@@ -19,10 +20,9 @@ std::string shownMemoryFrequency(const std::string& field) {
 }
 
 int memoryModeEntry(std::string_view field) {
-    constexpr std::string_view codes = "0123456789ABCDEF";
     if (field == "10") return 10;
-    const std::size_t entry = field.size() == 1 ? codes.find(field.front()) : std::string_view::npos;
-    return entry == std::string_view::npos ? 0 : static_cast<int>(entry);
+    const OperatingMode* mode = field.size() == 1 ? operatingMode(field.front()) : nullptr;
+    return mode ? static_cast<int>(mode - operatingModes.data()) + 1 : 0;
 }
 
 TableCell memoriesTableCell(const MemoryTable& table, const EntryTitles& modes, int row, int column) {

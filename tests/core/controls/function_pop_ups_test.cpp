@@ -58,6 +58,9 @@ TEST(FunctionPopUps, WhatStandsForNothingRepeatsNoCommand) {
         press(action, PopUpButton::noSelection);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
     EXPECT_EQ(bench.controller.link.cmd(), "KY6;");
+    press(&C::goRFIL, 19);
+    bench.controller.goSuperPopUp(bench.display.scopeLevelPopUpButton);
+    EXPECT_THAT(bench.takeWrites(), ElementsAre("RF0;", "RF0;", "SS04+00.0;")) << "these have a value for it";
 }
 
 TEST(FunctionPopUps, TheFirstColorAsksForNothingAndIsNotShown) {
