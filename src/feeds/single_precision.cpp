@@ -1,6 +1,5 @@
 #include "feeds/single_precision.h"
 
-#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -17,14 +16,6 @@ std::optional<float> singlePrecision(std::string_view text) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc{} || end != text.data() + text.size() || !std::isfinite(number)) return std::nullopt;
     return number;
-}
-
-std::string shortestDecimal(float number) {
-    std::array<char, 64> text{};
-    const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-    std::string decimal(text.data(), error == std::errc{} ? end : text.data());
-    if (decimal.find('.') == std::string::npos) decimal += ".0";
-    return decimal;
 }
 
 std::optional<long long> hertz(std::string_view text, float factor) {

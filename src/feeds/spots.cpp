@@ -6,6 +6,7 @@
 #include "feeds/json_records.h"
 #include "feeds/single_precision.h"
 #include "feeds/spot_time.h"
+#include "wire/decimal_number.h"
 #include "wire/wire_text.h"
 
 namespace corvane {

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "feeds/single_precision.h"
+#include "wire/decimal_number.h"
 #include "wire/wire_text.h"
 
 namespace corvane {

@@ -60,16 +60,12 @@ TEST(SpotTime, IsReadExactly) {
         EXPECT_FALSE(spotTime(text)) << text;
 }
 
-TEST(SinglePrecision, DecidesHowFractionsComeOut) {
+TEST(ListedFrequency, IsCutToHertzInSinglePrecision) {
     EXPECT_EQ(hertz("2.001", 1e6F), 2000999);
     EXPECT_EQ(hertz("2.002", 1e6F), 2002000);
     EXPECT_EQ(hertz("7185.5", 1e3F), 7185500);
     for (const char* text : {"", "nan", "inf", "1e400", "-5", "7.074.5", "14,2", "x", " 7", "1e30"})
         EXPECT_FALSE(hertz(text, 1e6F)) << text;
-    EXPECT_EQ(shortestDecimal(45), "45.0");
-    EXPECT_EQ(shortestDecimal(0), "0.0");
-    EXPECT_EQ(shortestDecimal(-33.8688F), "-33.8688");
-    EXPECT_EQ(shortestDecimal(1e-5F), "0.00001");
 }
 
 std::string potaSpot(std::string_view activator, std::string_view time, std::string_view comments) {
