@@ -5,7 +5,6 @@
 #include <cmath>
 #include <utility>
 
-#include "feeds/single_precision.h"
 #include "wire/decimal_number.h"
 #include "wire/utf8.h"
 
@@ -49,8 +48,7 @@ constexpr char unknownSummit[] = "Summit not recognised";
 
 // Megahertz or, above 70, kilohertz; shown in kilohertz with one decimal: "14.25" gives "14250.0".
 std::string eitherInKilohertz(std::string_view field) {
-    const auto number = singlePrecision(field);
-    if (!number) return {};
+    if (!decimalNumber<float>(field)) return {};
     const double value = shownNumber(field);
     std::string digits = withDecimals(value > 70 ? value / 1000 : value, 4);
     std::erase(digits, '.');

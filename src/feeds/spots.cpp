@@ -4,7 +4,6 @@
 #include <cctype>
 
 #include "feeds/json_records.h"
-#include "feeds/single_precision.h"
 #include "feeds/spot_time.h"
 #include "wire/decimal_number.h"
 #include "wire/wire_text.h"
@@ -94,7 +93,7 @@ std::optional<FeedRow> potaRow(const potaCalls& spot, Instant now) {
 }
 
 std::optional<FeedRow> sotaRow(const sotaCalls& spot, Instant now) {
-    const float megahertz = singlePrecision(spot.frequency).value_or(0);
+    const float megahertz = decimalNumber<float>(spot.frequency).value_or(0);
     // Compared before it is cut: what no integer holds is no frequency either.
     if (!(megahertz >= lowestSotaMegahertz && megahertz < highestSotaMegahertz + 1)) return std::nullopt;
     const auto timePieces = pieces(spot.timeStamp, '.');

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "feeds/single_precision.h"
 #include "wire/decimal_number.h"
 #include "wire/wire_text.h"
 
@@ -53,7 +52,7 @@ std::string tuneCommandForStation(long long hertz, std::string_view vfo) {
 std::string tuneCommandForNetLogger(std::string_view frequency, std::string_view vfo) {
     constexpr float highestMegahertz = 70.0F;
     constexpr float lowestUpperMegahertz = 10.0F;  // itself still in the lower side band
-    float megahertz = singlePrecision(frequency).value_or(0);
+    float megahertz = decimalNumber<float>(frequency).value_or(0);
     if (megahertz > highestMegahertz) megahertz /= 1000.0F;
     std::string digits = without(shortestDecimal(megahertz), ".");
     const bool lower = megahertz <= lowestUpperMegahertz;
