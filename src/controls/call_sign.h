@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-namespace corvane {
+#include "wire/letter_case.h"
 
-std::string upperCase(std::string_view text);  // ASCII letters; every other byte stays
+namespace corvane {
 
 // What stores a call sign: in upper case, without white space at its ends, in exactly twelve characters: " n0call "
 // gives "EX040101N0CALL      ;".

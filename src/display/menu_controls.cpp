@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "wire/letter_case.h"
+
 namespace corvane {
 
 namespace {
@@ -18,13 +20,6 @@ constexpr std::array<Outlet, MenuControls::pages> readProgressOutlets{{
     {"operationMenuReadProgress", 0, "", "Reading the operation menu", "How much of the operation menu has been read."},
     {"displayMenuReadProgress", 0, "", "Reading the display menu", "How much of the display menu has been read."},
 }};
-
-char lowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-std::string lowerCase(std::string text) {
-    for (char& c : text) c = lowerCase(c);
-    return text;
-}
 
 }  // namespace
 
@@ -63,8 +58,8 @@ std::string_view menuSubMenuTitle(int subMenu) {
 }
 
 bool menuItemMatches(const MenuItemRow& row, std::string_view search) {
-    const std::string text = lowerCase(menuItemLabel(row) + ' ' + menuItemPlace(row));
-    std::string words = lowerCase(std::string(search)) + ' ';
+    const std::string text = upperCase(menuItemLabel(row) + ' ' + menuItemPlace(row));
+    std::string words = upperCase(search) + ' ';
     for (std::size_t end = words.find(' '); end != std::string::npos; end = words.find(' ')) {
         if (text.find(words.substr(0, end)) == std::string::npos) return false;
         words.erase(0, end + 1);

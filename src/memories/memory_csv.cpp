@@ -9,6 +9,7 @@
 #include "memories/memory_entry.h"
 #include "memories/memory_mode_names.h"
 #include "memories/table_cells.h"
+#include "wire/letter_case.h"
 #include "wire/operating_modes.h"
 #include "wire/utf8.h"
 #include "wire/wire_text.h"
@@ -50,13 +51,6 @@ constexpr std::string_view lineEnd = "\r\n";
 constexpr std::size_t longestQuoted = 30;        // characters of a field that is named in a reason
 constexpr int lowestUpperSideBand = 10'000'000;  // Hz
 
-std::string small(std::string_view text) {
-    std::string result(text);
-    for (char& c : result)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return result;
-}
-
 std::string inQuotes(std::string_view field) {
     const bool showable = isUtf8(field) && std::ranges::none_of(field, [](char c) { return c >= 0 && c < ' '; });
     return showable ? '"' + std::string(utf8Prefix(field, longestQuoted)) + '"' : std::string("(unreadable)");
@@ -68,8 +62,8 @@ public:
     explicit Header(const CsvLine& titles) {
         for (const FileColumn& column : fileColumns) {
             if (!column.read) continue;
-            const auto title = std::ranges::find(titles.fields, small(column.title),
-                                                 [](const std::string& field) { return small(trimmed(field)); });
+            const auto title = std::ranges::find_if(
+                titles.fields, [&](const std::string& field) { return sameWord(trimmed(field), column.title); });
             positions_[static_cast<std::size_t>(*column.read)] =
                 static_cast<std::size_t>(title - titles.fields.begin());
         }

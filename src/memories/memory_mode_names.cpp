@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "wire/letter_case.h"
 #include "wire/operating_modes.h"
 
 namespace corvane {
@@ -9,11 +10,6 @@ namespace corvane {
 namespace {
 
 static_assert(std::ranges::equal(memoryModeNames, operatingModes, {}, &MemoryModeName::code, &OperatingMode::code));
-
-bool sameWord(std::string_view left, std::string_view right) {
-    const auto capital = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
-    return std::ranges::equal(left, right, {}, capital, capital);
-}
 
 }  // namespace
 
