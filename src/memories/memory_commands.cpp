@@ -8,7 +8,6 @@ namespace corvane {
 namespace {
 
 constexpr std::size_t frequencyDigits = 9;
-constexpr std::size_t tagLength = 12;
 constexpr std::string_view noClarifier = "+000000";
 constexpr std::string_view plainFlags = "10000";
 constexpr std::string_view erase = "000000000+0000001000001-- ERASE -- ;";

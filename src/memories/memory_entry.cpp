@@ -12,7 +12,6 @@ namespace corvane {
 
 namespace {
 
-constexpr std::size_t tagLength = 12;
 constexpr std::string_view modeCodes = "123456789ABCDEF";
 
 // What joins the character before it into one that is not ASCII any more: accents, keycaps, variation selectors.

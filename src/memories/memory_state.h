@@ -3,15 +3,18 @@
 
 #include <array>
 #include <bitset>
+#include <cstddef>
 #include <string>
 
 namespace corvane {
+
+inline constexpr std::size_t tagLength = 12;  // characters; a command has exactly so many
 
 // Row i is channel i + 1.
 struct MemoryChannel {
     std::string frequency = " ";  // nine digits of hertz; any other length is an empty channel
     std::string mode = " ";       // mode code, one character
-    std::string tag = " ";        // up to 12 characters
+    std::string tag = " ";        // up to tagLength characters
 
     bool operator==(const MemoryChannel&) const = default;
 };
