@@ -8,8 +8,6 @@ namespace corvane {
 
 namespace {
 
-constexpr double lowestUpperSideBand = 10.0;
-
 // A number typed with six decimals is a whole number of hertz, which binary fractions may miss by a hair.
 constexpr double hair = 1e-6;  // Hz
 
@@ -20,7 +18,7 @@ TypedFrequency typedFrequency(std::string_view text) {
     const auto megahertz = decimalNumber(trimmed(text));
     if (!megahertz || *megahertz < lowestMegahertz) return {};
     if (*megahertz > highestMegahertz) return {Verdict::tooHigh};
-    return {Verdict::accepted, static_cast<int>(*megahertz * 1'000'000 + hair), *megahertz >= lowestUpperSideBand};
+    return {Verdict::accepted, static_cast<int>(*megahertz * 1'000'000 + hair), isUpperUsual(*megahertz)};
 }
 
 }  // namespace corvane

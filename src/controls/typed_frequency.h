@@ -10,7 +10,7 @@ struct TypedFrequency {
 
     Verdict verdict = Verdict::tooLowOrNoNumber;
     int hertz = 0;               // of an accepted one, cut to whole hertz
-    bool upperSideBand = false;  // the side band that is usual there: upper from 10 MHz on
+    bool upperSideBand = false;  // the side band that is usual there
 
     bool operator==(const TypedFrequency&) const = default;
 };

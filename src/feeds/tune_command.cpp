@@ -4,13 +4,13 @@
 #include <array>
 
 #include "wire/decimal_number.h"
+#include "wire/tuning_range.h"
 #include "wire/wire_text.h"
 
 namespace corvane {
 
 namespace {
 
-constexpr long long lowestUpperSideBand = 10'000'000;  // hertz
 constexpr std::string_view scopeMode = "SS0640000;";
 
 struct ModeRow {
@@ -35,7 +35,7 @@ constexpr std::array modeRows{
 }  // namespace
 
 std::string tuneCommandForSpot(long long hertz, std::string_view mode, ModeWords words, std::string_view vfo) {
-    const bool upper = hertz >= lowestUpperSideBand;
+    const bool upper = isUpperUsual(static_cast<double>(hertz) / 1e6);
     const auto row =
         std::ranges::find_if(modeRows, [&](const ModeRow& each) { return each.words == words && each.mode == mode; });
     std::string command;
@@ -50,12 +50,11 @@ std::string tuneCommandForStation(long long hertz, std::string_view vfo) {
 }
 
 std::string tuneCommandForNetLogger(std::string_view frequency, std::string_view vfo) {
-    constexpr float highestMegahertz = 70.0F;
-    constexpr float lowestUpperMegahertz = 10.0F;  // itself still in the lower side band
+    constexpr float aboveIsKilohertz = 70.0F;
     float megahertz = decimalNumber<float>(frequency).value_or(0);
-    if (megahertz > highestMegahertz) megahertz /= 1000.0F;
+    if (megahertz > aboveIsKilohertz) megahertz /= 1000.0F;
     std::string digits = without(shortestDecimal(megahertz), ".");
-    const bool lower = megahertz <= lowestUpperMegahertz;
+    const bool lower = megahertz <= lowestUpperMegahertz;  // 10 MHz itself, too
     digits.resize(lower ? 7 : 8, '0');
     return std::string(lower ? "MD01;F" : "MD02;F")
         .append(vfo)

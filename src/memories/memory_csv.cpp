@@ -11,6 +11,7 @@
 #include "memories/table_cells.h"
 #include "wire/letter_case.h"
 #include "wire/operating_modes.h"
+#include "wire/tuning_range.h"
 #include "wire/utf8.h"
 #include "wire/wire_text.h"
 
@@ -48,8 +49,7 @@ constexpr std::array fileColumns{
     FileColumn{"DVCODE", ""},
 };
 constexpr std::string_view lineEnd = "\r\n";
-constexpr std::size_t longestQuoted = 30;        // characters of a field that is named in a reason
-constexpr int lowestUpperSideBand = 10'000'000;  // Hz
+constexpr std::size_t longestQuoted = 30;  // characters of a field that is named in a reason
 
 std::string inQuotes(std::string_view field) {
     const bool showable = isUtf8(field) && std::ranges::none_of(field, [](char c) { return c >= 0 && c < ' '; });
@@ -136,7 +136,7 @@ private:
         auto code = memoryModeCode(mode, header_.field(line, Column::comment));
         if (!code && !mode.empty()) return "the mode " + inQuotes(mode) + " is none of the transceiver's";
         if (!code) {
-            code = decimalOrZero(imported.channel.frequency) < lowestUpperSideBand ? '1' : '2';
+            code = isUpperUsual(decimalOrZero(imported.channel.frequency) / 1e6) ? '2' : '1';
             addNote(imported.note, "no mode: " + std::string(*modeName(*code)) + " is usual there");
         }
         imported.channel.mode = std::string(1, *code);

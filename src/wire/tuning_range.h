@@ -1,4 +1,4 @@
-// The frequencies that may be typed, and what is said of others.
+// The frequencies that may be typed, what is said of others, and the side band that goes with one.
 #pragma once
 
 #include <string_view>
@@ -7,6 +7,10 @@ namespace corvane {
 
 inline constexpr double lowestMegahertz = 0.03;
 inline constexpr double highestMegahertz = 75.0;
+
+// The side band that is usual at a frequency: the upper one from 10 MHz on.
+inline constexpr double lowestUpperMegahertz = 10.0;
+constexpr bool isUpperUsual(double megahertz) { return megahertz >= lowestUpperMegahertz; }
 
 struct EntryWarning {
     std::string_view message;
