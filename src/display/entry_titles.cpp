@@ -1,58 +1,45 @@
 #include "display/entry_titles.h"
 
+#include <fmt/core.h>
+
 #include <algorithm>
-#include <charconv>
 
 #include "display/pop_up_entries.h"
+#include "wire/cat_command.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 
 namespace {
 
-// The number that a text begins with, sign included; moves the text behind it.
-std::optional<int> takeNumber(std::string_view& text) {
-    std::string_view digits = text;
-    if (digits.starts_with('+')) digits.remove_prefix(1);
-    int number = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (error != std::errc{}) return std::nullopt;
-    text = digits.substr(static_cast<std::size_t>(end - digits.data()));
+// The number in front of a separator, which must be there; moves the text behind it.
+std::optional<int> numberBefore(std::string_view separator, std::string_view& text) {
+    const std::size_t end = text.find(separator);
+    if (end == std::string_view::npos) return std::nullopt;
+    const auto number = decimal(text.substr(0, end));
+    text.remove_prefix(end + separator.size());
     return number;
 }
 
-bool skip(std::string_view& text, std::string_view what) {
-    if (!text.starts_with(what)) return false;
-    text.remove_prefix(what.size());
-    return true;
-}
-
 std::optional<NumberRun> numberRun(std::string_view text) {
-    const auto first = takeNumber(text);
-    if (!first || !skip(text, "..")) return std::nullopt;
-    const auto last = takeNumber(text);
-    if (!last || !skip(text, "/")) return std::nullopt;
-    const auto step = takeNumber(text);
-    if (!step || *step < 1 || !skip(text, "%")) return std::nullopt;
-    const bool sign = skip(text, "+");
-    const auto digits = takeNumber(text);
-    if (!digits || !text.empty()) return std::nullopt;
-    return NumberRun{*first, *last, *step, *digits, sign};
+    const auto first = numberBefore("..", text);
+    const auto last = numberBefore("/", text);
+    const auto step = numberBefore("%", text);
+    const auto digits = decimal(text);
+    if (!first || !last || !step || *step < 1 || !digits) return std::nullopt;
+    return NumberRun{*first, *last, *step, *digits, text.starts_with('+')};
 }
 
 }  // namespace
 
 std::string NumberRun::at(int index) const {
     const int number = first + index * step;
-    std::string text = std::to_string(number < 0 ? -number : number);
-    if (const auto width = static_cast<std::size_t>(digits); text.size() < width)
-        text.insert(0, width - text.size(), '0');
-    if (sign || number < 0) text.insert(0, 1, number < 0 ? '-' : '+');
-    return text;
+    if (sign) return fmt::format("{:+0{}}", number, digits + 1);
+    return zeroPadded(number, number < 0 ? digits + 1 : digits);
 }
 
 std::optional<int> NumberRun::indexOf(std::string_view title) const {
-    std::string_view rest = title;
-    const auto number = takeNumber(rest);
+    const auto number = decimal(title);
     if (!number || *number < first || *number > last || (*number - first) % step != 0) return std::nullopt;
     const int index = (*number - first) / step;
     if (at(index) != title) return std::nullopt;  // "7" is not "007"

@@ -1,5 +1,7 @@
 #include "feeds/tune_command.h"
 
+#include <fmt/core.h>
+
 #include <algorithm>
 #include <array>
 
@@ -38,31 +40,24 @@ std::string tuneCommandForSpot(long long hertz, std::string_view mode, ModeWords
     const bool upper = isUpperUsual(static_cast<double>(hertz) / 1e6);
     const auto row =
         std::ranges::find_if(modeRows, [&](const ModeRow& each) { return each.words == words && each.mode == mode; });
-    std::string command;
-    if (row != modeRows.end()) command = upper ? row->above : row->below;
-    command.append("F").append(vfo).append(upper ? "0" : "00").append(std::to_string(hertz)).append(";");
-    return command.append(scopeMode);
+    const std::string_view modeCommand = row == modeRows.end() ? "" : upper ? row->above : row->below;
+    return fmt::format("{}F{}{}{};{}", modeCommand, vfo, upper ? "0" : "00", hertz, scopeMode);
 }
 
 std::string tuneCommandForStation(long long hertz, std::string_view vfo) {
     const std::string_view fill = hertz < 1'000'000 ? "000" : "00";
-    return std::string("MD05;F").append(vfo).append(fill).append(std::to_string(hertz)).append(";").append(scopeMode);
+    return fmt::format("MD05;F{}{}{};{}", vfo, fill, hertz, scopeMode);
 }
 
 std::string tuneCommandForNetLogger(std::string_view frequency, std::string_view vfo) {
     constexpr float aboveIsKilohertz = 70.0F;
     float megahertz = decimalNumber<float>(frequency).value_or(0);
     if (megahertz > aboveIsKilohertz) megahertz /= 1000.0F;
-    std::string digits = without(shortestDecimal(megahertz), ".");
-    const bool lower = megahertz <= lowestUpperMegahertz;  // 10 MHz itself, too
-    digits.resize(lower ? 7 : 8, '0');
-    return std::string(lower ? "MD01;F" : "MD02;F")
-        .append(vfo)
-        .append(lower ? "00" : "0")
-        .append(digits)
-        .append(";")
-        .append(scopeMode)
-        .append("SS0560000;");
+    const std::string digits = without(shortestDecimal(megahertz), ".");
+    // Filled up or cut on the right; unlike elsewhere 10 MHz itself has the lower side band.
+    const bool lower = megahertz <= lowestUpperMegahertz;
+    return lower ? fmt::format("MD01;F{}00{:0<7.7};{}SS0560000;", vfo, digits, scopeMode)
+                 : fmt::format("MD02;F{}0{:0<8.8};{}SS0560000;", vfo, digits, scopeMode);
 }
 
 }  // namespace corvane
