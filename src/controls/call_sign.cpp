@@ -1,5 +1,7 @@
 #include "controls/call_sign.h"
 
+#include <fmt/core.h>
+
 #include "wire/wire_text.h"
 
 namespace corvane {
@@ -13,7 +15,7 @@ constexpr std::size_t callSignLength = 12;
 std::string callSignCommand(std::string_view text) {
     std::string call = upperCase(trimmed(text));
     call.resize(callSignLength, ' ');
-    return "EX040101" + call + ';';
+    return fmt::format("EX040101{};", call);
 }
 
 }  // namespace corvane

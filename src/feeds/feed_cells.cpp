@@ -1,5 +1,7 @@
 #include "feeds/feed_cells.h"
 
+#include <fmt/core.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -36,8 +38,8 @@ double shownNumber(std::string_view field) {
 std::string asIs(std::string_view field) { return std::string(field); }
 std::string kilohertz(std::string_view field) { return withDecimals(shownNumber(field), 1); }
 std::string megahertzInKilohertz(std::string_view field) { return withDecimals(shownNumber(field) * 1000, 1); }
-std::string minutes(std::string_view field) { return field.empty() ? std::string() : std::string(field) + " min"; }
-std::string kilowatts(std::string_view field) { return std::string(field) + " kW"; }
+std::string minutes(std::string_view field) { return field.empty() ? std::string() : fmt::format("{} min", field); }
+std::string kilowatts(std::string_view field) { return fmt::format("{} kW", field); }
 
 template <char const* unknown>
 std::string dashFor(std::string_view field) {
@@ -60,11 +62,10 @@ std::string field(const FeedRow& row, std::size_t position) {
 }
 
 std::string spotOnMap(const FeedRow& spot, const ServiceHosts& hosts) {
-    const std::string place = field(spot, 6) + ',' + field(spot, 7);
-    return hosts.map + "/?q=" + place + "&ll=" + place + "&z=5";
+    return fmt::format("{0}/?q={1},{2}&ll={1},{2}&z=5", hosts.map, field(spot, 6), field(spot, 7));
 }
 std::string parkPage(const FeedRow& spot, const ServiceHosts& hosts) {
-    return hosts.potaSite + "/#/park/" + field(spot, 9);
+    return fmt::format("{}/#/park/{}", hosts.potaSite, field(spot, 9));
 }
 std::string ownPage(const FeedRow& row, const ServiceHosts&) { return field(row, 4); }
 

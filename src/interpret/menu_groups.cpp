@@ -1,8 +1,8 @@
 #include "interpret/menu_groups.h"
 
-#include <algorithm>
+#include <fmt/core.h>
 
-#include "wire/cat_command.h"
+#include <algorithm>
 
 namespace corvane {
 
@@ -11,7 +11,7 @@ std::string subMenuRequest(int number) {
     if (subMenu == subMenus.end()) return {};
     std::string request;
     for (int item = 1; item <= subMenu->items; ++item)
-        if (isAskedFor(number * 100 + item)) request += "EX" + zeroPadded(number * 100 + item, 6) + ';';
+        if (isAskedFor(number * 100 + item)) request += fmt::format("EX{:06};", number * 100 + item);
     return request;
 }
 

@@ -1,5 +1,7 @@
 #include "interpret/menu_read_state.h"
 
+#include <fmt/core.h>
+
 #include "interpret/menu_groups.h"
 
 namespace corvane {
@@ -31,10 +33,10 @@ bool MenuReadState::takeRefusal() {
 }
 
 std::string MenuReadState::text() const {
-    const std::string count = std::to_string(asked - static_cast<int>(waiting.count()));
-    if (handled() < asked) return (stopped ? "Read " : "Reading ") + count + " of " + std::to_string(asked) + " items";
-    return count + " items read" +
-           (refused > 0 ? ", " + std::to_string(refused) + " unknown to this transceiver" : std::string{});
+    const int answered = asked - static_cast<int>(waiting.count());
+    if (handled() < asked) return fmt::format("{} {} of {} items", stopped ? "Read" : "Reading", answered, asked);
+    if (refused == 0) return fmt::format("{} items read", answered);
+    return fmt::format("{} items read, {} unknown to this transceiver", answered, refused);
 }
 
 }  // namespace corvane

@@ -1,14 +1,15 @@
 #include "memories/memory_state.h"
 
+#include <fmt/core.h>
+
 #include <algorithm>
 
 #include "memories/memory_commands.h"
-#include "wire/cat_command.h"
 
 namespace corvane {
 
 std::string memoryPopUpTitle(int row, const MemoryChannel& channel) {
-    return "M-" + zeroPadded(row + 1, 2) + ' ' + channel.tag;
+    return fmt::format("M-{:02} {}", row + 1, channel.tag);
 }
 
 MemoryReadProgress memoryReadProgress(const MemoryState& memories) {
@@ -18,12 +19,12 @@ MemoryReadProgress memoryReadProgress(const MemoryState& memories) {
     progress.handled = memories.vqMemReadCnt + memories.vqTagReadCnt;
     if (progress.running) {
         const int asked = std::max(1, tags ? memories.vqTagReadCnt : memories.vqMemReadCnt);
-        progress.text = std::string("Reading ") + (tags ? "tags" : "frequencies") + ", channel " +
-                        std::to_string(asked) + " of " + std::to_string(memoryChannels);
+        progress.text =
+            fmt::format("Reading {}, channel {} of {}", tags ? "tags" : "frequencies", asked, memoryChannels);
     } else {
         const auto programmed = std::ranges::count_if(memories.vqMemArray, isProgrammed);
-        progress.text = "Read: " + std::to_string(programmed) + (programmed == 1 ? " channel" : " channels") +
-                        " programmed, " + std::to_string(memoryChannels - programmed) + " empty";
+        progress.text = fmt::format("Read: {} {} programmed, {} empty", programmed,
+                                    programmed == 1 ? "channel" : "channels", memoryChannels - programmed);
     }
     return progress;
 }
