@@ -1,5 +1,6 @@
 #include "wire/utf8.h"
 
+#include <unigbrk.h>
 #include <unistr.h>
 
 namespace corvane {
@@ -17,6 +18,12 @@ std::string_view utf8Prefix(std::string_view text, std::size_t count) {
     for (ucs4_t character = 0; count > 0 && !rest.empty(); --count)
         rest.remove_prefix(static_cast<std::size_t>(u8_mbtouc(&character, octets(rest), rest.size())));
     return text.substr(0, text.size() - rest.size());
+}
+
+std::string_view firstSign(std::string_view text) {
+    const std::uint8_t* begin = octets(text);
+    const std::uint8_t* end = u8_grapheme_next(begin, begin + text.size());
+    return end ? text.substr(0, static_cast<std::size_t>(end - begin)) : std::string_view();
 }
 
 }  // namespace corvane
