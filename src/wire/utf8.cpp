@@ -9,9 +9,17 @@ namespace {
 
 const std::uint8_t* octets(std::string_view text) { return reinterpret_cast<const std::uint8_t*>(text.data()); }
 
+// Without a way out of the loop, so that the compiler takes many bytes at once.
+bool isLongAscii(std::string_view text) {
+    unsigned char all = 0;
+    for (const char c : text) all |= static_cast<unsigned char>(c);
+    return all < 0x80;
+}
+
 }  // namespace
 
-bool isUtf8(std::string_view bytes) { return u8_check(octets(bytes), bytes.size()) == nullptr; }
+// Every response passes here, and nearly all are ASCII, which takes the library four times as long to find out.
+bool isUtf8(std::string_view bytes) { return isLongAscii(bytes) || u8_check(octets(bytes), bytes.size()) == nullptr; }
 
 std::string_view utf8Prefix(std::string_view text, std::size_t count) {
     std::string_view rest = text;
