@@ -21,7 +21,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const int hertz = decimalOrZero(channel.frequency);
         INVARIANT(channel.frequency.size() == 9 && hertz >= 30'000 && hertz <= 75'000'000);
         INVARIANT(channel.mode.size() == 1 && modeName(channel.mode.front()));
-        INVARIANT(channel.tag.size() <= 12 && isAscii(channel.tag) && channel.tag.find(';') == std::string::npos);
+        INVARIANT(channel.tag.size() <= tagLength && isAscii(channel.tag) &&
+                  channel.tag.find(';') == std::string::npos);
         table[static_cast<std::size_t>(row)] = channel;
     }
     const MemoryImport again = readMemoryCsv(memoryCsv(table));

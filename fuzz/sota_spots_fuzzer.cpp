@@ -2,7 +2,7 @@
 #include <cstdint>
 
 #include "feeds/feed_cells.h"
-#include "feeds/single_precision.h"
+#include "feeds/hertz.h"
 #include "feeds/spots.h"
 #include "wire/utf8.h"
 

@@ -6,8 +6,6 @@
 
 namespace corvane {
 
-std::string upperCase(std::string_view text);  // ASCII letters; every other byte stays
-
 // What stores a call sign: in upper case, without white space at its ends, in exactly twelve characters: " n0call "
 // gives "EX040101N0CALL      ;".
 std::string callSignCommand(std::string_view text);

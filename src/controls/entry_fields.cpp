@@ -3,6 +3,7 @@
 #include "controls/call_sign.h"
 #include "controls/typed_frequency.h"
 #include "wire/cat_command.h"
+#include "wire/letter_case.h"
 #include "wire/tuning_range.h"
 
 namespace corvane {

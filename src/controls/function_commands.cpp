@@ -1,6 +1,7 @@
 #include "controls/function_commands.h"
 
-#include "wire/cat_command.h"
+#include <fmt/core.h>
+
 #include "wire/operating_modes.h"
 #include "wire/setting_codes.h"
 
@@ -12,14 +13,14 @@ constexpr std::string_view roofingFilterCodes = "1245";
 
 std::string codeCommand(std::string_view before, std::string_view codes, int index, std::string_view after) {
     if (index < 0 || index >= static_cast<int>(codes.size())) return {};
-    return std::string(before) + codes[static_cast<std::size_t>(index)] + std::string(after);
+    return fmt::format("{}{}{}", before, codes[static_cast<std::size_t>(index)], after);
 }
 
 // Off for the first entry, else on and its level.
 std::string levelCommand(std::string_view name, std::string_view level, int width, int index) {
     if (index < 0) return {};
-    if (index == 0) return std::string(name) + "0;";
-    return std::string(name) + "1;" + std::string(level) + zeroPadded(index, width) + ';';
+    if (index == 0) return fmt::format("{}0;", name);
+    return fmt::format("{}1;{}{:0{}};", name, level, index, width);
 }
 
 }  // namespace
@@ -27,13 +28,11 @@ std::string levelCommand(std::string_view name, std::string_view level, int widt
 std::string modeCommand(int index) {
     if (index < 0 || index >= static_cast<int>(operatingModes.size())) return {};
     const char code = operatingModes[static_cast<std::size_t>(index)].code;
-    return (std::string("MD0") + code + ";BI1;").append(functionKnobSetting(code));
+    return fmt::format("MD0{};BI1;{}", code, functionKnobSetting(code));
 }
 
 std::string memoryCommand(int index) {
-    if (index < 0) return {};
-    const std::string channel = zeroPadded(index + 1, 3);
-    return "SS0670000;MC" + channel + ";MW" + channel + ";SS0670000;";
+    return index < 0 ? std::string() : fmt::format("SS0670000;MC{0:03};MW{0:03};SS0670000;", index + 1);
 }
 
 std::string scopeColorCommand(int index) {
@@ -50,12 +49,10 @@ std::string noiseBlankerCommand(int index) { return levelCommand("NB0", "NL0", 3
 std::string functionKnobCommand(int index) { return codeCommand("SF1", functionKnobCodes, index, ";"); }
 std::string multiKnobCommand(int index) { return codeCommand("SF0", multiKnobCodes, index, ";"); }
 
-std::string gainCommand(std::string_view name, int value) {
-    return std::string(name).append(zeroPadded(value, 3)).append(";");
-}
+std::string gainCommand(std::string_view name, int value) { return fmt::format("{}{:03};", name, value); }
 
 std::string indexCommand(std::string_view before, int index, std::string_view after) {
-    return index < 0 ? std::string() : std::string(before).append(std::to_string(index)).append(after);
+    return index < 0 ? std::string() : fmt::format("{}{}{}", before, index, after);
 }
 
 }  // namespace corvane

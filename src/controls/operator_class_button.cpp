@@ -1,8 +1,7 @@
 #include "controls/operator_class_button.h"
 
-#include <charconv>
-
 #include "controls/operator_classes.h"
+#include "wire/decimal_number.h"
 
 namespace corvane {
 
@@ -11,9 +10,7 @@ OperatorClassButton::OperatorClassButton(Display& display) : button_(display.lic
 }
 
 void OperatorClassButton::showOperatorClass(std::string_view megahertz) {
-    float frequency = 0;
-    std::from_chars(megahertz.data(), megahertz.data() + megahertz.size(), frequency);
-    const OperatorClass& allowed = operatorClass(frequency);
+    const OperatorClass& allowed = operatorClass(decimalNumber<float>(megahertz).value_or(0));
     button_.setTitle(allowed.title);
     button_.setBezelColor(allowed.color);
     button_.setVisible(true);

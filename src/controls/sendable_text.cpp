@@ -1,5 +1,7 @@
 #include "controls/sendable_text.h"
 
+#include <fmt/core.h>
+
 #include "wire/utf8.h"
 
 namespace corvane {
@@ -12,8 +14,8 @@ std::string refusal(std::string_view text) {
         if (c < space || c == deleted)
             return "The transceiver cannot hold line ends, tabs and other control characters.";
         if (c > deleted)
-            return "The transceiver cannot hold \"" + std::string(utf8Prefix(text.substr(i), 1)) +
-                   "\": only unaccented letters, figures and signs.";
+            return fmt::format("The transceiver cannot hold \"{}\": only unaccented letters, figures and signs.",
+                               utf8Prefix(text.substr(i), 1));
     }
     return {};
 }

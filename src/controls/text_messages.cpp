@@ -1,5 +1,7 @@
 #include "controls/text_messages.h"
 
+#include <fmt/core.h>
+
 #include "wire/utf8.h"
 
 namespace corvane {
@@ -16,12 +18,11 @@ std::vector<std::string_view> textPieces(std::string_view text) {
 }
 
 std::string storeScratch(const ModeGroup& group, std::string_view text) {
-    return std::string(group.storeCommand).append(std::to_string(scratchMemory)).append(text).append("};");
+    return fmt::format("{}{}{}}};", group.storeCommand, scratchMemory, text);
 }
 
 std::string storeAndReadBack(const ModeGroup& group, int memory, std::string_view text) {
-    const std::string name = std::string(group.storeCommand) + std::to_string(memory);
-    return name + std::string(utf8Prefix(text, textPieceLength)) + ';' + name + ';';
+    return fmt::format("{0}{1}{2};{0}{1};", group.storeCommand, memory, utf8Prefix(text, textPieceLength));
 }
 
 }  // namespace corvane

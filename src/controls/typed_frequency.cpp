@@ -1,9 +1,6 @@
 #include "controls/typed_frequency.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cmath>
-
+#include "wire/decimal_number.h"
 #include "wire/operating_modes.h"
 #include "wire/tuning_range.h"
 #include "wire/wire_text.h"
@@ -21,14 +18,10 @@ constexpr double hair = 1e-6;  // Hz
 
 TypedFrequency typedFrequency(std::string_view text) {
     using Verdict = TypedFrequency::Verdict;
-    text = trimmed(text);
-    text.remove_prefix(std::min(text.find_first_not_of('0'), text.size()));
-    double megahertz = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), megahertz);
-    const bool number = error == std::errc{} && end == text.data() + text.size() && std::isfinite(megahertz);
-    if (!number || megahertz < lowestMegahertz) return {};
-    if (megahertz > highestMegahertz) return {Verdict::tooHigh};
-    return {Verdict::accepted, static_cast<int>(megahertz * 1'000'000 + hair), megahertz >= lowestUpperSideBand};
+    const auto megahertz = decimalNumber(trimmed(text));
+    if (!megahertz || *megahertz < lowestMegahertz) return {};
+    if (*megahertz > highestMegahertz) return {Verdict::tooHigh};
+    return {Verdict::accepted, static_cast<int>(*megahertz * 1'000'000 + hair), *megahertz >= lowestUpperSideBand};
 }
 
 }  // namespace corvane

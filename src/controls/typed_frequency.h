@@ -10,13 +10,13 @@ struct TypedFrequency {
 
     Verdict verdict = Verdict::tooLowOrNoNumber;
     int hertz = 0;               // of an accepted one, cut to whole hertz
-    bool upperSideBand = false;  // the side band that is usual there: upper from 10 MHz on
+    bool upperSideBand = false;  // the side band that is usual there
 
     bool operator==(const TypedFrequency&) const = default;
 };
 
 // "14.235", "014.235" and " 14.235 " give 14235000 Hz, "7.0741505" 7074150. Accepted is 0.03 to 75, both included. A
-// comma, a unit, a sign, words and nothing at all are no numbers.
+// comma, a unit, words and nothing at all are no numbers.
 TypedFrequency typedFrequency(std::string_view text);
 
 }  // namespace corvane

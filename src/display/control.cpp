@@ -1,5 +1,7 @@
 #include "display/control.h"
 
+#include <fmt/core.h>
+
 namespace corvane {
 
 void ChangeQueue::add(Control& control) {
@@ -16,7 +18,7 @@ void ChangeQueue::refresh() {
 }
 
 std::string Control::objectName() const {
-    return outlet_.name.empty() ? "tag" + std::to_string(outlet_.tag) : std::string(outlet_.name);
+    return outlet_.name.empty() ? fmt::format("tag{}", outlet_.tag) : std::string(outlet_.name);
 }
 
 void Control::addView(ChangeQueue& queue, std::function<void()> show) {

@@ -1,8 +1,12 @@
 #include "display/entry_titles.h"
 
+#include <fmt/core.h>
+
 #include <algorithm>
 
 #include "display/pop_up_entries.h"
+#include "wire/cat_command.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 

@@ -1,6 +1,10 @@
 #include "display/menu_controls.h"
 
+#include <fmt/core.h>
+
 #include <array>
+
+#include "wire/letter_case.h"
 
 namespace corvane {
 
@@ -19,20 +23,13 @@ constexpr std::array<Outlet, MenuControls::pages> readProgressOutlets{{
     {"displayMenuReadProgress", 0, "", "Reading the display menu", "How much of the display menu has been read."},
 }};
 
-char lowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-std::string lowerCase(std::string text) {
-    for (char& c : text) c = lowerCase(c);
-    return text;
-}
-
 }  // namespace
 
 MenuControls::MenuControls() {
     for (const MenuItemRow& row : menuItems) {
         const std::string& label = texts_.emplace_back(menuItemLabel(row));
-        const std::string& help = texts_.emplace_back(label + ". Menu " + menuItemPlace(row) + '.' +
-                                                      (row.write == MenuWrite::none ? " Only shown here." : ""));
+        const std::string& help = texts_.emplace_back(fmt::format(
+            "{}. Menu {}.{}", label, menuItemPlace(row), row.write == MenuWrite::none ? " Only shown here." : ""));
         popUps_.emplace_back(Outlet{"", row.tag(), row.label, label, help}).setEntries(entryTitles(row.entries));
     }
     for (const Outlet& outlet : readFieldOutlets) readFields_.emplace_back(outlet);
@@ -47,14 +44,12 @@ PopUpButton* MenuControls::popUp(int page, int tag) {
 }
 
 std::string menuItemLabel(const MenuItemRow& row) {
-    std::string label(menuSubMenuTitle(row.subMenu()));
-    label.append(", ").append(row.label);
-    if (!row.unit.empty()) label.append(" in ").append(row.unit);
-    return label;
+    return fmt::format("{}, {}{}{}", menuSubMenuTitle(row.subMenu()), row.label, row.unit.empty() ? "" : " in ",
+                       row.unit);
 }
 
 std::string menuItemPlace(const MenuItemRow& row) {
-    return NumberRun{row.number, row.number, 1, 6}.at(0).insert(4, 1, '-').insert(2, 1, '-');
+    return fmt::format("{:02}-{:02}-{:02}", row.number / 10000, row.number / 100 % 100, row.number % 100);
 }
 
 std::string_view menuSubMenuTitle(int subMenu) {
@@ -63,8 +58,8 @@ std::string_view menuSubMenuTitle(int subMenu) {
 }
 
 bool menuItemMatches(const MenuItemRow& row, std::string_view search) {
-    const std::string text = lowerCase(menuItemLabel(row) + ' ' + menuItemPlace(row));
-    std::string words = lowerCase(std::string(search)) + ' ';
+    const std::string text = upperCase(fmt::format("{} {}", menuItemLabel(row), menuItemPlace(row)));
+    std::string words = upperCase(search) + ' ';
     for (std::size_t end = words.find(' '); end != std::string::npos; end = words.find(' ')) {
         if (text.find(words.substr(0, end)) == std::string::npos) return false;
         words.erase(0, end + 1);

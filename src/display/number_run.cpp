@@ -1,19 +1,19 @@
 #include "display/number_run.h"
 
+#include <fmt/core.h>
+
+#include "wire/cat_command.h"
+
 namespace corvane {
 
 std::string NumberRun::at(int index) const {
     const int number = first + index * step;
-    std::string text = std::to_string(number < 0 ? -number : number);
-    if (const auto width = static_cast<std::size_t>(digits); text.size() < width)
-        text.insert(0, width - text.size(), '0');
-    if (sign || number < 0) text.insert(0, 1, number < 0 ? '-' : '+');
-    return text;
+    if (sign) return fmt::format("{:+0{}}", number, digits + 1);
+    return zeroPadded(number, number < 0 ? digits + 1 : digits);
 }
 
 std::optional<int> NumberRun::indexOf(std::string_view title) const {
-    std::string_view rest = title;
-    const auto number = takeNumber(rest);
+    const auto number = decimal(title);
     if (!number || !has(*number)) return std::nullopt;
     const int index = (*number - first) / step;
     if (at(index) != title) return std::nullopt;  // "7" is not "007"

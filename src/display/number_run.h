@@ -1,10 +1,11 @@
 // A run of numbers, each written in the same number of digits: "005" to "100".
 #pragma once
 
-#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "wire/wire_text.h"
 
 namespace corvane {
 
@@ -25,40 +26,21 @@ struct NumberRun {
     bool operator==(const NumberRun&) const = default;
 };
 
-// The number that a text begins with, sign included; moves the text behind it. Nothing for a text that begins with none
-// and for a number that is too large.
-constexpr std::optional<int> takeNumber(std::string_view& text) {
-    std::string_view rest = text;
-    if (rest.starts_with('+')) rest.remove_prefix(1);
-    const bool negative = rest.starts_with('-');
-    if (negative) rest.remove_prefix(1);
-    if (rest.empty() || rest.front() < '0' || rest.front() > '9') return std::nullopt;
-    long long number = 0;
-    for (; !rest.empty() && rest.front() >= '0' && rest.front() <= '9'; rest.remove_prefix(1)) {
-        number = number * 10 + (rest.front() - '0');
-        if (number > std::numeric_limits<int>::max()) return std::nullopt;
-    }
-    text = rest;
-    return static_cast<int>(negative ? -number : number);
-}
-
 // "0020..4000/20%4" gives {20, 4000, 20, 4}, "-20..+10/1%+2" {-20, 10, 1, 2, true}; nothing for any other text.
 constexpr std::optional<NumberRun> numberRun(std::string_view text) {
-    const auto skip = [&text](std::string_view what) {
-        if (!text.starts_with(what)) return false;
-        text.remove_prefix(what.size());
-        return true;
+    const auto before = [&text](std::string_view separator) -> std::optional<int> {
+        const std::size_t end = text.find(separator);
+        if (end == std::string_view::npos) return std::nullopt;
+        const auto number = decimal(text.substr(0, end));
+        text.remove_prefix(end + separator.size());
+        return number;
     };
-    const auto first = takeNumber(text);
-    if (!first || !skip("..")) return std::nullopt;
-    const auto last = takeNumber(text);
-    if (!last || !skip("/")) return std::nullopt;
-    const auto step = takeNumber(text);
-    if (!step || *step < 1 || !skip("%")) return std::nullopt;
-    const bool sign = skip("+");
-    const auto digits = takeNumber(text);
-    if (!digits || !text.empty()) return std::nullopt;
-    return NumberRun{*first, *last, *step, *digits, sign};
+    const auto first = before("..");
+    const auto last = before("/");
+    const auto step = before("%");
+    const auto digits = decimal(text);
+    if (!first || !last || !step || *step < 1 || !digits) return std::nullopt;
+    return NumberRun{*first, *last, *step, *digits, text.starts_with('+')};
 }
 
 }  // namespace corvane

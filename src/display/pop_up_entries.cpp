@@ -1,6 +1,6 @@
 #include "display/pop_up_entries.h"
 
-#include <cstdio>
+#include <fmt/core.h>
 
 #include "wire/operating_modes.h"
 
@@ -11,8 +11,7 @@ namespace {
 // `first` as it stands, then the numbers from `from` to `to` between `before` and `after`.
 std::vector<std::string> numbered(std::vector<std::string> first, int from, int to, std::string_view before,
                                   std::string_view after = {}) {
-    for (int number = from; number <= to; ++number)
-        first.push_back(std::string(before).append(std::to_string(number)).append(after));
+    for (int number = from; number <= to; ++number) first.push_back(fmt::format("{}{}{}", before, number, after));
     return first;
 }
 
@@ -42,19 +41,13 @@ std::vector<std::string> powerEntries() { return numbered({}, 5, 100, "", "w"); 
 
 std::vector<std::string> scopeLevelEntries() {
     std::vector<std::string> list;
-    for (int tenths = -300; tenths <= 300; tenths += 5) {
-        const int size = tenths < 0 ? -tenths : tenths;
-        char text[8];
-        std::snprintf(text, sizeof text, "%c%02d.%d", tenths < 0 ? '-' : '+', size / 10 % 100, size % 10);
-        list.emplace_back(text);
-    }
+    for (int halves = -60; halves <= 60; ++halves) list.push_back(fmt::format("{:+05.1f}", halves / 2.0));
     return list;
 }
 
 std::vector<std::string> powerOffEntries() {
     std::vector<std::string> list{"OFF"};
-    for (int halves = 1; halves <= 24; ++halves)
-        list.push_back(std::to_string(halves / 2) + (halves % 2 ? ".5 h" : " h"));
+    for (int halves = 1; halves <= 24; ++halves) list.push_back(fmt::format("{} h", halves / 2.0));
     return list;
 }
 

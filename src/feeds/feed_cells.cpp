@@ -1,11 +1,12 @@
 #include "feeds/feed_cells.h"
 
+#include <fmt/core.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
 
-#include "feeds/single_precision.h"
 #include "wire/decimal_number.h"
 #include "wire/utf8.h"
 
@@ -37,8 +38,8 @@ double shownNumber(std::string_view field) {
 std::string asIs(std::string_view field) { return std::string(field); }
 std::string kilohertz(std::string_view field) { return withDecimals(shownNumber(field), 1); }
 std::string megahertzInKilohertz(std::string_view field) { return withDecimals(shownNumber(field) * 1000, 1); }
-std::string minutes(std::string_view field) { return field.empty() ? std::string() : std::string(field) + " min"; }
-std::string kilowatts(std::string_view field) { return std::string(field) + " kW"; }
+std::string minutes(std::string_view field) { return field.empty() ? std::string() : fmt::format("{} min", field); }
+std::string kilowatts(std::string_view field) { return fmt::format("{} kW", field); }
 
 template <char const* unknown>
 std::string dashFor(std::string_view field) {
@@ -49,8 +50,7 @@ constexpr char unknownSummit[] = "Summit not recognised";
 
 // Megahertz or, above 70, kilohertz; shown in kilohertz with one decimal: "14.25" gives "14250.0".
 std::string eitherInKilohertz(std::string_view field) {
-    const auto number = singlePrecision(field);
-    if (!number) return {};
+    if (!decimalNumber<float>(field)) return {};
     const double value = shownNumber(field);
     std::string digits = withDecimals(value > 70 ? value / 1000 : value, 4);
     std::erase(digits, '.');
@@ -62,11 +62,10 @@ std::string field(const FeedRow& row, std::size_t position) {
 }
 
 std::string spotOnMap(const FeedRow& spot, const ServiceHosts& hosts) {
-    const std::string place = field(spot, 6) + ',' + field(spot, 7);
-    return hosts.map + "/?q=" + place + "&ll=" + place + "&z=5";
+    return fmt::format("{0}/?q={1},{2}&ll={1},{2}&z=5", hosts.map, field(spot, 6), field(spot, 7));
 }
 std::string parkPage(const FeedRow& spot, const ServiceHosts& hosts) {
-    return hosts.potaSite + "/#/park/" + field(spot, 9);
+    return fmt::format("{}/#/park/{}", hosts.potaSite, field(spot, 9));
 }
 std::string ownPage(const FeedRow& row, const ServiceHosts&) { return field(row, 4); }
 

@@ -1,5 +1,7 @@
 #include "feeds/json_records.h"
 
+#include <fmt/core.h>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -54,7 +56,7 @@ private:
         return field == fields_.rend() ? nullptr : &field->second;
     }
     void fail(std::string_view kind, std::string_view name) {
-        if (problem_.empty()) problem_ = "has no " + std::string(kind) + " \"" + std::string(name) + '"';
+        if (problem_.empty()) problem_ = fmt::format("has no {} \"{}\"", kind, name);
     }
 
     std::vector<std::pair<std::string, Value>> fields_;
@@ -102,7 +104,7 @@ public:
         ++records_;
         auto row = makeRow_(record_);
         if (!record_.problem().empty())
-            return fail("unreadable: record " + std::to_string(records_) + ' ' + record_.problem());
+            return fail(fmt::format("unreadable: record {} {}", records_, record_.problem()));
         if (row) decoded.rows.push_back(std::move(*row));
         return true;
     }
@@ -119,7 +121,7 @@ private:
         if (depth_ == insideRecord) record_.value(std::move(value));
         return true;
     }
-    bool noObject() { return fail("unreadable: record " + std::to_string(records_ + 1) + " is no object"); }
+    bool noObject() { return fail(fmt::format("unreadable: record {} is no object", records_ + 1)); }
     bool fail(std::string problem) {
         decoded = {{}, std::move(problem)};
         return false;

@@ -1,5 +1,7 @@
 #include "feeds/scrape_tags.h"
 
+#include <fmt/core.h>
+
 #include <algorithm>
 
 namespace corvane {
@@ -9,9 +11,7 @@ namespace {
 // What stands between the first opening tag of a line and the first closing tag after it.
 struct TagPair {
     explicit TagPair(std::string_view name)
-        : opening('<' + std::string(name) + '>'),
-          closing("</" + std::string(name) + '>'),
-          isFrequency(name == "Frequency") {}
+        : opening(fmt::format("<{}>", name)), closing(fmt::format("</{}>", name)), isFrequency(name == "Frequency") {}
 
     void scrape(std::string_view line, std::vector<std::string>& values) const {
         const std::size_t start = line.find(opening);

@@ -1,11 +1,11 @@
 #include "feeds/spots.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "feeds/json_records.h"
-#include "feeds/single_precision.h"
 #include "feeds/spot_time.h"
+#include "wire/decimal_number.h"
+#include "wire/letter_case.h"
 #include "wire/wire_text.h"
 
 namespace corvane {
@@ -68,11 +68,7 @@ std::string ageText(std::string_view time, Instant now) {
     return spotted ? std::to_string(spotAgeMinutes(now, *spotted)) : std::string();
 }
 
-bool saysQrt(std::string_view comment) {
-    constexpr std::string_view qrt = "qrt";
-    const auto sameLetter = [](char c, char letter) { return std::tolower(static_cast<unsigned char>(c)) == letter; };
-    return std::search(comment.begin(), comment.end(), qrt.begin(), qrt.end(), sameLetter) != comment.end();
-}
+bool saysQrt(std::string_view comment) { return upperCase(comment).find("QRT") != std::string::npos; }
 
 // The pieces between the separators, without empty ones.
 std::vector<std::string_view> pieces(std::string_view text, char separator) {
@@ -93,7 +89,7 @@ std::optional<FeedRow> potaRow(const potaCalls& spot, Instant now) {
 }
 
 std::optional<FeedRow> sotaRow(const sotaCalls& spot, Instant now) {
-    const float megahertz = singlePrecision(spot.frequency).value_or(0);
+    const float megahertz = decimalNumber<float>(spot.frequency).value_or(0);
     // Compared before it is cut: what no integer holds is no frequency either.
     if (!(megahertz >= lowestSotaMegahertz && megahertz < highestSotaMegahertz + 1)) return std::nullopt;
     const auto timePieces = pieces(spot.timeStamp, '.');

@@ -1,8 +1,8 @@
 // The Tune key of a row.
 #include <utility>
 
+#include "feeds/hertz.h"
 #include "feeds/lists.h"
-#include "feeds/single_precision.h"
 #include "feeds/tune_command.h"
 #include "wire/utf8.h"
 

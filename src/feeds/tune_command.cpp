@@ -1,9 +1,11 @@
 #include "feeds/tune_command.h"
 
+#include <fmt/core.h>
+
 #include <algorithm>
 #include <array>
 
-#include "feeds/single_precision.h"
+#include "wire/decimal_number.h"
 #include "wire/operating_modes.h"
 #include "wire/wire_text.h"
 
@@ -32,42 +34,33 @@ constexpr std::array modeRows{
 
 std::string modeCommands(const ModeRow& row, long long hertz) {
     const char code = row.sideBands.usual(hertz);
-    std::string command = std::string("MD0") + code + ';';
-    return row.setsKnob ? command.append(functionKnobSetting(code)) : command;
+    return fmt::format("MD0{};{}", code, row.setsKnob ? functionKnobSetting(code) : "");
 }
 
 }  // namespace
 
 std::string tuneCommandForSpot(long long hertz, std::string_view mode, ModeWords words, std::string_view vfo) {
-    const bool eightDigits = hertz >= 10'000'000;
     const auto row =
         std::ranges::find_if(modeRows, [&](const ModeRow& each) { return each.words == words && each.mode == mode; });
-    std::string command;
-    if (row != modeRows.end()) command = modeCommands(*row, hertz);
-    command.append("F").append(vfo).append(eightDigits ? "0" : "00").append(std::to_string(hertz)).append(";");
-    return command.append(scopeMode);
+    const std::string modeCommand = row == modeRows.end() ? std::string() : modeCommands(*row, hertz);
+    const std::string_view fill = hertz < SideBands::lowestUpper ? "00" : "0";
+    return fmt::format("{}F{}{}{};{}", modeCommand, vfo, fill, hertz, scopeMode);
 }
 
 std::string tuneCommandForStation(long long hertz, std::string_view vfo) {
     const std::string_view fill = hertz < 1'000'000 ? "000" : "00";
-    return std::string("MD05;F").append(vfo).append(fill).append(std::to_string(hertz)).append(";").append(scopeMode);
+    return fmt::format("MD05;F{}{}{};{}", vfo, fill, hertz, scopeMode);
 }
 
 std::string tuneCommandForNetLogger(std::string_view frequency, std::string_view vfo) {
-    constexpr float highestMegahertz = 70.0F;
-    constexpr float lowestUpperMegahertz = 10.0F;  // itself still in the lower side band
-    float megahertz = singlePrecision(frequency).value_or(0);
-    if (megahertz > highestMegahertz) megahertz /= 1000.0F;
-    std::string digits = without(shortestDecimal(megahertz), ".");
-    const bool lower = megahertz <= lowestUpperMegahertz;
-    digits.resize(lower ? 7 : 8, '0');
-    return std::string(lower ? "MD01;F" : "MD02;F")
-        .append(vfo)
-        .append(lower ? "00" : "0")
-        .append(digits)
-        .append(";")
-        .append(scopeMode)
-        .append("SS0560000;");
+    constexpr float aboveIsKilohertz = 70.0F;
+    float megahertz = decimalNumber<float>(frequency).value_or(0);
+    if (megahertz > aboveIsKilohertz) megahertz /= 1000.0F;
+    const std::string digits = without(shortestDecimal(megahertz), ".");
+    // Filled up or cut on the right. Unlike elsewhere 10 MHz itself has the lower side band.
+    const bool lower = megahertz <= SideBands::lowestUpper / 1e6F;
+    return lower ? fmt::format("MD01;F{}00{:0<7.7};{}SS0560000;", vfo, digits, scopeMode)
+                 : fmt::format("MD02;F{}0{:0<8.8};{}SS0560000;", vfo, digits, scopeMode);
 }
 
 }  // namespace corvane

@@ -140,7 +140,7 @@ void Mirror::takeVfoBSelected(std::string_view) { setActiveVfo("B"); }
 void Mirror::takeMemoryInUse(std::string_view response) {
     if (!isAscii(response)) return;
     state_.vqMemFreq = positions(response, 6, 9);
-    std::string_view tag = lastOf(response, 12);
+    std::string_view tag = lastOf(response, tagLength);
     while (!tag.empty() && trimmed(tag.substr(tag.size() - 1)).empty()) tag.remove_suffix(1);
     if (state_.vqAorB == "A") {
         state_.vqMemATag = tag;

@@ -1,5 +1,7 @@
 #include "interpret/menu_group_read.h"
 
+#include <fmt/core.h>
+
 #include "interpret/menu_groups.h"
 
 namespace corvane {
@@ -25,11 +27,10 @@ bool MenuGroupRead::takeRefusal() {
 }
 
 std::string MenuGroupRead::text() const {
-    const std::string count = std::to_string(asked_ - static_cast<int>(waiting_.count()));
-    if (handled() < asked_)
-        return (stopped_ ? "Read " : "Reading ") + count + " of " + std::to_string(asked_) + " items";
-    return count + " items read" +
-           (refused_ > 0 ? ", " + std::to_string(refused_) + " unknown to this transceiver" : std::string{});
+    const int answered = asked_ - static_cast<int>(waiting_.count());
+    if (handled() < asked_) return fmt::format("{} {} of {} items", stopped_ ? "Read" : "Reading", answered, asked_);
+    if (refused_ == 0) return fmt::format("{} items read", answered);
+    return fmt::format("{} items read, {} unknown to this transceiver", answered, refused_);
 }
 
 }  // namespace corvane

@@ -1,13 +1,13 @@
 #include "interpret/menu_groups.h"
 
-#include "wire/cat_command.h"
+#include <fmt/core.h>
 
 namespace corvane {
 
 std::string subMenuRequest(int number) {
     std::string request;
     for (const MenuItemRow& row : menuItems)
-        if (row.subMenu() == number && isAskedFor(row.number)) request += "EX" + zeroPadded(row.number, 6) + ';';
+        if (row.subMenu() == number && isAskedFor(row.number)) request += fmt::format("EX{:06};", row.number);
     return request;
 }
 

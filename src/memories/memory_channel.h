@@ -12,7 +12,7 @@ namespace corvane {
 struct MemoryChannel {
     std::string frequency = " ";  // nine digits of hertz; any other length is an empty channel
     std::string mode = " ";       // mode code, one character
-    std::string tag = " ";        // up to 12 characters
+    std::string tag = " ";        // up to tagLength characters
 
     bool operator==(const MemoryChannel&) const = default;
 };

@@ -1,6 +1,7 @@
 #include "memories/memory_commands.h"
 
-#include "wire/cat_command.h"
+#include <fmt/core.h>
+
 #include "wire/wire_text.h"
 
 namespace corvane {
@@ -8,7 +9,6 @@ namespace corvane {
 namespace {
 
 constexpr std::size_t frequencyDigits = 9;
-constexpr std::size_t tagLength = 12;
 constexpr std::string_view noClarifier = "+000000";
 constexpr std::string_view plainFlags = "10000";
 constexpr std::string_view erase = "000000000+0000001000001-- ERASE -- ;";
@@ -18,13 +18,9 @@ int channelOf(std::string_view reply) {
     return channel >= 1 && channel <= memoryChannels && isAscii(reply) ? channel : 0;
 }
 
-std::string channelText(int row) { return zeroPadded(row + 1, 3); }
-
 }  // namespace
 
-std::string memoryRequest(std::string_view name, int channel) {
-    return std::string(name).append(zeroPadded(channel, 3)).append(";");
-}
+std::string memoryRequest(std::string_view name, int channel) { return fmt::format("{}{:03};", name, channel); }
 
 MemoryReply memoryReply(std::string_view reply) {
     return {channelOf(reply), lastOf(reply.substr(0, 14), frequencyDigits), lastOf(reply, 6).substr(0, 1),
@@ -36,22 +32,21 @@ MemoryChannel rowOf(const MemoryReply& reply) { return {std::string(reply.freque
 TagReply tagReply(std::string_view reply) { return {channelOf(reply), lastOf(reply, tagLength)}; }
 
 std::string memoryPopUpTitle(int row, const MemoryChannel& channel) {
-    return "M-" + zeroPadded(row + 1, 2) + ' ' + channel.tag;
+    return fmt::format("M-{:02} {}", row + 1, channel.tag);
 }
 
 bool isProgrammed(const MemoryChannel& row) { return row.frequency.size() == frequencyDigits; }
 
 std::string memoryWriteCommand(int row, const MemoryChannel& channel) {
-    std::string command = "MW" + channelText(row);
-    if (!isProgrammed(channel)) return command.append(erase);
-    return command.append(channel.frequency).append(noClarifier).append(channel.mode).append(plainFlags).append(";");
+    if (!isProgrammed(channel)) return fmt::format("MW{:03}{}", row + 1, erase);
+    return fmt::format("MW{:03}{}{}{}{};", row + 1, channel.frequency, noClarifier, channel.mode, plainFlags);
 }
 
 std::optional<std::string> tagWriteCommand(int row, const MemoryChannel& channel) {
     if (!isProgrammed(channel)) return std::nullopt;
     std::string tag = channel.tag;
     tag.resize(tagLength, ' ');
-    return "MT" + channelText(row) + '1' + tag + ';';
+    return fmt::format("MT{:03}1{};", row + 1, tag);
 }
 
 }  // namespace corvane

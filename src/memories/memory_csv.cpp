@@ -1,5 +1,7 @@
 #include "memories/memory_csv.h"
 
+#include <fmt/core.h>
+
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -9,7 +11,9 @@
 #include "memories/memory_entry.h"
 #include "memories/memory_mode_names.h"
 #include "memories/table_cells.h"
+#include "wire/letter_case.h"
 #include "wire/operating_modes.h"
+#include "wire/tuning_range.h"
 #include "wire/utf8.h"
 #include "wire/wire_text.h"
 
@@ -49,16 +53,9 @@ constexpr std::array fileColumns{
 constexpr std::string_view lineEnd = "\r\n";
 constexpr std::size_t longestQuoted = 30;  // characters of a field that is named in a reason
 
-std::string small(std::string_view text) {
-    std::string result(text);
-    for (char& c : result)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return result;
-}
-
 std::string inQuotes(std::string_view field) {
     const bool showable = isUtf8(field) && std::ranges::none_of(field, [](char c) { return c >= 0 && c < ' '; });
-    return showable ? '"' + std::string(utf8Prefix(field, longestQuoted)) + '"' : std::string("(unreadable)");
+    return showable ? fmt::format("\"{}\"", utf8Prefix(field, longestQuoted)) : "(unreadable)";
 }
 
 // Which field of a line belongs to a column: the first that bears its title.
@@ -67,8 +64,8 @@ public:
     explicit Header(const CsvLine& titles) {
         for (const FileColumn& column : fileColumns) {
             if (!column.read) continue;
-            const auto title = std::ranges::find(titles.fields, small(column.title),
-                                                 [](const std::string& field) { return small(trimmed(field)); });
+            const auto title = std::ranges::find_if(
+                titles.fields, [&](const std::string& field) { return sameWord(trimmed(field), column.title); });
             positions_[static_cast<std::size_t>(*column.read)] =
                 static_cast<std::size_t>(title - titles.fields.begin());
         }
@@ -126,23 +123,23 @@ private:
         const std::string_view location = header_.field(line, Column::location);
         const auto channel = decimal(location);
         if (!channel || *channel < 1 || *channel > memoryChannels)
-            return "the location " + inQuotes(location) + " is not from 1 to 99";
+            return fmt::format("the location {} is not from 1 to 99", inQuotes(location));
         imported.row = *channel - 1;
         if (const int before = lineOf_[static_cast<std::size_t>(imported.row)]; before != 0)
-            return "location " + std::to_string(*channel) + " stands in line " + std::to_string(before) + " already";
+            return fmt::format("location {} stands in line {} already", *channel, before);
         return {};
     }
     std::string readFrequencyAndMode(const CsvLine& line, ImportedChannel& imported) const {
         const std::string_view frequency = header_.field(line, Column::frequency);
         imported.channel.frequency = memoryFrequencyEntry(frequency).field;
         if (imported.channel.frequency.empty())
-            return "the frequency " + inQuotes(frequency) + " is not from 0.03 to 75 MHz";
+            return fmt::format("the frequency {} is not from 0.03 to 75 MHz", inQuotes(frequency));
         const std::string_view mode = header_.field(line, Column::mode);
         auto code = memoryModeCode(mode, header_.field(line, Column::comment));
-        if (!code && !mode.empty()) return "the mode " + inQuotes(mode) + " is none of the transceiver's";
+        if (!code && !mode.empty()) return fmt::format("the mode {} is none of the transceiver's", inQuotes(mode));
         if (!code) {
             code = voiceSideBands.usual(decimalOrZero(imported.channel.frequency));
-            addNote(imported.note, "no mode: " + std::string(*modeName(*code)) + " is usual there");
+            addNote(imported.note, fmt::format("no mode: {} is usual there", *modeName(*code)));
         }
         imported.channel.mode = std::string(1, *code);
         return {};
@@ -189,7 +186,7 @@ MemoryImport readMemoryCsv(std::string_view text) {
     if (lines.front().quoteLeftOpen) return {"Its first line has a quotation mark that is not closed.", {}, {}};
     const Header header(lines.front());
     for (const auto& [column, title] : {std::pair{Column::location, "Location"}, {Column::frequency, "Frequency"}})
-        if (!header.has(column)) return {std::string("Its first line has no column \"") + title + "\".", {}, {}};
+        if (!header.has(column)) return {fmt::format("Its first line has no column \"{}\".", title), {}, {}};
     Importer importer(header);
     for (const CsvLine& line : std::span(lines).subspan(1)) importer.read(line);
     return std::move(importer.result);
@@ -202,10 +199,9 @@ bool sameChannel(const MemoryChannel& left, const MemoryChannel& right) {
 
 std::string channelInWords(const MemoryChannel& channel) {
     if (!isProgrammed(channel)) return "empty";
-    std::string words = shownMemoryFrequency(channel.frequency);
-    words.append(" ").append(modeName(channel.mode.size() == 1 ? channel.mode.front() : ' ').value_or("(no mode)"));
-    if (const auto tag = trimmed(channel.tag); !tag.empty()) words.append(" ").append(tag);
-    return words;
+    const auto mode = modeName(channel.mode.size() == 1 ? channel.mode.front() : ' ').value_or("(no mode)");
+    const std::string_view tag = trimmed(channel.tag);
+    return fmt::format("{} {}{}{}", shownMemoryFrequency(channel.frequency), mode, tag.empty() ? "" : " ", tag);
 }
 
 }  // namespace corvane

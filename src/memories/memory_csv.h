@@ -18,7 +18,7 @@ std::string memoryCsv(const MemoryTable& channels);
 struct ImportedChannel {
     int line = 0;           // of the file, counted from 1
     int row = 0;            // of the table, counted from 0
-    MemoryChannel channel;  // frequency in nine digits, a mode code, a tag of up to 12 ASCII characters
+    MemoryChannel channel;  // frequency in nine digits, a mode code, a tag of ASCII characters
     std::string note;       // what of the line is not taken as it stands; empty: nothing
 
     bool operator==(const ImportedChannel&) const = default;

@@ -2,18 +2,10 @@
 
 #include <algorithm>
 
+#include "wire/letter_case.h"
 #include "wire/operating_modes.h"
 
 namespace corvane {
-
-namespace {
-
-bool sameWord(std::string_view left, std::string_view right) {
-    const auto capital = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
-    return std::ranges::equal(left, right, {}, capital, capital);
-}
-
-}  // namespace
 
 std::optional<char> memoryModeCode(std::string_view mode, std::string_view comment) {
     if (mode.empty()) return std::nullopt;

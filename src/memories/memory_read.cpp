@@ -1,5 +1,7 @@
 #include "memories/memory_read.h"
 
+#include <fmt/core.h>
+
 #include <algorithm>
 
 namespace corvane {
@@ -92,12 +94,12 @@ MemoryReadProgress MemoryRead::progress(const MemoryTable& table) const {
     if (progress.running) {
         const bool tags = vqTagRead == "run";
         const int asked = std::max(1, tags ? vqTagReadCnt : vqMemReadCnt);
-        progress.text = std::string("Reading ") + (tags ? "tags" : "frequencies") + ", channel " +
-                        std::to_string(asked) + " of " + std::to_string(memoryChannels);
+        progress.text =
+            fmt::format("Reading {}, channel {} of {}", tags ? "tags" : "frequencies", asked, memoryChannels);
     } else {
         const auto programmed = std::ranges::count_if(table, isProgrammed);
-        progress.text = "Read: " + std::to_string(programmed) + (programmed == 1 ? " channel" : " channels") +
-                        " programmed, " + std::to_string(memoryChannels - programmed) + " empty";
+        progress.text = fmt::format("Read: {} {} programmed, {} empty", programmed,
+                                    programmed == 1 ? "channel" : "channels", memoryChannels - programmed);
     }
     return progress;
 }

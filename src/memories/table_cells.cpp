@@ -1,8 +1,9 @@
 #include "memories/table_cells.h"
 
+#include <fmt/core.h>
+
 #include "display/table_columns.h"
 #include "memories/memory_commands.h"
-#include "wire/cat_command.h"
 #include "wire/decimal_number.h"
 #include "wire/operating_modes.h"
 #include "wire/tuning_range.h"
@@ -31,7 +32,7 @@ TableCell memoriesTableCell(const MemoryTable& table, const EntryTitles& modes, 
         case 0:
             return HandleCell{};
         case 1:
-            return TextCell{"M-" + zeroPadded(row + 1, 2), !isProgrammed(channel)};
+            return TextCell{fmt::format("M-{:02}", row + 1), !isProgrammed(channel)};
         case memoryFrequencyColumn:
             return EditableCell{shownMemoryFrequency(channel.frequency)};
         case memoryModeColumn:

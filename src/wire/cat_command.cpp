@@ -1,13 +1,9 @@
 #include "wire/cat_command.h"
 
+#include <fmt/core.h>
+
 namespace corvane {
 
-std::string zeroPadded(long long number, int width) {
-    std::string digits = std::to_string(number < 0 ? -number : number);
-    const std::size_t places = static_cast<std::size_t>(width) - (number < 0 ? 1 : 0);
-    if (digits.size() < places) digits.insert(0, places - digits.size(), '0');
-    if (number < 0) digits.insert(0, 1, '-');
-    return digits;
-}
+std::string zeroPadded(long long number, int width) { return fmt::format("{:0{}}", number, width); }
 
 }  // namespace corvane

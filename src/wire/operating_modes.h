@@ -102,7 +102,7 @@ struct SideBands {
     char lower;
     char upper;
 
-    static constexpr long long lowestUpper = 10'000'000;  // hertz
+    static constexpr int lowestUpper = 10'000'000;  // hertz
     constexpr char usual(long long hertz) const { return hertz >= lowestUpper ? upper : lower; }
 };
 inline constexpr SideBands voiceSideBands{modeCode("LSB"), modeCode("USB")};

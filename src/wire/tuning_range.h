@@ -1,4 +1,4 @@
-// The frequencies that may be typed, and what is said of others.
+// The frequencies that may be typed and what is said of others.
 #pragma once
 
 #include <string_view>

@@ -26,5 +26,15 @@ TEST(Utf8, PrefixCountsCharactersAndCutsNone) {
         EXPECT_EQ(utf8Prefix(text, count), prefixes[count]) << count;
 }
 
+TEST(Utf8, FirstSignIsWhatAReaderTakesForOne) {
+    for (const std::string_view sign :
+         {"a", "\u00e9", "e\u0301", "7\ufe0f\u20e3", "\r\n", "\t", "\U0001F44D\U0001F3FD"}) {
+        EXPECT_EQ(firstSign(std::string(sign) + "b\u0301"), sign);
+        EXPECT_EQ(firstSign(sign), sign);
+    }
+    EXPECT_EQ(firstSign(""), "");
+    EXPECT_EQ(firstSign("\n\u0301"), "\n");
+}
+
 }  // namespace
 }  // namespace corvane

@@ -1,0 +1,24 @@
+// Letters of commands, call signs and modes, which are ASCII; every other byte stays as it is.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+namespace corvane {
+
+constexpr char upperCase(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+// "n0call/p" gives "N0CALL/P".
+constexpr std::string upperCase(std::string_view text) {
+    std::string upper(text);
+    for (char& c : upper) c = upperCase(c);
+    return upper;
+}
+
+// Whether both are the same but for their case: "Cw-u" and "CW-U".
+constexpr bool sameWord(std::string_view left, std::string_view right) {
+    return std::ranges::equal(left, right, [](char a, char b) { return upperCase(a) == upperCase(b); });
+}
+
+}  // namespace corvane
