@@ -1,8 +1,8 @@
 #include "memories/memory_backup.h"
 
+#include <fmt/chrono.h>
+
 #include <array>
-#include <cstdio>
-#include <ctime>
 
 #include "memories/csv_text.h"
 #include "memories/memory_commands.h"
@@ -35,12 +35,7 @@ std::string memoryTableCsv(const ChannelsAsRead& channels) {
 }
 
 std::string memoryBackupName(std::chrono::system_clock::time_point when) {
-    const std::time_t seconds = std::chrono::system_clock::to_time_t(when);
-    std::tm utc{};
-    gmtime_r(&seconds, &utc);
-    std::array<char, 64> name{};
-    std::strftime(name.data(), name.size(), "memory-channels/%Y-%m-%dT%H%M%SZ.csv", &utc);
-    return name.data();
+    return fmt::format("memory-channels/{:%Y-%m-%dT%H%M%SZ}.csv", fmt::gmtime(when));
 }
 
 }  // namespace corvane
