@@ -93,6 +93,7 @@ enum class Watching { nobody, everyControl };
 void receive(benchmark::State& state, const Traffic& traffic, Watching watching) {
     constexpr int responsesPerRefresh = 20;  // about six repaints a second of a fast spin
     ChangeQueue changes;
+    std::vector<ViewHandle> views;
     long shown = 0;
     Surroundings around;
     const auto port = std::make_shared<FakeSerialPort>("ttyUSB0");
@@ -101,7 +102,8 @@ void receive(benchmark::State& state, const Traffic& traffic, Watching watching)
     controller.setSerialPort(port);
     port->open();
     if (watching == Watching::everyControl)
-        forEachControl(controller.display, [&](Control& control) { control.addView(changes, [&shown] { ++shown; }); });
+        forEachControl(controller.display,
+                       [&](Control& control) { views.push_back(control.addView(changes, [&shown] { ++shown; })); });
 
     int sinceRefresh = 0;
     ResponseAssembler assembler([&](std::string_view response) {

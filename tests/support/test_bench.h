@@ -19,6 +19,7 @@ using ControlNames = std::set<std::string>;  // "m20Button", "tag2007"
 class TestBench {
     ControlNames changed_;
     ChangeQueue changes_;
+    std::vector<ViewHandle> views_;
 
 public:
     explicit TestBench(MapSettingsStore::Values stored = {}) : controller(platformWith(std::move(stored)), hosts()) {
@@ -26,7 +27,7 @@ public:
         controller.setSerialPort(port);
         display.openCloseButton.performClick();
         forEachControl(display, [this](Control& control) {
-            control.addView(changes_, [this, &control] { changed_.insert(control.objectName()); });
+            views_.push_back(control.addView(changes_, [this, &control] { changed_.insert(control.objectName()); }));
         });
         forgetWhatHappened();
     }

@@ -26,7 +26,7 @@ SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent) : QSl
     };
     connect(this, &QSlider::valueChanged, this, [&model](int value) { model.drag(value); });
     connect(this, &QSlider::sliderReleased, this, show);
-    model.addView(queue, show);
+    view_ = model.addView(queue, show);
     show();
 }
 
@@ -41,7 +41,7 @@ TextFieldView::TextFieldView(TextField& model, ChangeQueue& queue, QWidget* pare
     setProperty("shown", shown);
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { model_.edit(text.toStdString()); });
     connect(this, &QLineEdit::returnPressed, this, [this] { model_.performReturn(); });
-    model.addView(queue, [this] { showModel(); });
+    view_ = model.addView(queue, [this] { showModel(); });
     showModel();
 }
 
@@ -74,7 +74,7 @@ TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : QL
         setText(QString::fromStdString(model.stringValue()));
         setAccessibleName(spokenWithValue(model, model.stringValue()));
     };
-    model.addView(queue, show);
+    view_ = model.addView(queue, show);
     show();
 }
 
@@ -87,7 +87,7 @@ NoticeLabel::NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent) 
         QAccessibleEvent alert(this, QAccessible::Alert);
         if (!model.stringValue().empty()) QAccessible::updateAccessibility(&alert);
     };
-    model.addView(queue, show);
+    notice_ = model.addView(queue, show);
     if (model.stringValue().empty()) hide();
 }
 
@@ -99,7 +99,7 @@ ProgressView::ProgressView(LevelIndicator& model, ChangeQueue& queue, QWidget* p
         setValue(model.integerValue());
         setVisible(model.visible());
     };
-    model.addView(queue, show);
+    view_ = model.addView(queue, show);
     setValue(model.integerValue());
     if (!model.visible()) hide();
 }

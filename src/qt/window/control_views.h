@@ -26,6 +26,9 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
+
+private:
+    ViewHandle view_;
 };
 
 class TextFieldView : public QLineEdit {
@@ -43,6 +46,7 @@ private:
 
     TextField& model_;
     int resignations_;
+    ViewHandle view_;
 };
 
 // A text that is only read.
@@ -51,6 +55,9 @@ class TextLabel : public QLabel {
 
 public:
     TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+private:
+    ViewHandle view_;
 };
 
 // A text that says why something was refused. It stands there only while there is something to say, and is announced.
@@ -59,6 +66,9 @@ class NoticeLabel : public TextLabel {
 
 public:
     NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+private:
+    ViewHandle notice_;
 };
 
 // How much of something is done.
@@ -67,6 +77,9 @@ class ProgressView : public QProgressBar {
 
 public:
     ProgressView(LevelIndicator& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+private:
+    ViewHandle view_;
 };
 
 // A pop-up whose entries stand in groups: a key that opens a menu of menus.

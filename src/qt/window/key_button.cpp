@@ -62,7 +62,7 @@ KeyButton::KeyButton(Button& model, ChangeQueue& queue, const QFont& font, QWidg
         showing_ = false;
         model_.performClick();
     });
-    model.addView(queue, [this] { showModel(); });
+    view_ = model.addView(queue, [this] { showModel(); });
     showModel();
 }
 

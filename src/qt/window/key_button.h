@@ -38,6 +38,7 @@ private:
     Button& model_;
     bool showing_ = false;
     bool shown_ = true;
+    ViewHandle view_;
 };
 
 }  // namespace corvane

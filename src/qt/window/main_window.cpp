@@ -133,7 +133,7 @@ void MainWindow::addPreference(QMenu& menu, MenuItem& item) {
         action->setChecked(item.checked());
     });
     const auto show = [action, &item] { action->setChecked(item.checked()); };
-    item.addView(queue_, show);
+    preferences_.push_back(item.addView(queue_, show));
     show();
 }
 

@@ -79,7 +79,7 @@ PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent)
     setProperty("shown", !model.action);
     setFocusPolicy(model.action ? Qt::StrongFocus : Qt::TabFocus);
     connect(this, &QComboBox::activated, this, [this](int index) { model_.choose(index); });
-    model.addView(queue, [this] { showModel(); });
+    view_ = model.addView(queue, [this] { showModel(); });
     showModel();
 }
 

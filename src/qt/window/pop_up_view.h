@@ -27,6 +27,7 @@ private:
     PopUpButton& model_;
     EntryModel* entries_;
     int shownEntries_ = -1;
+    ViewHandle view_;
 };
 
 }  // namespace corvane

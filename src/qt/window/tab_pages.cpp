@@ -19,7 +19,7 @@ TabPages::TabPages(TabView& model, ChangeQueue& queue, QWidget* parent) : QTabWi
         makePage(index);
         model_.selectItem(index);
     });
-    model.addView(queue, [this] { showModel(); });
+    view_ = model.addView(queue, [this] { showModel(); });
 }
 
 void TabPages::addPage(const QString& title, std::function<QWidget*()> make) {

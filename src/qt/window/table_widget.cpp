@@ -53,7 +53,7 @@ TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent)
             is<LinkCell>(shown) && !delegate_->linkRect(visualRect(cell), font(), cell).contains(released_);
         if (!is<EditableCell>(shown) && !linkMissed) act(cell);
     });
-    model.addView(queue, [this] { reload(); });
+    view_ = model.addView(queue, [this] { reload(); });
     reload();
 }
 

@@ -69,6 +69,7 @@ private:
     std::optional<std::pair<int, int>> place_;  // row and column that last had the keyboard
     QPoint released_;                           // where the mouse was let go
     std::optional<int> gap_;                    // above this row what is dragged would go
+    ViewHandle view_;
 };
 
 }  // namespace corvane

@@ -18,7 +18,7 @@ const QString emptyDisplay = QStringLiteral("--.---.---");
 
 VfoButton::VfoButton(Button& model, TextField& activeVfo, std::string letter, ChangeQueue& queue, QWidget* parent)
     : KeyButton(model, queue, typeface(TypeSize::digits), parent), activeVfo_(activeVfo), letter_(std::move(letter)) {
-    activeVfo_.addView(queue, [this] {
+    view_ = activeVfo_.addView(queue, [this] {
         setAccessibleName(spokenName());
         update();
     });

@@ -13,7 +13,7 @@ struct ControlTest : testing::Test {
         queue.onFirstChange = [this] { ++planned; };
         for (Control* control :
              std::initializer_list<Control*>{&button, &popUp, &slider, &field, &level, &tabs, &box, &item})
-            control->addView(queue, [this, control] { shown.push_back(control->objectName()); });
+            views.push_back(control->addView(queue, [this, control] { shown.push_back(control->objectName()); }));
     }
     std::vector<std::string> refresh() {
         queue.refresh();
@@ -23,6 +23,7 @@ struct ControlTest : testing::Test {
     ChangeQueue queue;
     std::vector<std::string> shown;
     int planned = 0;
+    std::vector<ViewHandle> views;
     Button button{{"m20Button", 20, "20"}};
     PopUpButton popUp{{"", 2007}};
     Slider slider{{"slider"}, 10, 20};
@@ -90,10 +91,46 @@ TEST_F(ControlTest, ManyChangesAreShownOnceInOneRefresh) {
 }
 
 TEST_F(ControlTest, AChangeMadeWhileShowingWaitsForTheNextRefresh) {
-    field.addView(queue, [this] { button.setTitle(field.stringValue()); });
+    const ViewHandle copying = field.addView(queue, [this] { button.setTitle(field.stringValue()); });
     field.setStringValue("40");
     EXPECT_THAT(refresh(), ElementsAre("field"));
     EXPECT_EQ(planned, 2);
+    EXPECT_THAT(refresh(), ElementsAre("m20Button"));
+}
+
+TEST_F(ControlTest, EveryQueueShowsTheViewsThatJoinedIt) {
+    ChangeQueue second;
+    std::vector<std::string> shownInSecond;
+    const ViewHandle view = button.addView(second, [&] { shownInSecond.push_back(button.title()); });
+    for (const char* title : {"40", "80"}) {
+        button.setTitle(title);
+        EXPECT_THAT(refresh(), ElementsAre("m20Button"));
+    }
+    second.refresh();
+    EXPECT_THAT(shownInSecond, ElementsAre("80"));
+    EXPECT_THAT(refresh(), IsEmpty());
+}
+
+TEST_F(ControlTest, ViewsControlsAndQueuesGoInAnyOrder) {
+    const auto say = [this](const char* what) { return [this, what] { shown.emplace_back(what); }; };
+    auto gone = std::make_unique<Button>(Outlet{"gone"});
+    ViewHandle ofGone = gone->addView(queue, say("gone"));
+    ViewHandle taken = button.addView(queue, say("taken back"));
+    ViewHandle ended = field.addView(queue, say("ended by another"));
+    const ViewHandle ending = button.addView(queue, [&] { ended = {}; });
+    auto other = std::make_unique<ChangeQueue>();
+    const ViewHandle ofOther = button.addView(*other, say("of no queue"));
+    ViewHandle moved = item.addView(queue, say("moved"));
+    views.push_back(std::move(moved));
+    gone->setTitle("changed");
+    button.setTitle("40");
+    field.setStringValue("FA;");
+    item.setChecked(true);
+    gone.reset();
+    taken = {};
+    other.reset();
+    EXPECT_THAT(refresh(), ElementsAre("m20Button", "field", "item", "moved"));
+    button.setTitle("80");
     EXPECT_THAT(refresh(), ElementsAre("m20Button"));
 }
 
