@@ -6,7 +6,6 @@
 
 #include "controller/serial_port_demo_controller.h"
 #include "radio/response_assembler.h"
-#include "tests/support/every_control.h"
 #include "tests/support/surroundings.h"
 
 namespace corvane {
@@ -102,8 +101,8 @@ void receive(benchmark::State& state, const Traffic& traffic, Watching watching)
     controller.setSerialPort(port);
     port->open();
     if (watching == Watching::everyControl)
-        forEachControl(controller.display,
-                       [&](Control& control) { views.push_back(control.addView(changes, [&shown] { ++shown; })); });
+        for (Control* control : controller.display.controls())
+            views.push_back(control->addView(changes, [&shown] { ++shown; }));
 
     int sinceRefresh = 0;
     ResponseAssembler assembler([&](std::string_view response) {

@@ -1,6 +1,10 @@
 #include "display/control.h"
 
+#include "display/control_list.h"
+
 namespace corvane {
+
+Control::Control(const Outlet& outlet) : outlet_(outlet), tag_(outlet.tag) { ControlList::enter(*this); }
 
 Control::~Control() {
     for (View* view : views_) {

@@ -25,7 +25,7 @@ struct Outlet {
 
 class Control {
 public:
-    explicit Control(const Outlet& outlet) : outlet_(outlet), tag_(outlet.tag) {}
+    explicit Control(const Outlet& outlet);
     virtual ~Control();
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;

@@ -4,10 +4,12 @@
 
 #include <array>
 #include <deque>
+#include <span>
 #include <string_view>
 
 #include "display/box.h"
 #include "display/button.h"
+#include "display/control_list.h"
 #include "display/front_panel_keys.h"
 #include "display/level_indicator.h"
 #include "display/menu_controls.h"
@@ -35,8 +37,11 @@ struct Display {
 
     // The key that had this tag at first, e.g. key(20) is m20Button; there must be one.
     Button& key(int firstTag) { return keys.at(frontPanelKeyIndex(firstTag)); }
+    // Every control, also one that is added below: each enters itself.
+    std::span<Control* const> controls() const { return made.controls(); }
 
 private:
+    ControlList made;         // before any control
     std::deque<Button> keys;  // in the order of frontPanelKeys
 
 public:

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "controller/serial_port_demo_controller.h"
-#include "tests/support/every_control.h"
 #include "tests/support/surroundings.h"
 
 namespace corvane {
@@ -26,9 +25,8 @@ public:
         controller.awakeFromNib();
         controller.setSerialPort(port);
         display.openCloseButton.performClick();
-        forEachControl(display, [this](Control& control) {
-            views_.push_back(control.addView(changes_, [this, &control] { changed_.insert(control.objectName()); }));
-        });
+        for (Control* control : display.controls())
+            views_.push_back(control->addView(changes_, [this, control] { changed_.insert(control->objectName()); }));
         forgetWhatHappened();
     }
 

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <set>
+
 #include "display/display.h"
 
 namespace corvane {
@@ -174,6 +176,18 @@ TEST_F(ControlTest, AChoiceActsOnlyWhereTheOperatorMayMakeIt) {
     }
     EXPECT_THAT(done, ElementsAre("ON", "20", "FA;"));
     EXPECT_EQ(popUp.indexOfSelectedItem(), 1);
+}
+
+TEST(Display, ListsEveryControlOnceByItsName) {
+    Display display;
+    const Button beside{{"beside"}};
+    std::set<std::string> names;
+    for (const Control* control : display.controls())
+        EXPECT_TRUE(names.insert(control->objectName()).second) << control->objectName();
+    for (const char* name : {"m6Button", "tag2050000", "mainTab", "callTextField", "pskMemory5Button", "mwTable",
+                             "displayMenuReadProgress", "tag2010104", "menuItemPreferencesIPO"})
+        EXPECT_TRUE(names.contains(name)) << name;
+    EXPECT_FALSE(names.contains("beside"));
 }
 
 TEST(Display, NoShortcutIsGivenTwice) {
