@@ -145,9 +145,9 @@ bool SerialPortDemoController::pressSwapKey(Button& sender) {
 bool SerialPortDemoController::pressPowerOnKey(Button& sender) {
     link.cmd = "PS1;";
     sendCommand(link.cmd);
-    sender.setEnabled(false);
+    sender.setBusy(true);
     later(1250ms, [this, &sender, session = link.session] {
-        sender.setEnabled(true);
+        sender.setBusy(false);
         if (session != link.session) return;  // another link by now
         link.cmd = "PS1;";
         sendCommand(link.cmd);

@@ -25,7 +25,7 @@ public:
     // What a press does. A button without an action shows something and cannot be pressed.
     std::function<void(Button&)> action;
     void performClick() {
-        if (enabled() && action) action(*this);
+        if (available() && action) action(*this);
     }
 
 private:

@@ -40,6 +40,12 @@ public:
     bool enabled() const { return enabled_; }
     void setEnabled(bool enabled) { assign(enabled_, enabled); }
 
+    // A busy control cannot be used for a moment. Other than a disabled one it keeps the keyboard: where the focus
+    // jumps away, the next key press would go to a neighbour.
+    bool busy() const { return busy_; }
+    void setBusy(bool busy) { assign(busy_, busy); }
+    bool available() const { return enabled_ && !busy_; }  // to the operator
+
     bool visible() const { return visible_; }
     void setVisible(bool visible) { assign(visible_, visible); }
 
@@ -72,6 +78,7 @@ private:
     const Outlet outlet_;
     int tag_;
     bool enabled_ = true;
+    bool busy_ = false;
     bool visible_ = true;
     bool allWait_ = true;  // no queue need be told of a change: every view waits already, or there is none
     std::vector<View*> views_;

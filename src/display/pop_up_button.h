@@ -69,8 +69,9 @@ public:
     std::function<void(PopUpButton&)> action;
     // The operator chooses an entry.
     void choose(int index) {
-        if (!enabled() || !action) return;
-        if (index >= 0 && index < titles_.size() && titles_.at(index) == unusedEntry) return markChanged();
+        if (!action) return;
+        const bool unused = index >= 0 && index < titles_.size() && titles_.at(index) == unusedEntry;
+        if (!available() || unused) return markChanged();  // a view may show the choice already
         selectedBefore_ = selected_;
         selectItem(index);
         action(*this);

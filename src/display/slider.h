@@ -29,7 +29,8 @@ public:
     std::function<void(Slider&)> action;
     // The operator moves the knob.
     void drag(int value) {
-        if (!enabled() || !action) return;
+        if (!action) return;
+        if (!available()) return markChanged();  // a view may show the move already
         assign(value_, std::clamp(value, minimum_, maximum_));
         action(*this);
     }

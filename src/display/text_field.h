@@ -58,7 +58,7 @@ public:
     // What the Return key does. A field without an action only shows its text.
     std::function<void(TextField&)> action;
     void performReturn() {
-        if (enabled() && action) action(*this);
+        if (available() && action) action(*this);
     }
 
 private:

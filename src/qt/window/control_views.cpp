@@ -7,22 +7,26 @@
 #include <algorithm>
 #include <utility>
 
+#include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
 
 namespace corvane {
 
-SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent)
+    : QSlider(Qt::Horizontal, parent), model_(model) {
     describe(*this, model);
     setRange(model.minimum(), model.maximum());
     setPageStep(std::max(1, (model.maximum() - model.minimum()) / 16));
     const auto show = [this, &model] {
         setEnabled(model.enabled() && model.action);
+        if (model.busy()) setSliderDown(false);
+        fadeWhileBusy(*this, model);
         if (!isSliderDown() && value() != model.integerValue()) {
             const QSignalBlocker quiet(this);
             setValue(model.integerValue());
         }
-        setAccessibleName(spokenWithValue(model, std::to_string(model.integerValue())));
+        setSpokenName(*this, model, spokenWithValue(model, std::to_string(model.integerValue())));
     };
     connect(this, &QSlider::valueChanged, this, [&model](int value) { model.drag(value); });
     connect(this, &QSlider::sliderReleased, this, show);
@@ -30,15 +34,15 @@ SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent) : QSl
     show();
 }
 
+bool SliderView::event(QEvent* event) { return heldBack(model_, *event) || QSlider::event(event); }
+
 void SliderView::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 TextFieldView::TextFieldView(TextField& model, ChangeQueue& queue, QWidget* parent)
     : QLineEdit(parent), model_(model), resignations_(model.resignations()) {
     describe(*this, model);
     if (model.maximumLength() > 0) setMaxLength(model.maximumLength());
-    const bool shown = !model.action && !model.onEdit;
-    setReadOnly(shown);
-    setProperty("shown", shown);
+    setProperty("shown", !takesText());
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { model_.edit(text.toStdString()); });
     connect(this, &QLineEdit::returnPressed, this, [this] { model_.performReturn(); });
     view_ = model.addView(queue, [this] { showModel(); });
@@ -49,6 +53,9 @@ void TextFieldView::showModel() {
     const QString shown = QString::fromStdString(model_.stringValue());
     if (text() != shown) setText(shown);
     setEnabled(model_.enabled());
+    setReadOnly(!takesText() || model_.busy());
+    fadeWhileBusy(*this, model_);
+    setSpokenName(*this, model_, accessibleName());
     if (std::exchange(resignations_, model_.resignations()) != model_.resignations()) clearFocus();
 }
 

@@ -25,9 +25,11 @@ public:
     SliderView(Slider& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
 protected:
+    bool event(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    const Slider& model_;
     ViewHandle view_;
 };
 
@@ -43,6 +45,7 @@ protected:
 
 private:
     void showModel();
+    bool takesText() const { return model_.action || model_.onEdit; }
 
     TextField& model_;
     int resignations_;

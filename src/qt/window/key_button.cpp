@@ -5,6 +5,7 @@
 
 #include "controls/front_panel_actions.h"
 #include "display/front_panel_keys.h"
+#include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
 
@@ -71,6 +72,7 @@ void KeyButton::showModel() {
     if (isCheckable()) setChecked(model_.bezelColor() != Color::none);
     showing_ = false;
     if (isEnabled() != model_.enabled()) setEnabled(model_.enabled());
+    if (model_.busy()) setDown(false);
     if (shown_ != model_.visible()) {
         shown_ = model_.visible();
         setVisible(shown_);
@@ -81,8 +83,7 @@ void KeyButton::showModel() {
     if (text() != plain) setText(plain);
     // A title from the transceiver may be longer than its key.
     if (model_.outlet().title.empty() && !title.isEmpty()) setToolTip(title.trimmed() + "\n" + toolTipOf(model_));
-    const QString name = spokenName();
-    if (accessibleName() != name) setAccessibleName(name);
+    setSpokenName(*this, model_, spokenName());
     update();
 }
 
@@ -102,6 +103,8 @@ QSize KeyButton::minimumSizeHint() const {
     return {std::max(wanted, 7 * gridStep), sizeHint().height()};
 }
 
+bool KeyButton::event(QEvent* event) { return heldBack(model_, *event) || QPushButton::event(event); }
+
 void KeyButton::paintEvent(QPaintEvent*) {
     const Theme& theme = Theme::current();
     QPainter painter(this);
@@ -110,10 +113,11 @@ void KeyButton::paintEvent(QPaintEvent*) {
     QColor fill = theme.of(model_.bezelColor(), underMouse() && model_.action ? theme.keyHover : theme.key);
     if (!model_.action && !lit) fill = theme.panel;
     if (isDown()) fill = fill.darker(120);
-    if (!isEnabled()) fill = theme.panel;
+    const bool grey = !isEnabled() || model_.busy();
+    if (grey) fill = theme.panel;
     paintCap(painter, fill);
     QColor ink = lit ? readableOn(fill) : theme.text;
-    if (!isEnabled()) ink = palette().color(QPalette::Disabled, QPalette::ButtonText);
+    if (grey) ink = palette().color(QPalette::Disabled, QPalette::ButtonText);
     paintFace(painter, rect().adjusted(2, 0, -2, 0), ink);
 }
 

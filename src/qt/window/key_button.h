@@ -23,6 +23,7 @@ protected:
     // A font can only be given once: under a style sheet a later one is forgotten.
     KeyButton(Button& model, ChangeQueue& queue, const QFont& font, QWidget* parent);
 
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void nextCheckState() override {}  // only the model lights and darkens a key
 

@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QSignalBlocker>
 
+#include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
 
@@ -91,8 +92,13 @@ void PopUpView::showModel() {
     }
     if (isEnabled() != model_.enabled()) setEnabled(model_.enabled());
     setCurrentIndex(model_.indexOfSelectedItem());
-    setAccessibleName(model_.action ? labelOf(model_) : spokenWithValue(model_, model_.titleOfSelectedItem()));
+    if (model_.busy()) hidePopup();
+    fadeWhileBusy(*this, model_);
+    setSpokenName(*this, model_,
+                  model_.action ? labelOf(model_) : spokenWithValue(model_, model_.titleOfSelectedItem()));
 }
+
+bool PopUpView::event(QEvent* event) { return heldBack(model_, *event) || QComboBox::event(event); }
 
 void PopUpView::wheelEvent(QWheelEvent* event) { event->ignore(); }
 

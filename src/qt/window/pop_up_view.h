@@ -16,6 +16,7 @@ public:
     PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
 protected:
+    bool event(QEvent* event) override;
     // The wheel scrolls the page; it must not change a transceiver by the way.
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

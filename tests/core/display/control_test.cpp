@@ -60,7 +60,7 @@ TEST_F(ControlTest, EverySetterThatChangesSomethingIsShown) {
     // clang-format off
     const std::pair<std::function<void()>, std::string> changes[] = {
         {[&] { button.setTitle("40"); }, "m20Button"}, {[&] { button.setTag(1020); }, "m20Button"},
-        {[&] { button.setEnabled(false); }, "m20Button"}, {[&] { button.setVisible(false); }, "m20Button"},
+        {[&] { button.setEnabled(false); }, "m20Button"}, {[&] { button.setBusy(true); }, "m20Button"}, {[&] { button.setVisible(false); }, "m20Button"},
         {[&] { button.setBezelColor(Color::red); }, "m20Button"},
         {[&] { button.setImage(Image::NSImageNameTouchBarAudioOutputMuteTemplate); }, "m20Button"},
         {[&] { popUp.setEntries({"OFF", "ON"}); }, "tag2007"}, {[&] { popUp.selectItem(1); }, "tag2007"},
@@ -165,17 +165,30 @@ TEST_F(ControlTest, AChoiceActsOnlyWhereTheOperatorMayMakeIt) {
     popUp.action = [&](PopUpButton& sender) { done.emplace_back(sender.titleOfSelectedItem()); };
     button.action = [&](Button& sender) { done.push_back(sender.title()); };
     field.action = [&](TextField& sender) { done.push_back(sender.stringValue()); };
-    for (const bool enabled : {true, false}) {
-        popUp.setEnabled(enabled);
-        button.setEnabled(enabled);
-        field.setEnabled(enabled);
-        field.setStringValue(enabled ? "FA;" : "FB;");
-        popUp.choose(enabled ? 1 : 0);
+    slider.action = [&](Slider& sender) { done.push_back(std::to_string(sender.integerValue())); };
+    item.action = [&](MenuItem& sender) { done.push_back(sender.objectName()); };
+    const std::initializer_list<Control*> controls{&popUp, &button, &field, &slider, &item};
+    const auto useAll = [&] {
+        popUp.choose(1 - popUp.indexOfSelectedItem());
         button.performClick();
         field.performReturn();
-    }
-    EXPECT_THAT(done, ElementsAre("ON", "20", "FA;"));
+        slider.drag(slider.integerValue() + 1);
+        item.performClick();
+    };
+    popUp.selectItem(0);
+    field.setStringValue("FA;");
+    useAll();
+    EXPECT_THAT(std::exchange(done, {}), ElementsAre("ON", "20", "FA;", "11", "item"));
+    for (Control* control : controls) control->setEnabled(false);
+    useAll();
+    for (Control* control : controls) control->setEnabled(true);
+    for (Control* control : controls) control->setBusy(true);
+    refresh();
+    useAll();
+    EXPECT_THAT(refresh(), ElementsAre("tag2007", "slider")) << "their widgets may show what did not happen";
+    EXPECT_THAT(done, IsEmpty());
     EXPECT_EQ(popUp.indexOfSelectedItem(), 1);
+    EXPECT_EQ(slider.integerValue(), 11);
 }
 
 TEST(Display, ListsEveryControlOnceByItsName) {

@@ -198,6 +198,71 @@ TEST(WindowTest, PagesAreMadeWhenTheyAreFirstShownOrAskedFor) {
     EXPECT_EQ(station.find("m20Button"), made);
 }
 
+TEST(WindowTest, TheKeyboardStaysOnPowerOnWhileItIsBusy) {
+    Station station(0.02);  // busy for a minute
+    station.display.mainTab.selectItem(Display::radioPage);
+    ASSERT_TRUE(eventually([&] { return station.find("tag300") && station.find("tag300")->isVisible(); }));
+    QAbstractButton& key = *station.find("tag300");
+    Button& model = station.display.key(300);
+    std::vector<int> pressed;
+    for (const int tag : {300, 301}) {
+        Button& watched = station.display.key(tag);
+        watched.action = [&pressed, action = watched.action](Button& sender) {
+            pressed.push_back(sender.tag());
+            action(sender);
+        };
+    }
+    const QImage before = key.grab().toImage();
+    key.setFocus();
+    QTest::keyClick(&key, Qt::Key_Space);
+    ASSERT_TRUE(eventually([&] { return key.accessibleName() == "Power on, busy"; }));
+    EXPECT_TRUE(key.hasFocus());
+    const QPoint face(key.width() / 2, 6);
+    EXPECT_NE(key.grab().toImage().pixelColor(face), before.pixelColor(face)) << "grey";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QTest::mouseClick(&key, Qt::LeftButton);
+    EXPECT_FALSE(key.isDown());
+    QTest::keyClick(&key, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), station.find("tag301"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    EXPECT_TRUE(key.hasFocus()) << "it stays in the tab order";
+    EXPECT_EQ(pressed, std::vector{300});
+    model.setBusy(false);
+    ASSERT_TRUE(eventually([&] { return key.accessibleName() == "Power on"; }));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(pressed, (std::vector{300, 300}));
+}
+
+TEST(WindowTest, NoHandMovesABusyControl) {
+    Station station;
+    Display& display = station.display;
+    display.mainTab.selectItem(Display::radioPage);
+    ASSERT_TRUE(eventually([&] { return station.find<QSlider>("rfGainSlider") != nullptr; }));
+    auto& modes = *station.find<QComboBox>("modesPopUpButton");
+    auto& gain = *station.find<QSlider>("rfGainSlider");
+    auto& frequency = *station.find<QLineEdit>("freqTextField");
+    const std::initializer_list<std::pair<Control*, QWidget*>> controls{
+        {&display.modesPopUpButton, &modes}, {&display.rfGainSlider, &gain}, {&display.freqTextField, &frequency}};
+    for (const auto& [model, widget] : controls) {
+        const QString name = widget->accessibleName();
+        model->setBusy(true);
+        ASSERT_TRUE(eventually([&, shown = widget] { return shown->accessibleName() == name + ", busy"; }));
+        widget->setFocus();
+        for (const auto key : {Qt::Key_Left, Qt::Key_7, Qt::Key_Space, Qt::Key_Down}) QTest::keyClick(widget, key);
+        QTest::mouseClick(widget, Qt::LeftButton, {}, {widget->width() / 4, widget->height() / 2});
+        EXPECT_TRUE(widget->hasFocus());
+        EXPECT_NE(widget->graphicsEffect(), nullptr) << "faded";
+        model->setBusy(false);
+        ASSERT_TRUE(eventually([&, shown = widget] { return shown->accessibleName() == name; }));
+        EXPECT_EQ(widget->graphicsEffect(), nullptr);
+    }
+    EXPECT_FALSE(modes.view()->isVisible());
+    EXPECT_EQ(gain.value(), gain.maximum());
+    EXPECT_EQ(frequency.text(), "");
+    QTest::keyClicks(&frequency, "7");
+    EXPECT_EQ(frequency.text(), "7");
+}
+
 // Counts the events of a kind that a widget gets.
 class EventCount : public QObject {
 public:
