@@ -16,9 +16,9 @@ struct ShortcutText {
 };
 
 // All shortcuts of the window in the order of the help page.
-std::vector<ShortcutText> shortcutTexts(Display& display);
+std::vector<ShortcutText> shortcutTexts(const Display& display);
 
-// Gives `window` the shortcuts of the front-panel keys and of the link. They work on every page.
-void addShortcuts(QWidget& window, Display& display);
+// Gives `window` the shortcuts of all buttons. They work on every page.
+void addShortcuts(QWidget& window, const Display& display);
 
 }  // namespace corvane

@@ -203,13 +203,5 @@ TEST(Display, ListsEveryControlOnceByItsName) {
     EXPECT_FALSE(names.contains("beside"));
 }
 
-TEST(Display, NoShortcutIsGivenTwice) {
-    std::vector<std::string_view> shortcuts{"Ctrl+O", "Ctrl+R"};
-    for (const FrontPanelKey& row : frontPanelKeys)
-        if (!row.outlet.shortcut.empty()) shortcuts.push_back(row.outlet.shortcut);
-    std::ranges::sort(shortcuts);
-    EXPECT_EQ(std::ranges::adjacent_find(shortcuts), shortcuts.end());
-}
-
 }  // namespace
 }  // namespace corvane

@@ -6,10 +6,12 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSlider>
 #include <QTabBar>
 #include <QTableView>
@@ -121,21 +123,18 @@ TEST(WindowTest, EveryShortcutOfTheHelpPageDoesWhatItSaysOnEveryPage) {
     Station station;
     std::map<std::string, std::string> listed;
     for (const ShortcutText& text : shortcutTexts(station.display))
-        EXPECT_TRUE(listed.try_emplace(text.keys.toStdString(), text.meaning.toStdString()).second)
-            << text.keys.toStdString() << " stands for two things";
+        listed[text.keys.toStdString()] = text.meaning.toStdString();
     station.controller.enableTextMemoryControls();
     int presses = 0;
     std::vector<std::pair<QKeySequence, std::string>> shortcuts;
-    const auto watch = [&](Button& button) {
-        const Outlet& outlet = button.outlet();
-        button.action = [&presses](Button&) { ++presses; };
+    for (Control* control : station.display.controls()) {
+        const Outlet& outlet = control->outlet();
+        auto* button = dynamic_cast<Button*>(control);
+        if (outlet.shortcut.empty() || !button) continue;
+        button->action = [&presses](Button&) { ++presses; };
         EXPECT_EQ(listed[std::string(outlet.shortcut)], outlet.label);
         shortcuts.emplace_back(toQString(outlet.shortcut), outlet.label);
-    };
-    for (const FrontPanelKey& key : frontPanelKeys)
-        if (!key.outlet.shortcut.empty()) watch(station.display.key(key.outlet.tag));
-    watch(station.display.openCloseButton);
-    watch(station.display.autoMemoryNowButton);
+    }
     EXPECT_GT(shortcuts.size(), 30U);
 
     const auto pressAll = [&](QWidget* target) {
@@ -150,6 +149,41 @@ TEST(WindowTest, EveryShortcutOfTheHelpPageDoesWhatItSaysOnEveryPage) {
         const bool takesKeys = qobject_cast<QLineEdit*>(control) || qobject_cast<QPlainTextEdit*>(control) ||
                                qobject_cast<QComboBox*>(control);
         if (takesKeys) pressAll(control);
+    }
+}
+
+// "Alt+1 to Alt+3" gives all three.
+std::vector<QKeySequence> keysIn(const QString& text) {
+    std::vector<QKeySequence> keys;
+    for (const QString& part : text.split(", ")) {
+        const QStringList ends = part.split(" to ");
+        const QString stem = ends.front().chopped(1);
+        for (ushort last = ends.front().back().unicode(); last <= ends.back().back().unicode(); ++last)
+            keys.emplace_back(stem + QChar(last));
+    }
+    return keys;
+}
+
+TEST(WindowTest, EveryShortcutStandsForOneThingAndIsOnTheHelpPage) {
+    Station station;
+    forEachPage(station, [] {});
+    std::multiset<QKeySequence> made;
+    for (const auto* shortcut : station.window.findChildren<QShortcut*>()) made.insert(shortcut->key());
+    for (const auto* action : station.window.findChildren<QAction*>())
+        for (const QKeySequence& keys : action->shortcuts()) made.insert(keys);
+    for (const auto* button : station.window.findChildren<QAbstractButton*>())
+        if (!button->shortcut().isEmpty()) made.insert(button->shortcut());
+    for (const auto* menu : station.window.menuBar()->actions()) made.insert(QKeySequence::mnemonic(menu->text()));
+    std::multiset<QKeySequence> listed;
+    for (const ShortcutText& text : shortcutTexts(station.display))
+        for (const QKeySequence& keys : keysIn(text.keys)) listed.insert(keys);
+
+    for (const auto& [all, place] : {std::pair{&made, "made"}, {&listed, "listed"}})
+        for (const QKeySequence& keys : *all) EXPECT_EQ(all->count(keys), 1U) << keys.toString().toStdString() << place;
+    for (const QKeySequence& keys : made) EXPECT_TRUE(listed.contains(keys)) << keys.toString().toStdString();
+    for (const Control* control : station.display.controls()) {
+        const std::string_view shortcut = control->outlet().shortcut;
+        EXPECT_TRUE(shortcut.empty() || made.contains(QKeySequence(toQString(shortcut)))) << shortcut;
     }
 }
 
