@@ -32,26 +32,15 @@ constexpr int helpPage = Display::settingsPage + 1;
 // Shows every page of the window, those of the settings included, one after the other.
 template <class Visit>
 void forEachPage(Station& station, Visit visit) {
-    const auto show = [&](TabView& pages, int index, const char* name) {
-        pages.selectItem(index);
-        ASSERT_TRUE(eventually([&] {
-            const auto* tabs = station.find<QTabWidget>(name);
-            return tabs && tabs->currentIndex() == index && tabs->currentWidget()->isVisible();
-        }));
-    };
     for (int page = 0; page <= helpPage; ++page) {
-        show(station.display.mainTab, page, "mainTab");
+        station.show(page);
         const bool lists = page == Display::listsPage;
         if (!lists && page != Display::settingsPage) {
             visit();
             continue;
         }
         for (int inner = 0; inner < (lists ? Display::listsPages : Display::settingsPages); ++inner) {
-            if (lists) {
-                show(station.display.listsTab, inner, "listsTab");
-            } else {
-                show(station.display.settingsTab, inner, "settingsTab");
-            }
+            station.show(lists ? station.display.listsTab : station.display.settingsTab, inner);
             visit();
         }
     }
@@ -234,8 +223,7 @@ TEST(WindowTest, PagesAreMadeWhenTheyAreFirstShownOrAskedFor) {
 
 TEST(WindowTest, TheKeyboardStaysOnPowerOnWhileItIsBusy) {
     Station station(0.02);  // busy for a minute
-    station.display.mainTab.selectItem(Display::radioPage);
-    ASSERT_TRUE(eventually([&] { return station.find("tag300") && station.find("tag300")->isVisible(); }));
+    station.show(Display::radioPage);
     QAbstractButton& key = *station.find("tag300");
     Button& model = station.display.key(300);
     std::vector<int> pressed;
@@ -270,8 +258,7 @@ TEST(WindowTest, TheKeyboardStaysOnPowerOnWhileItIsBusy) {
 TEST(WindowTest, NoHandMovesABusyControl) {
     Station station;
     Display& display = station.display;
-    display.mainTab.selectItem(Display::radioPage);
-    ASSERT_TRUE(eventually([&] { return station.find<QSlider>("rfGainSlider") != nullptr; }));
+    station.show(Display::radioPage);
     auto& modes = *station.find<QComboBox>("modesPopUpButton");
     auto& gain = *station.find<QSlider>("rfGainSlider");
     auto& frequency = *station.find<QLineEdit>("freqTextField");
@@ -318,15 +305,14 @@ private:
 
 TEST(WindowTest, AThousandChangesInOneTurnAreShownOnce) {
     Station station;
-    station.display.mainTab.selectItem(Display::radioPage);
-    ASSERT_TRUE(eventually([&] { return station.find("m20Button") && station.find("m20Button")->isVisible(); }));
-    runEventLoop(std::chrono::milliseconds(50));
+    station.show(Display::radioPage);
+    QCoreApplication::processEvents();
     const EventCount paints(station.find("vqFreqAButton"), QEvent::Paint);
     const EventCount refreshes(&station.window, QEvent::MetaCall);
     for (int hertz = 7'000'000; hertz < 7'001'000; ++hertz)
         station.controller.interpretResponses("FA00" + std::to_string(hertz) + ';');
     EXPECT_TRUE(eventually([&] { return paints.count > 0; }));
-    runEventLoop(std::chrono::milliseconds(50));
+    QCoreApplication::processEvents();
     EXPECT_EQ(station.find("vqFreqAButton")->text(), "7.000.999");
     EXPECT_EQ(refreshes.count, 1);
     EXPECT_EQ(paints.count, 1);
@@ -341,12 +327,8 @@ TEST(WindowTest, AnotherThemeIsSeenAtOnceAndEverywhere) {
     for (const auto& [text, kind] : {std::pair{"Light theme", ThemeKind::light},
                                      {"Dark theme", ThemeKind::dark},
                                      {"Light theme", ThemeKind::light}}) {
-        const auto actions = station.window.findChildren<QAction*>();
-        const auto action =
-            std::ranges::find_if(actions, [name = text](const QAction* each) { return each->text() == name; });
-        ASSERT_NE(action, actions.end());
         paints.count = 0;
-        (*action)->trigger();
+        station.action(text).trigger();
         EXPECT_EQ(Theme::currentKind(), kind);
         EXPECT_TRUE(eventually([&] { return paints.count > 0; }));
         EXPECT_EQ(station.window.palette().color(QPalette::Window), Theme::current().window);
