@@ -202,10 +202,14 @@ void TableRows::show(std::vector<int> next, std::optional<int> watchedBefore, st
     emit layoutAboutToBeChanged();
     next.resize(shown_.size(), -1);
     shown_ = std::move(next);
-    for (const QModelIndex& index : persistentIndexList()) {
-        const int row = index.row() == from ? to : std::min(index.row(), after - 1);
-        changePersistentIndex(index, row < 0 ? QModelIndex() : this->index(row, index.column()));
+    const QModelIndexList kept = persistentIndexList();
+    QModelIndexList places;
+    for (const QModelIndex& cell : kept) {
+        // Two kept cells must never become one, so what stood at `to` changes places with the watched row.
+        const int row = cell.row() == from ? to : cell.row() == to ? from : cell.row();
+        places.push_back(row < 0 || row >= after ? QModelIndex() : index(row, cell.column()));
     }
+    changePersistentIndexList(kept, places);
     emit layoutChanged();
     if (after < before) {
         beginRemoveRows({}, after, before - 1);

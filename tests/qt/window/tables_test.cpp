@@ -10,8 +10,10 @@
 #include <QMimeData>
 #include <QTableView>
 #include <algorithm>
+#include <array>
 #include <cstdio>
 
+#include "qt/window/table_rows.h"
 #include "station.h"
 #include "url_catcher.h"
 
@@ -284,6 +286,36 @@ TEST(TablesTest, AnOpenEditorNeverWritesIntoAnotherRow) {
     EXPECT_TRUE(eventually([&] { return Memories::isClosed(station.table()); }));
     EXPECT_TRUE(eventually([&] { return station.controller.memories.whole; }));
     EXPECT_NE(station.row(3).tag, "LOST");
+}
+
+struct Letters : TableViewDataSource {
+    std::string rows = "abc";
+    int numberOfRows(const TableView&) const override { return static_cast<int>(rows.size()); }
+    TableCell viewFor(const TableView&, int row, int) const override {
+        return TextCell{rows.substr(static_cast<std::size_t>(row), 1)};
+    }
+    void openLink(std::string_view) override {}
+    std::optional<int> acceptDrop(TableView&, std::string_view, int) override { return std::nullopt; }
+    bool mouseDownInHeader(TableView&, int) override { return false; }
+};
+
+// Two cells that became one would leave Qt with a pointer to a model that is gone.
+TEST(TablesTest, CellsThatAreKeptStayApart) {
+    const std::array columns{TableColumn{"letter", "Letter", 5}};
+    TableView table({"letters"}, columns);
+    Letters letters;
+    table.setDataSource(letters);
+    TableRows rows(table, nullptr);
+    rows.watch(rows.index(0, 0));
+    const QPersistentModelIndex watched = rows.index(0, 0), hovered = rows.index(2, 0);
+    const auto reload = [&](const char* now) {
+        letters.rows = now;
+        rows.reload();
+        return std::pair(watched.row(), hovered.row());
+    };
+    EXPECT_EQ(reload("bca"), std::pair(2, 0));
+    EXPECT_EQ(reload("ba"), std::pair(1, 0));
+    EXPECT_EQ(reload("a"), std::pair(0, -1));
 }
 
 TEST(TablesTest, WhatIsSortedDraggedAndEditedIsWrittenAndReadBack) {
