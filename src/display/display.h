@@ -37,7 +37,7 @@ struct Display {
 
     // The key that had this tag at first, e.g. key(20) is m20Button; there must be one.
     Button& key(int firstTag) { return keys.at(frontPanelKeyIndex(firstTag)); }
-    // Every control, also one that is added below: each enters itself.
+    // All controls. A new member need not be named elsewhere: it enters itself.
     std::span<Control* const> controls() const { return made.controls(); }
 
 private:
@@ -65,7 +65,7 @@ public:
     PopUpButton PortPopUpButton{{"PortPopUpButton", 0, "Port", "Serial port", "The serial port of the transceiver."}};
     PopUpButton BaudPopUpButton{
         {"BaudPopUpButton", 0, "Speed", "Speed in baud", "Speed of the serial port, in bits a second."}};
-    TextField portDetailsField{{"portDetailsField", 0, "", "Port details", "What hangs on the chosen port."}};
+    TextField portDetailsField{{"portDetailsField", 0, "", "Port details", "The device on the chosen port."}};
     Button openCloseButton{
         {"openCloseButton", 0, "Connect", "Connect or disconnect", "Open the chosen port, or close it.", "Ctrl+O"}};
     TextField callTextField{{"callTextField", menuTagBase + callSignItem, "Call sign", "Call sign",
@@ -186,8 +186,8 @@ public:
                                 15};
     TextField autoMemSquelchTextField{
         {"autoMemSquelchTextField", 0, "", "Squelch level", "The squelch as the S-meter reads."}};
-    // The controls in cells: each stands for those of all rows of its column. Before it is pressed, a button's tag
-    // becomes the row's index.
+    // The controls in cells. One control serves all rows of its column; the tag of a button becomes the index of the
+    // row before it is pressed.
     PopUpButton memsTableModePopUpButton{{"memsTableModePopUpButton", 0, "Mode", "Mode of the memory channel",
                                           "Mode that this memory channel is written with."}};
     TextField memsTableFrequencyField{{"memsTableFrequencyField", 0, "MHz", "Frequency of the memory channel",

@@ -1,5 +1,5 @@
-// The keys that share the front-panel action: what stands on each and where it is found. One row per key. What a key
-// sends is said in controls/front_panel_actions.h.
+// The keys that share the front-panel action: their texts, and where the window shows them. One row per key.
+// controls/front_panel_actions.h says what a key sends.
 #pragma once
 
 #include <algorithm>
@@ -52,8 +52,8 @@ inline constexpr std::array frontPanelKeys{
     FrontPanelKey{{"", 200, "LSB", "Mode LSB", "Lower side band."}, KeyPanel::modes},
     FrontPanelKey{{"", 201, "USB", "Mode USB", "Upper side band."}, KeyPanel::modes},
     FrontPanelKey{{"", 202, "AM", "Mode AM", "Amplitude modulation."}, KeyPanel::modes},
-    FrontPanelKey{{"", 203, "CW-L", "Mode CW-L", "Telegraphy, lower side."}, KeyPanel::modes},
-    FrontPanelKey{{"", 204, "CW-U", "Mode CW-U", "Telegraphy, upper side."}, KeyPanel::modes},
+    FrontPanelKey{{"", 203, "CW-L", "Mode CW-L", "CW, lower side."}, KeyPanel::modes},
+    FrontPanelKey{{"", 204, "CW-U", "Mode CW-U", "CW, upper side."}, KeyPanel::modes},
     FrontPanelKey{{"", 205, "FM", "Mode FM", "Frequency modulation."}, KeyPanel::modes},
     FrontPanelKey{{"", 206, "RTTY-L", "Mode RTTY-L", "Radio teletype, lower side."}, KeyPanel::modes},
     FrontPanelKey{{"", 207, "RTTY-U", "Mode RTTY-U", "Radio teletype, upper side."}, KeyPanel::modes},

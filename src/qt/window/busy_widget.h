@@ -9,7 +9,7 @@
 
 namespace corvane {
 
-// Whether a hand on the widget comes to nothing because its control is busy. Keys that leave the widget still do.
+// Whether the widget ignores this key or mouse event because its control is busy. Tab still moves on.
 bool heldBack(const Control& control, QEvent& event);
 
 // Fades the widget while its control is busy.

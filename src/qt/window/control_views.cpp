@@ -66,7 +66,7 @@ void TextFieldView::keyPressEvent(QKeyEvent* event) {
 }
 
 void TextFieldView::focusOutEvent(QFocusEvent* event) {
-    // A menu or another window takes the keyboard for a moment only.
+    // A menu or another window takes the keyboard only for a moment: editing goes on after it.
     const bool leaves = event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
     if (leaves) model_.endEditing();
     QLineEdit::focusOutEvent(event);
@@ -86,7 +86,7 @@ TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : QL
 }
 
 NoticeLabel::NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : TextLabel(model, queue, parent) {
-    setFocusPolicy(Qt::StrongFocus);  // what it says can be copied
+    setFocusPolicy(Qt::StrongFocus);  // so that its text can be copied
     setContentsMargins(3 * gridStep, 2 * gridStep, 3 * gridStep, 2 * gridStep);
     setProperty("notice", true);
     const auto show = [this, &model] {

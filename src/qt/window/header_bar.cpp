@@ -15,7 +15,7 @@ namespace corvane {
 
 namespace {
 
-// The link in words, behind a lamp: filled while connected, a ring while not.
+// The state of the link: a lamp, filled while connected, else a ring, and words.
 class LinkLabel : public QLabel {
 public:
     LinkLabel(TextField& link, ChangeQueue& queue) : link_(link) {
@@ -52,7 +52,7 @@ private:
     ViewHandle view_;
 };
 
-// The mode's name in the size of a value.
+// The name of the mode, in large letters.
 class ModeLabel : public QLabel {
 public:
     ModeLabel(TextField& mode, ChangeQueue& queue) {

@@ -33,7 +33,7 @@ void paintLoudspeaker(QPainter& painter, const QRectF& square, bool mute, const 
     painter.restore();
 }
 
-// Whether the key has a state that its colour tells: to a screen reader such a key is pressed or not.
+// Whether the key shows a state by its colour. A screen reader calls such a key pressed or not pressed.
 bool lights(const Button& model) {
     const int tag = model.outlet().tag;
     const std::size_t index = frontPanelKeyIndex(tag);
@@ -78,7 +78,7 @@ void KeyButton::showModel() {
         setVisible(shown_);
     }
     const QString title = QString::fromStdString(model_.title());
-    // A text of the transceiver must not make a keyboard shortcut of its "&".
+    // A "&" in a text from the transceiver must not make a keyboard shortcut.
     const QString plain = QString(title).replace('&', "&&");
     if (text() != plain) setText(plain);
     // A title from the transceiver may be longer than its key.
@@ -97,7 +97,7 @@ QSize KeyButton::sizeHint() const {
             metrics.height() + 4 * gridStep};
 }
 
-// What always stands on a key is never cut.
+// A fixed title is never cut off.
 QSize KeyButton::minimumSizeHint() const {
     const int wanted = QFontMetrics(font()).horizontalAdvance(toQString(model_.outlet().title)) + 2 * gridStep;
     return {std::max(wanted, 7 * gridStep), sizeHint().height()};

@@ -34,7 +34,7 @@ constexpr std::array listPages{
     ListPage{"Medium wave", &Display::mwTable, &Display::mwStatusField, noKey},
 };
 
-// Keys, what to filter by, how many rows that leaves, and when the list was fetched; the table below.
+// At the top a refresh key, a filter, the number of rows that pass it, and when the list was fetched; below, the table.
 QWidget* makeListPage(Display& display, ChangeQueue& queue, const ListPage& list) {
     auto* page = new QWidget;
     auto* rows = new QVBoxLayout(page);
@@ -76,7 +76,7 @@ QWidget* makeListPage(Display& display, ChangeQueue& queue, const ListPage& list
     return page;
 }
 
-// A value on its colour.
+// A value on a background of its colour.
 class ConditionLabel : public QLabel {
 public:
     ConditionLabel(TextField& model, ChangeQueue& queue) : model_(model) {

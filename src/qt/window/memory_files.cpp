@@ -17,7 +17,7 @@ namespace corvane {
 namespace {
 
 constexpr auto filter = "Memory channels (*.csv);;All files (*)";
-constexpr qint64 largestFile = 1024 * 1024;  // bytes; 99 channels take some ten thousand
+constexpr qint64 largestFile = 1024 * 1024;  // bytes; 99 channels take about 10,000
 
 void tell(QWidget& window, const QString& what, const QString& why) {
     auto* box = new QMessageBox(QMessageBox::Warning, QApplication::applicationDisplayName(), what + "\n\n" + why,

@@ -1,4 +1,4 @@
-// The memory channels to a file and from one.
+// Export and import of the memory channels.
 #pragma once
 
 #include <QWidget>
@@ -7,8 +7,8 @@
 
 namespace corvane {
 
-// Lets the Export and Import keys ask for a file over `window`. An export replaces the file whole or not at all; an
-// import shows what would change before it changes the table. Neither holds up the event loop.
+// Lets the Export and Import keys ask for a file in a dialog of `window`. An export replaces the whole file or nothing;
+// an import shows what would change before it changes the table. Neither blocks the event loop.
 void bindMemoryFiles(QWidget& window, SerialPortDemoController& controller);
 
 }  // namespace corvane

@@ -1,4 +1,4 @@
-// The widget of a pop-up. It shows its model for as long as both live; a model without an action is only shown.
+// The widget of a pop-up. It shows its model as long as both live; a model without an action is only shown.
 #pragma once
 
 #include <QComboBox>
@@ -17,7 +17,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
-    // The wheel scrolls the page; it must not change a transceiver by the way.
+    // The wheel scrolls the page and must not change the transceiver.
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

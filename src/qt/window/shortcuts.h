@@ -1,4 +1,4 @@
-// The keyboard: what each shortcut does, from the tables of the controls.
+// The shortcuts of the window, from the texts of the controls.
 #pragma once
 
 #include <QString>

@@ -59,7 +59,7 @@ void VfoButton::paintEvent(QPaintEvent*) {
 
     const QString title = model().title().empty() ? emptyDisplay : QString::fromStdString(model().title());
     const QRect digits(16, labelHeight(), width() - 28, height() - labelHeight());
-    // The hertz are read last: they stand back a little.
+    // The hertz matter least: they are a little less bright.
     const qsizetype hertzAt = title.lastIndexOf('.');
     const QFontMetrics metrics(font());
     const int hertzWidth = metrics.horizontalAdvance(title.mid(hertzAt));
