@@ -108,13 +108,17 @@ TEST(ToolsTest, ADraggedSliderSendsFewCommandsAndItsLastValue) {
     ASSERT_TRUE(slider->isSliderDown());
     for (int x = knob(); x < slider->width(); ++x) QTest::mouseMove(slider, {x, y});
     EXPECT_GT(slider->value(), 200);
+    const auto sliderIsSet = [&] {
+        char gain[32];
+        std::snprintf(gain, sizeof gain, "AG0%03d;", slider->value());
+        return station.radio.transceiver.ask("AG0;") == gain;
+    };
+    ASSERT_TRUE(eventually(sliderIsSet));
     station.radio.operate([](auto& radio) { radio.setAfGain(33); });
     ASSERT_TRUE(eventually([&] { return station.controller.radio.vqAFLevel == "033"; }));
     EXPECT_GT(slider->value(), 200) << "it is held";
     QTest::mouseRelease(slider, Qt::LeftButton, {}, {slider->width() - 1, y});
-    char last[32];
-    std::snprintf(last, sizeof last, "AG0%03d;", slider->value());
-    EXPECT_TRUE(eventually([&] { return station.radio.transceiver.ask("AG0;") == last; }));
+    EXPECT_TRUE(eventually(sliderIsSet));
     const std::string sent = station.radio.takeReceived();
     EXPECT_LE(std::ranges::count(sent, ';'), 4) << sent;
 }
