@@ -6,7 +6,6 @@
 
 #include "controller/serial_port_demo_controller.h"
 #include "radio/response_assembler.h"
-#include "tests/support/every_control.h"
 #include "tests/support/surroundings.h"
 
 namespace corvane {
@@ -93,6 +92,7 @@ enum class Watching { nobody, everyControl };
 void receive(benchmark::State& state, const Traffic& traffic, Watching watching) {
     constexpr int responsesPerRefresh = 20;  // about six repaints a second of a fast spin
     ChangeQueue changes;
+    std::vector<ViewHandle> views;
     long shown = 0;
     Surroundings around;
     const auto port = std::make_shared<FakeSerialPort>("ttyUSB0");
@@ -101,7 +101,8 @@ void receive(benchmark::State& state, const Traffic& traffic, Watching watching)
     controller.setSerialPort(port);
     port->open();
     if (watching == Watching::everyControl)
-        forEachControl(controller.display, [&](Control& control) { control.addView(changes, [&shown] { ++shown; }); });
+        for (Control* control : controller.display.controls())
+            views.push_back(control->addView(changes, [&shown] { ++shown; }));
 
     int sinceRefresh = 0;
     ResponseAssembler assembler([&](std::string_view response) {

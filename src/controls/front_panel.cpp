@@ -95,9 +95,9 @@ void FrontPanel::press(Button&, const SwapKey& key) {
 // meanwhile.
 void FrontPanel::press(Button& sender, const PowerOnKey&) {
     link_.send("PS1;");
-    sender.setEnabled(false);
+    sender.setBusy(true);
     tasks_.after(1250ms, [this, &sender, session = link_.session()] {
-        sender.setEnabled(true);
+        sender.setBusy(false);
         if (session != link_.session()) return;  // another link by now
         link_.send("PS1;");
         finish("PS1;");

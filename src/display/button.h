@@ -22,10 +22,10 @@ public:
     Image image() const { return image_; }
     void setImage(Image image) { assign(image_, image); }
 
-    // What a press does. A button without an action shows something and cannot be pressed.
+    // What a press does. A button without an action only shows its title.
     std::function<void(Button&)> action;
     void performClick() {
-        if (enabled() && action) action(*this);
+        if (available() && action) action(*this);
     }
 
 private:

@@ -2,18 +2,16 @@
 
 #include <fmt/core.h>
 
+#include "display/control_list.h"
+
 namespace corvane {
 
-void ChangeQueue::add(Control& control) {
-    changed_.push_back(&control);
-    if (changed_.size() == 1 && onFirstChange) onFirstChange();
-}
+Control::Control(const Outlet& outlet) : outlet_(outlet), tag_(outlet.tag) { ControlList::enter(*this); }
 
-void ChangeQueue::refresh() {
-    const std::vector<Control*> changed = std::exchange(changed_, {});
-    for (Control* control : changed) {
-        control->queued_ = false;
-        for (const auto& show : control->views_) show();
+Control::~Control() {
+    for (View* view : views_) {
+        view->leaveQueue();
+        view->control = nullptr;
     }
 }
 
@@ -21,15 +19,18 @@ std::string Control::objectName() const {
     return outlet_.name.empty() ? fmt::format("tag{}", outlet_.tag) : std::string(outlet_.name);
 }
 
-void Control::addView(ChangeQueue& queue, std::function<void()> show) {
-    queue_ = &queue;
-    views_.push_back(std::move(show));
+ViewHandle Control::addView(ChangeQueue& queue, std::function<void()> show) {
+    auto view = std::make_unique<View>(*this, queue.self_, std::move(show));
+    views_.push_back(view.get());
+    allWait_ = false;
+    return ViewHandle(std::move(view));
 }
 
-void Control::markChanged() {
-    if (queued_ || !queue_) return;
-    queued_ = true;
-    queue_->add(*this);
+// By index: a queue may call back, and views may join meanwhile.
+void Control::tellQueues() {
+    allWait_ = true;
+    for (std::size_t i = 0; i < views_.size(); ++i)
+        if (!views_[i]->waiting && *views_[i]->queue) (*views_[i]->queue)->add(*views_[i]);
 }
 
 }  // namespace corvane

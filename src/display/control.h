@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "display/change_queue.h"
+
 namespace corvane {
 
 enum class Color { none, blue, green, orange, red, purple, pink, brown, gray, darkGray };
@@ -21,26 +23,10 @@ struct Outlet {
     std::string_view shortcut = {};  // e.g. "Ctrl+5"; empty for none
 };
 
-class Control;
-
-// The controls that changed since the shell last looked. `onFirstChange` is called when the first one joins, so that
-// the shell can plan one repaint for all that follow.
-class ChangeQueue {
-public:
-    std::function<void()> onFirstChange;
-
-    void add(Control& control);
-    // Has every changed control shown again, once; what changes meanwhile waits for the next call.
-    void refresh();
-
-private:
-    std::vector<Control*> changed_;
-};
-
 class Control {
 public:
-    explicit Control(const Outlet& outlet) : outlet_(outlet), tag_(outlet.tag) {}
-    virtual ~Control() = default;
+    explicit Control(const Outlet& outlet);
+    virtual ~Control();
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
@@ -54,12 +40,18 @@ public:
     bool enabled() const { return enabled_; }
     void setEnabled(bool enabled) { assign(enabled_, enabled); }
 
+    // A busy control cannot be used for a moment. Other than a disabled one it keeps the keyboard: where the focus
+    // jumps away, the next key press would go to a neighbour.
+    bool busy() const { return busy_; }
+    void setBusy(bool busy) { assign(busy_, busy); }
+    bool available() const { return enabled_ && !busy_; }  // to the operator
+
     bool visible() const { return visible_; }
     void setVisible(bool visible) { assign(visible_, visible); }
 
-    // Joins a view of this control: `show` is called by `queue.refresh()` after changes. The queue must outlive the
-    // control's last change.
-    void addView(ChangeQueue& queue, std::function<void()> show);
+    // Joins a view of this control to a queue: `queue.refresh()` calls `show` after changes, until the handle goes. A
+    // control may have views in several queues.
+    ViewHandle addView(ChangeQueue& queue, std::function<void()> show);
 
 protected:
     // A value that is there already changes nothing and tells nobody.
@@ -74,18 +66,22 @@ protected:
         field = value;
         markChanged();
     }
-    void markChanged();
+    void markChanged() {
+        if (!allWait_) tellQueues();
+    }
 
 private:
     friend class ChangeQueue;
+    friend struct View;
+    void tellQueues();
 
     const Outlet outlet_;
     int tag_;
     bool enabled_ = true;
+    bool busy_ = false;
     bool visible_ = true;
-    bool queued_ = false;
-    ChangeQueue* queue_ = nullptr;
-    std::vector<std::function<void()>> views_;
+    bool allWait_ = true;  // no queue need be told of a change: every view waits already, or there is none
+    std::vector<View*> views_;
 };
 
 }  // namespace corvane

@@ -92,6 +92,7 @@ Display::Display()
     scopePeakPopUpButton.setEntries(entryList(scopePeakEntries));
     scopeLevelPopUpButton.setEntries(scopeLevelEntries());
     scopeSpanPopUpButton.setEntries(entryList(scopeSpanEntries));
+    made.close();
 }
 
 }  // namespace corvane

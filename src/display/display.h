@@ -4,10 +4,12 @@
 
 #include <array>
 #include <deque>
+#include <span>
 #include <string_view>
 
 #include "display/box.h"
 #include "display/button.h"
+#include "display/control_list.h"
 #include "display/front_panel_keys.h"
 #include "display/level_indicator.h"
 #include "display/menu_controls.h"
@@ -35,8 +37,11 @@ struct Display {
 
     // The key that had this tag at first, e.g. key(20) is m20Button; there must be one.
     Button& key(int firstTag) { return keys.at(frontPanelKeyIndex(firstTag)); }
+    // All controls. A new member need not be named elsewhere: it enters itself.
+    std::span<Control* const> controls() const { return made.controls(); }
 
 private:
+    ControlList made;         // before any control
     std::deque<Button> keys;  // in the order of frontPanelKeys
 
 public:
@@ -60,7 +65,7 @@ public:
     PopUpButton PortPopUpButton{{"PortPopUpButton", 0, "Port", "Serial port", "The serial port of the transceiver."}};
     PopUpButton BaudPopUpButton{
         {"BaudPopUpButton", 0, "Speed", "Speed in baud", "Speed of the serial port, in bits a second."}};
-    TextField portDetailsField{{"portDetailsField", 0, "", "Port details", "What hangs on the chosen port."}};
+    TextField portDetailsField{{"portDetailsField", 0, "", "Port details", "The device on the chosen port."}};
     Button openCloseButton{
         {"openCloseButton", 0, "Connect", "Connect or disconnect", "Open the chosen port, or close it.", "Ctrl+O"}};
     TextField callTextField{{"callTextField", menuTagBase + callSignItem, "Call sign", "Call sign",
@@ -181,8 +186,8 @@ public:
                                 15};
     TextField autoMemSquelchTextField{
         {"autoMemSquelchTextField", 0, "", "Squelch level", "The squelch as the S-meter reads."}};
-    // The controls in cells: each stands for those of all rows of its column. Before it is pressed, a button's tag
-    // becomes the row's index.
+    // The controls in cells. One control serves all rows of its column; the tag of a button becomes the index of the
+    // row before it is pressed.
     PopUpButton memsTableModePopUpButton{{"memsTableModePopUpButton", 0, "Mode", "Mode of the memory channel",
                                           "Mode that this memory channel is written with."}};
     TextField memsTableFrequencyField{{"memsTableFrequencyField", 0, "MHz", "Frequency of the memory channel",

@@ -1,4 +1,4 @@
-// The small pictures that stand on controls, by the names that the platform's own pictures go by.
+// The small pictures on controls, under the names of the platform's own pictures.
 #pragma once
 
 namespace corvane {

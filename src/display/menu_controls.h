@@ -1,4 +1,5 @@
-// The controls of the transceiver's setup menu: a pop-up for every item, and what a page of them says of its reading.
+// The controls of the transceiver's setup menu: a pop-up for every item, and for every page a text and a bar that show
+// how far it has been read.
 #pragma once
 
 #include <deque>
@@ -32,7 +33,7 @@ public:
     }
 
 private:
-    std::deque<std::string> texts_;     // what the outlets of the pop-ups point at
+    std::deque<std::string> texts_;     // the texts that the outlets of the pop-ups refer to
     std::deque<PopUpButton> popUps_;    // in the order of menuItems
     std::deque<TextField> readFields_;  // by page
     std::deque<LevelIndicator> readProgress_;

@@ -14,7 +14,7 @@ public:
 
     std::function<void(MenuItem&)> action;
     void performClick() {
-        if (enabled() && action) action(*this);
+        if (available() && action) action(*this);
     }
 
 private:

@@ -23,13 +23,13 @@ public:
         bool operator==(const Group&) const = default;
     };
 
-    // An entry of this title keeps an index that has no meaning; it cannot be chosen.
+    // The title of an entry that stands for an index without a meaning; it cannot be chosen.
     static constexpr std::string_view unusedEntry = "-";
 
     const EntryTitles& titles() const { return titles_; }
     std::vector<std::string> entries() const { return titles_.list(); }  // all titles; for short lists
     const std::vector<Group>& groups() const { return groups_; }         // none: the entries are one plain list
-    // Replaces the entries, whose images go with them; nothing is selected afterwards.
+    // Replaces the entries and drops their images; nothing is selected afterwards.
     void setEntries(EntryTitles titles, std::vector<Group> groups = {}) {
         selected_ = noSelection;
         titles_ = std::move(titles);
@@ -69,18 +69,19 @@ public:
     std::function<void(PopUpButton&)> action;
     // The operator chooses an entry.
     void choose(int index) {
-        if (!enabled() || !action) return;
-        if (index >= 0 && index < titles_.size() && titles_.at(index) == unusedEntry) return markChanged();
+        if (!action) return;
+        const bool unused = index >= 0 && index < titles_.size() && titles_.at(index) == unusedEntry;
+        if (!available() || unused) return markChanged();  // a view may show the choice already
         selectedBefore_ = selected_;
         selectItem(index);
         action(*this);
     }
-    // For an action whose choice came to nothing: the entry of before is selected again.
+    // For an action that could not do what was chosen: selects the entry of before.
     void takeBack() { selectItem(selectedBefore_); }
 
 private:
     EntryTitles titles_;
-    std::vector<Image> images_;  // of the first entries, as far as any has one
+    std::vector<Image> images_;  // by index; those of the last entries may be missing
     std::vector<Group> groups_;
     int entriesVersion_ = 0;
     int selected_ = noSelection;

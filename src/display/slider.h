@@ -16,7 +16,7 @@ public:
     int minimum() const { return minimum_; }
     int maximum() const { return maximum_; }
     int integerValue() const { return value_; }
-    // The transceiver's value; one beyond an end stands at that end. While the knob is being moved it waits.
+    // The transceiver's value, limited to the range of the slider. It waits while the operator moves the knob.
     void setIntegerValue(int value) {
         value = std::clamp(value, minimum_, maximum_);
         if (moving_)
@@ -29,12 +29,13 @@ public:
     std::function<void(Slider&)> action;
     // The operator moves the knob.
     void drag(int value) {
-        if (!enabled() || !action) return;
+        if (!action) return;
+        if (!available()) return markChanged();  // a view may show the move already
         assign(value_, std::clamp(value, minimum_, maximum_));
         action(*this);
     }
 
-    // Between the two, reports of where the knob stood a moment ago do not pull it back.
+    // In between, late reports of an earlier position do not pull the knob back.
     void beginMove() { moving_ = true; }
     void endMove() {
         moving_ = false;

@@ -11,12 +11,12 @@ namespace corvane {
 
 struct TextCell {
     std::string text;
-    bool quiet = false;  // names something that holds nothing
+    bool quiet = false;  // painted less bright, e.g. the number of an empty channel
 
     bool operator==(const TextCell&) const = default;
 };
 
-// What the row is taken by to be dragged elsewhere.
+// The place where the mouse takes hold of the row to drag it.
 struct HandleCell {
     bool operator==(const HandleCell&) const = default;
 };
@@ -37,7 +37,7 @@ struct ButtonCell {
 };
 
 struct PopUpCell {
-    const EntryTitles* entries = nullptr;  // of the pop-up that stands for the column's; they live as long
+    const EntryTitles* entries = nullptr;  // of the pop-up that serves the column; they outlive the cell
     int selection = 0;                     // the entry that is shown; there must be one
 
     bool operator==(const PopUpCell& other) const { return selection == other.selection && *entries == *other.entries; }
@@ -56,8 +56,8 @@ using TableCell = std::variant<TextCell, HandleCell, LinkCell, ButtonCell, PopUp
 std::string textOf(const TableCell& cell);
 std::string textOf(TableCell&& cell);
 
-// The same in words, with what kind of cell it is: "Tune to this spot, button", "US-0001, link", "USB, pop-up menu",
-// "empty".
+// The same for a screen reader, followed by the kind of the cell: "Tune to this spot, button", "US-0001, link", "USB,
+// pop-up menu", "empty".
 std::string spokenTextOf(const TableCell& cell);
 
 }  // namespace corvane

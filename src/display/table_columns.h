@@ -14,7 +14,7 @@ inline constexpr std::array memoriesTableColumns{
     TableColumn{"mode", "Mode", 13},
     TableColumn{"memTag", "Memory Name", 16, TableColumn::Alignment::left, true},
 };
-// What is typed in a row goes by these.
+// The columns whose cells are edited.
 inline constexpr int memoryFrequencyColumn = 2;
 inline constexpr int memoryModeColumn = 3;
 inline constexpr int memoryTagColumn = 4;

@@ -1,5 +1,4 @@
-// A table: columns that stay, rows that are asked for. The lists behind the rows are the program's; the table knows how
-// to ask for them and where what is done to a cell goes.
+// A table: fixed columns, and rows that it asks a data source for. It passes on what the operator does in a cell.
 #pragma once
 
 #include <optional>
@@ -66,7 +65,7 @@ public:
     TableCell view(int row, int column) const;
     std::string cell(int row, int column) const { return textOf(view(row, column)); }
 
-    // The control that stands for those of all rows in a column. What is done in a cell is done to it.
+    // The control that serves all rows of a column: what the operator does in a cell is done to it.
     void setCellControl(std::string_view column, Button& control) { controlOf(column).button = &control; }
     void setCellControl(std::string_view column, PopUpButton& control) { controlOf(column).popUp = &control; }
     void setCellControl(std::string_view column, TextField& control) { controlOf(column).field = &control; }

@@ -12,8 +12,8 @@ public:
     using Control::Control;
 
     const std::string& stringValue() const { return text_; }
-    // The program's text. While the operator types it waits, so that a report of the transceiver takes nobody's word
-    // out of the mouth.
+    // The program's text. It waits while the operator types: a report of the transceiver never overwrites what is being
+    // typed.
     void setStringValue(std::string_view text) {
         if (editing_)
             waiting_ = text;
@@ -36,12 +36,12 @@ public:
         if (onEdit) onEdit(*this);
     }
     bool editing() const { return editing_; }
-    // What was typed stands, until the program has something else to show.
+    // What was typed stays until the program sets another text.
     void endEditing() {
         editing_ = false;
         waiting_.reset();
     }
-    // What was typed goes; the program's text of last comes back.
+    // Replaces what was typed by the program's latest text.
     void cancelEditing() {
         if (!std::exchange(editing_, false)) return;
         assign(text_, *std::exchange(waiting_, std::nullopt));
@@ -53,12 +53,12 @@ public:
         endEditing();
         assign(resignations_, resignations_ + 1);
     }
-    int resignations() const { return resignations_; }  // how often that was asked
+    int resignations() const { return resignations_; }  // how often it was asked to
 
     // What the Return key does. A field without an action only shows its text.
     std::function<void(TextField&)> action;
     void performReturn() {
-        if (enabled() && action) action(*this);
+        if (available() && action) action(*this);
     }
 
 private:

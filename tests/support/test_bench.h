@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "controller/serial_port_demo_controller.h"
-#include "tests/support/every_control.h"
 #include "tests/support/rows.h"
 #include "tests/support/surroundings.h"
 
@@ -20,15 +19,15 @@ using ControlNames = std::set<std::string>;  // "m20Button", "tag2007"
 class TestBench {
     ControlNames changed_;
     ChangeQueue changes_;
+    std::vector<ViewHandle> views_;
 
 public:
     explicit TestBench(MapSettingsStore::Values stored = {}) : controller(platformWith(std::move(stored)), hosts()) {
         controller.awakeFromNib();
         controller.setSerialPort(port);
         display.openCloseButton.performClick();
-        forEachControl(display, [this](Control& control) {
-            control.addView(changes_, [this, &control] { changed_.insert(control.objectName()); });
-        });
+        for (Control* control : display.controls())
+            views_.push_back(control->addView(changes_, [this, control] { changed_.insert(control->objectName()); }));
         forgetWhatHappened();
     }
 

@@ -113,7 +113,7 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     return field;
 }
 
-// A reload brings its text anew; what is being typed stays.
+// A reload sets the text again, but never overwrites what is being typed.
 void CellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
     auto* field = static_cast<QLineEdit*>(editor);
     if (!field->isModified()) field->setText(index.data(Qt::EditRole).toString());
@@ -146,7 +146,7 @@ bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
         text = QString::fromStdString(textOf(shown));
         if (option.fontMetrics.horizontalAdvance(text) <= textRect(option.rect).width()) return false;
     }
-    // Texts of the services are no mark-up.
+    // A text from a service may look like mark-up, but is plain text.
     const QString style = std::holds_alternative<LinkCell>(shown) ? " style='white-space:nowrap'" : "";
     QToolTip::showText(event->globalPos(), "<p" + style + ">" + text.toHtmlEscaped() + "</p>", view->viewport());
     return true;

@@ -17,12 +17,12 @@ public:
     CellDelegate(TableView& table, TableRows& rows, QObject* parent);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    // Where the text of a link stands: only that is pressed.
+    // The area of the text of a link: only a press there opens it.
     QRect linkRect(const QRect& cell, const QFont& font, const QModelIndex& index) const;
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
-    // What was not changed is not handed over, nor what was typed for a row that is gone or reads otherwise by now.
+    // Hands over what was typed; not when nothing was changed, or when the row is gone or has other contents by now.
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override;

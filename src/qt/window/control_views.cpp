@@ -7,28 +7,34 @@
 #include <algorithm>
 #include <utility>
 
+#include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
 
 namespace corvane {
 
-SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent)
+    : QSlider(Qt::Horizontal, parent), model_(model) {
     describe(*this, model);
     setRange(model.minimum(), model.maximum());
     setPageStep(std::max(1, (model.maximum() - model.minimum()) / 16));
     const auto show = [this, &model] {
         setEnabled(model.enabled() && model.action);
+        if (model.busy()) setSliderDown(false);
+        fadeWhileBusy(*this, model);
         if (!isSliderDown() && value() != model.integerValue()) {
             const QSignalBlocker quiet(this);
             setValue(model.integerValue());
         }
-        setAccessibleName(spokenWithValue(model, std::to_string(model.integerValue())));
+        setSpokenName(*this, model, spokenWithValue(model, std::to_string(model.integerValue())));
     };
     connect(this, &QSlider::valueChanged, this, [&model](int value) { model.drag(value); });
     connect(this, &QSlider::sliderReleased, this, show);
-    model.addView(queue, show);
+    view_ = model.addView(queue, show);
     show();
 }
+
+bool SliderView::event(QEvent* event) { return heldBack(model_, *event) || QSlider::event(event); }
 
 void SliderView::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
@@ -36,12 +42,10 @@ TextFieldView::TextFieldView(TextField& model, ChangeQueue& queue, QWidget* pare
     : QLineEdit(parent), model_(model), resignations_(model.resignations()) {
     describe(*this, model);
     if (model.maximumLength() > 0) setMaxLength(model.maximumLength());
-    const bool shown = !model.action && !model.onEdit;
-    setReadOnly(shown);
-    setProperty("shown", shown);
+    setProperty("shown", !takesText());
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { model_.edit(text.toStdString()); });
     connect(this, &QLineEdit::returnPressed, this, [this] { model_.performReturn(); });
-    model.addView(queue, [this] { showModel(); });
+    view_ = model.addView(queue, [this] { showModel(); });
     showModel();
 }
 
@@ -49,6 +53,9 @@ void TextFieldView::showModel() {
     const QString shown = QString::fromStdString(model_.stringValue());
     if (text() != shown) setText(shown);
     setEnabled(model_.enabled());
+    setReadOnly(!takesText() || model_.busy());
+    fadeWhileBusy(*this, model_);
+    setSpokenName(*this, model_, accessibleName());
     if (std::exchange(resignations_, model_.resignations()) != model_.resignations()) clearFocus();
 }
 
@@ -59,7 +66,7 @@ void TextFieldView::keyPressEvent(QKeyEvent* event) {
 }
 
 void TextFieldView::focusOutEvent(QFocusEvent* event) {
-    // A menu or another window takes the keyboard for a moment only.
+    // A menu or another window takes the keyboard only for a moment: editing goes on after it.
     const bool leaves = event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
     if (leaves) model_.endEditing();
     QLineEdit::focusOutEvent(event);
@@ -74,12 +81,12 @@ TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : QL
         setText(QString::fromStdString(model.stringValue()));
         setAccessibleName(spokenWithValue(model, model.stringValue()));
     };
-    model.addView(queue, show);
+    view_ = model.addView(queue, show);
     show();
 }
 
 NoticeLabel::NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : TextLabel(model, queue, parent) {
-    setFocusPolicy(Qt::StrongFocus);  // what it says can be copied
+    setFocusPolicy(Qt::StrongFocus);  // so that its text can be copied
     setContentsMargins(3 * gridStep, 2 * gridStep, 3 * gridStep, 2 * gridStep);
     setProperty("notice", true);
     const auto show = [this, &model] {
@@ -87,7 +94,7 @@ NoticeLabel::NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent) 
         QAccessibleEvent alert(this, QAccessible::Alert);
         if (!model.stringValue().empty()) QAccessible::updateAccessibility(&alert);
     };
-    model.addView(queue, show);
+    notice_ = model.addView(queue, show);
     if (model.stringValue().empty()) hide();
 }
 
@@ -99,7 +106,7 @@ ProgressView::ProgressView(LevelIndicator& model, ChangeQueue& queue, QWidget* p
         setValue(model.integerValue());
         setVisible(model.visible());
     };
-    model.addView(queue, show);
+    view_ = model.addView(queue, show);
     setValue(model.integerValue());
     if (!model.visible()) hide();
 }

@@ -1,5 +1,5 @@
-// Widgets that show the other kinds of controls. Each shows its model for as long as both live, and hands what the
-// operator does to it; a model without an action is only shown.
+// Widgets of the other kinds of controls. Each shows its model as long as both live, and passes on what the operator
+// does. A model without an action is only shown.
 #pragma once
 
 #include <QLabel>
@@ -17,7 +17,7 @@ class QMenu;
 
 namespace corvane {
 
-// While its knob is held it follows the hand alone.
+// While the operator holds the knob, reports do not move it.
 class SliderView : public QSlider {
     Q_OBJECT
 
@@ -25,7 +25,12 @@ public:
     SliderView(Slider& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
 protected:
+    bool event(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+
+private:
+    const Slider& model_;
+    ViewHandle view_;
 };
 
 class TextFieldView : public QLineEdit {
@@ -40,9 +45,11 @@ protected:
 
 private:
     void showModel();
+    bool takesText() const { return model_.action || model_.onEdit; }
 
     TextField& model_;
     int resignations_;
+    ViewHandle view_;
 };
 
 // A text that is only read.
@@ -51,14 +58,20 @@ class TextLabel : public QLabel {
 
 public:
     TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+private:
+    ViewHandle view_;
 };
 
-// A text that says why something was refused. It stands there only while there is something to say, and is announced.
+// A text that says why something was refused. It is visible while it is not empty, and a screen reader announces it.
 class NoticeLabel : public TextLabel {
     Q_OBJECT
 
 public:
     NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+private:
+    ViewHandle notice_;
 };
 
 // How much of something is done.
@@ -67,9 +80,12 @@ class ProgressView : public QProgressBar {
 
 public:
     ProgressView(LevelIndicator& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+private:
+    ViewHandle view_;
 };
 
-// A pop-up whose entries stand in groups: a key that opens a menu of menus.
+// A pop-up with grouped entries: a key that opens a menu with a sub-menu for each group.
 class GroupedPopUpView : public QPushButton {
     Q_OBJECT
 

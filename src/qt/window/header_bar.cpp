@@ -15,13 +15,13 @@ namespace corvane {
 
 namespace {
 
-// The link in words, behind a lamp: filled while connected, a ring while not.
+// The state of the link: a lamp, filled while connected, else a ring, and words.
 class LinkLabel : public QLabel {
 public:
     LinkLabel(TextField& link, ChangeQueue& queue) : link_(link) {
         describe(*this, link);
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        link.addView(queue, [this] { showModel(); });
+        view_ = link.addView(queue, [this] { showModel(); });
         showModel();
     }
 
@@ -49,22 +49,27 @@ private:
     }
 
     TextField& link_;
+    ViewHandle view_;
 };
 
-// The mode's name in the size of a value.
-QLabel* modeLabel(TextField& mode, ChangeQueue& queue) {
-    auto* label = new QLabel;
-    describe(*label, mode);
-    label->setFont(typeface(TypeSize::value, QFont::DemiBold));
-    const auto show = [label, &mode] {
-        const std::string& name = mode.stringValue();
-        label->setText(name.empty() ? QStringLiteral("\u2013") : QString::fromStdString(name));
-        label->setAccessibleName(spokenWithValue(mode, name));
-    };
-    mode.addView(queue, show);
-    show();
-    return label;
-}
+// The name of the mode, in large letters.
+class ModeLabel : public QLabel {
+public:
+    ModeLabel(TextField& mode, ChangeQueue& queue) {
+        describe(*this, mode);
+        setFont(typeface(TypeSize::value, QFont::DemiBold));
+        const auto show = [this, &mode] {
+            const std::string& name = mode.stringValue();
+            setText(name.empty() ? QStringLiteral("\u2013") : QString::fromStdString(name));
+            setAccessibleName(spokenWithValue(mode, name));
+        };
+        view_ = mode.addView(queue, show);
+        show();
+    }
+
+private:
+    ViewHandle view_;
+};
 
 }  // namespace
 
@@ -87,7 +92,7 @@ QWidget* HeaderBar::makeStatusBlock(Display& display, ChangeQueue& queue) {
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(2 * gridStep);
     grid->addWidget(new SMeterView(display.sMeter, queue), 0, 0, 1, 3);
-    grid->addWidget(modeLabel(display.modeField, queue), 1, 0);
+    grid->addWidget(new ModeLabel(display.modeField, queue), 1, 0);
     grid->addWidget(new KeyButton(display.licenseClassButton, queue), 1, 1);
     grid->addWidget(new KeyButton(display.vqMemAButton, queue), 1, 2);
     grid->addWidget(new LinkLabel(display.linkStatusField, queue), 2, 0, 1, 3);

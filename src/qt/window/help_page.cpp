@@ -10,7 +10,7 @@
 
 namespace corvane {
 
-QWidget* makeHelpPage(Display& display) {
+QWidget* makeHelpPage(const Display& display) {
     auto* page = new QWidget;
     auto* rows = new QVBoxLayout(page);
     rows->setContentsMargins(pageMargins);

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "display/front_panel_keys.h"
+#include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
 
@@ -31,7 +32,7 @@ void paintLoudspeaker(QPainter& painter, const QRectF& square, bool mute, const 
     painter.restore();
 }
 
-// To a screen reader a key that lights is pressed or not.
+// A screen reader calls a key that lights pressed or not pressed.
 bool lights(const Button& model) {
     const std::size_t index = frontPanelKeyIndex(model.outlet().tag);
     return index < frontPanelKeys.size() && corvane::lights(frontPanelKeys[index].action);
@@ -58,7 +59,7 @@ KeyButton::KeyButton(Button& model, ChangeQueue& queue, const QFont& font, QWidg
         showing_ = false;
         model_.performClick();
     });
-    model.addView(queue, [this] { showModel(); });
+    view_ = model.addView(queue, [this] { showModel(); });
     showModel();
 }
 
@@ -67,18 +68,18 @@ void KeyButton::showModel() {
     if (isCheckable()) setChecked(model_.bezelColor() != Color::none);
     showing_ = false;
     if (isEnabled() != model_.enabled()) setEnabled(model_.enabled());
+    if (model_.busy()) setDown(false);
     if (shown_ != model_.visible()) {
         shown_ = model_.visible();
         setVisible(shown_);
     }
     const QString title = QString::fromStdString(model_.title());
-    // A text of the transceiver must not make a keyboard shortcut of its "&".
+    // A "&" in a text from the transceiver must not make a keyboard shortcut.
     const QString plain = QString(title).replace('&', "&&");
     if (text() != plain) setText(plain);
     // A title from the transceiver may be longer than its key.
     if (model_.outlet().title.empty() && !title.isEmpty()) setToolTip(title.trimmed() + "\n" + toolTipOf(model_));
-    const QString name = spokenName();
-    if (accessibleName() != name) setAccessibleName(name);
+    setSpokenName(*this, model_, spokenName());
     update();
 }
 
@@ -92,11 +93,13 @@ QSize KeyButton::sizeHint() const {
             metrics.height() + 4 * gridStep};
 }
 
-// What always stands on a key is never cut.
+// A fixed title is never cut off.
 QSize KeyButton::minimumSizeHint() const {
     const int wanted = QFontMetrics(font()).horizontalAdvance(toQString(model_.outlet().title)) + 2 * gridStep;
     return {std::max(wanted, 7 * gridStep), sizeHint().height()};
 }
+
+bool KeyButton::event(QEvent* event) { return heldBack(model_, *event) || QPushButton::event(event); }
 
 void KeyButton::paintEvent(QPaintEvent*) {
     const Theme& theme = Theme::current();
@@ -106,10 +109,11 @@ void KeyButton::paintEvent(QPaintEvent*) {
     QColor fill = theme.of(model_.bezelColor(), underMouse() && model_.action ? theme.keyHover : theme.key);
     if (!model_.action && !lit) fill = theme.panel;
     if (isDown()) fill = fill.darker(120);
-    if (!isEnabled()) fill = theme.panel;
+    const bool grey = !isEnabled() || model_.busy();
+    if (grey) fill = theme.panel;
     paintCap(painter, fill);
     QColor ink = lit ? readableOn(fill) : theme.text;
-    if (!isEnabled()) ink = palette().color(QPalette::Disabled, QPalette::ButtonText);
+    if (grey) ink = palette().color(QPalette::Disabled, QPalette::ButtonText);
     paintFace(painter, rect().adjusted(2, 0, -2, 0), ink);
 }
 

@@ -13,18 +13,19 @@ class KeyButton : public QPushButton {
     Q_OBJECT
 
 public:
-    // Shows `model` for as long as both live. A lit key is "checked" to a screen reader.
+    // Shows `model` as long as both live. A lit key is "checked" to a screen reader.
     KeyButton(Button& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
-    // A font can only be given once: under a style sheet a later one is forgotten.
+    // Takes the font here, as a style sheet makes Qt ignore a later one.
     KeyButton(Button& model, ChangeQueue& queue, const QFont& font, QWidget* parent);
 
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void nextCheckState() override {}  // only the model lights and darkens a key
+    void nextCheckState() override {}  // only the model lights a key
 
     const Button& model() const { return model_; }
     // The face of the key on its cap; `ink` reads well on it.
@@ -38,6 +39,7 @@ private:
     Button& model_;
     bool showing_ = false;
     bool shown_ = true;
+    ViewHandle view_;
 };
 
 }  // namespace corvane

@@ -11,7 +11,7 @@ namespace corvane {
 
 namespace {
 
-// The bands stand as on a dial, the lowest first; the two that are no amateur bands come last.
+// Bands are in the order of a dial, the lowest first; the two that are not amateur bands come last.
 std::vector<Button*> keysOf(Display& display, KeyPanel panel) {
     std::vector<Button*> keys;
     for (const FrontPanelKey& row : frontPanelKeys)

@@ -15,30 +15,32 @@ namespace corvane {
 
 namespace {
 
-QWidget* logView(TextField& log, ChangeQueue& queue) {
-    auto* view = new QPlainTextEdit;
-    describe(*view, log);
-    view->setReadOnly(true);
-    view->setTabChangesFocus(true);
-    view->setPlaceholderText("What was sent, newest first");
-    const auto show = [view, &log] { view->setPlainText(QString::fromStdString(log.stringValue())); };
-    log.addView(queue, show);
-    show();
-    return view;
-}
+class LogView : public QPlainTextEdit {
+public:
+    LogView(TextField& log, ChangeQueue& queue) {
+        describe(*this, log);
+        setReadOnly(true);
+        setTabChangesFocus(true);
+        setPlaceholderText("What was sent, newest first");
+        const auto show = [this, &log] { setPlainText(QString::fromStdString(log.stringValue())); };
+        view_ = log.addView(queue, show);
+        show();
+    }
+
+private:
+    ViewHandle view_;
+};
 
 Panel* sendPanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel({});
-    const auto show = [panel, &box = display.sendBox] {
+    panel->follow(display.sendBox, queue, [panel, &box = display.sendBox] {
         panel->setTitle(toQString(box.title()));
         panel->setTitleQuiet(box.titleColor() != Color::none);
-    };
-    display.sendBox.addView(queue, show);
-    show();
+    });
     auto* columns = new QHBoxLayout;
     columns->setSpacing(4 * gridStep);
     columns->addLayout(numberedKeys({display.textMemoryButtons.begin(), display.textMemoryButtons.end()}, queue), 2);
-    columns->addWidget(logView(display.sentTextMemoryField, queue), 1);
+    columns->addWidget(new LogView(display.sentTextMemoryField, queue), 1);
     panel->content().addLayout(columns);
     panel->content().addLayout(entryRow(display.textMemoryField, "Text to transmit",
                                         {&display.sendTextMemoryButton, &display.clearTextMemoryButton}, queue));
@@ -47,8 +49,8 @@ Panel* sendPanel(Display& display, ChangeQueue& queue) {
     return panel;
 }
 
-Panel* familyPanel(const QString& title, std::deque<Button>& memories, TextField& text, PopUpButton& memory,
-                   ChangeQueue& queue) {
+Panel* groupPanel(const QString& title, std::deque<Button>& memories, TextField& text, PopUpButton& memory,
+                  ChangeQueue& queue) {
     auto* panel = new Panel(title);
     std::vector<Button*> keys;
     for (Button& key : memories) keys.push_back(&key);
@@ -76,13 +78,13 @@ QWidget* makeKeyerPage(Display& display, ChangeQueue& queue) {
     grid->setSpacing(4 * gridStep);
     grid->addWidget(sendPanel(display, queue), 0, 0, 1, 3);
     grid->addWidget(
-        familyPanel("CW memories", display.cwMemoryButtons, display.cwMemoryField, display.cwMemoryPopUpButton, queue),
+        groupPanel("CW memories", display.cwMemoryButtons, display.cwMemoryField, display.cwMemoryPopUpButton, queue),
         1, 0);
-    grid->addWidget(familyPanel("RTTY memories", display.rttyMemoryButtons, display.rttyMemoryField,
-                                display.rttyMemoryPopUpButton, queue),
+    grid->addWidget(groupPanel("RTTY memories", display.rttyMemoryButtons, display.rttyMemoryField,
+                               display.rttyMemoryPopUpButton, queue),
                     1, 1);
-    grid->addWidget(familyPanel("PSK memories", display.pskMemoryButtons, display.pskMemoryField,
-                                display.pskMemoryPopUpButton, queue),
+    grid->addWidget(groupPanel("PSK memories", display.pskMemoryButtons, display.pskMemoryField,
+                               display.pskMemoryPopUpButton, queue),
                     1, 2);
     for (int column = 0; column < 3; ++column) grid->setColumnStretch(column, 1);
     grid->addWidget(new NoticeLabel(display.memoryTextNoticeField, queue), 2, 0, 1, 3);

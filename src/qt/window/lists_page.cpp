@@ -34,7 +34,7 @@ constexpr std::array listPages{
     ListPage{"Medium wave", &Display::mwTable, &Display::mwStatusField, noKey},
 };
 
-// Keys, what to filter by, how many rows that leaves, and when the list was fetched; the table below.
+// At the top a refresh key, a filter, the number of rows that pass it, and when the list was fetched; below, the table.
 QWidget* makeListPage(Display& display, ChangeQueue& queue, const ListPage& list) {
     auto* page = new QWidget;
     auto* rows = new QVBoxLayout(page);
@@ -76,7 +76,7 @@ QWidget* makeListPage(Display& display, ChangeQueue& queue, const ListPage& list
     return page;
 }
 
-// A value on its colour.
+// A value on a background of its colour.
 class ConditionLabel : public QLabel {
 public:
     ConditionLabel(TextField& model, ChangeQueue& queue) : model_(model) {
@@ -84,7 +84,7 @@ public:
         setAlignment(Qt::AlignCenter);
         setMinimumWidth(16 * gridStep);
         setContentsMargins(gridStep, gridStep, gridStep, gridStep);
-        model.addView(queue, [this] { showModel(); });
+        view_ = model.addView(queue, [this] { showModel(); });
         showModel();
     }
 
@@ -110,6 +110,7 @@ private:
     }
 
     TextField& model_;
+    ViewHandle view_;
 };
 
 QWidget* makeConditionsPage(Display& display, ChangeQueue& queue) {
@@ -117,9 +118,7 @@ QWidget* makeConditionsPage(Display& display, ChangeQueue& queue) {
     auto* rows = new QVBoxLayout(page);
     rows->setContentsMargins(pageMargins);
     auto* panel = new Panel({});
-    const auto show = [panel, &box = display.bandBox] { panel->setTitle(toQString(box.title())); };
-    display.bandBox.addView(queue, show);
-    show();
+    panel->follow(display.bandBox, queue, [panel, &box = display.bandBox] { panel->setTitle(toQString(box.title())); });
     auto* grid = new QGridLayout;
     grid->setSpacing(2 * gridStep);
     grid->addWidget(new QLabel("Day"), 0, 1);

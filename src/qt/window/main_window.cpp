@@ -33,7 +33,7 @@ constexpr auto geometryKey = "windowGeometry";
 MainWindow::MainWindow(SerialPortDemoController& controller) : controller_(controller) {
     setWindowTitle("Corvane");
     setObjectName("mainWindow");
-    // However many reports arrive in one turn of the event loop, the controls are shown anew once.
+    // All reports that arrive in one turn of the event loop cause one refresh.
     queue_.onFirstChange = [this] {
         QMetaObject::invokeMethod(
             this, [this] { queue_.refresh(); }, Qt::QueuedConnection);
@@ -43,15 +43,14 @@ MainWindow::MainWindow(SerialPortDemoController& controller) : controller_(contr
         MemoryImportPreview::open(std::move(import), shown, this, std::move(take));
     };
     makePages();
-    // The style sheet polishes every widget there is, and again each one that joins a layout later: once is 50 ms
-    // faster.
+    // Applied before the pages are made, the style sheet would polish every widget twice, which takes 50 ms.
     chooseTheme(QString::fromStdString(controller_.userDefaults.text(themeKey).value_or("dark")));
     makeMenus();
     addShortcuts(*this, controller_.display);
     addFieldShortcut(controller_.display.sendTextField, Display::stationPage);
     addFieldShortcut(controller_.display.freqTextField, Display::radioPage);
     addFieldShortcut(controller_.display.textMemoryField, Display::keyerPage);
-    // The first thing to do is to connect: Space does it.
+    // An operator connects first: Space alone does it.
     if (auto* connectKey = findChild<QPushButton*>("openCloseButton")) connectKey->setFocus();
     resize(1280, 800);
     const std::string geometry = controller_.userDefaults.text(geometryKey).value_or("");
@@ -136,13 +135,13 @@ void MainWindow::addPreference(QMenu& menu, MenuItem& item) {
         action->setChecked(item.checked());
     });
     const auto show = [action, &item] { action->setChecked(item.checked()); };
-    item.addView(queue_, show);
+    preferences_.push_back(item.addView(queue_, show));
     show();
 }
 
 void MainWindow::showPage(int index) { controller_.display.mainTab.selectItem(index); }
 
-// Brings the field's page to the front and the keyboard into the field, its text marked to be typed over.
+// Shows the page, moves the keyboard into the field and selects its text, so that typing replaces it.
 void MainWindow::addFieldShortcut(const TextField& field, int page) {
     auto* shortcut = new QShortcut(QKeySequence(toQString(field.outlet().shortcut)), this);
     connect(shortcut, &QShortcut::activated, this, [this, &field, page] {

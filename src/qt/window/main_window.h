@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <vector>
 
 #include "controller/serial_port_demo_controller.h"
 
@@ -31,6 +32,7 @@ private:
 
     SerialPortDemoController& controller_;
     ChangeQueue queue_;
+    std::vector<ViewHandle> preferences_;
     bool painted_ = false;
 };
 

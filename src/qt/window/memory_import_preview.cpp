@@ -17,13 +17,13 @@ namespace corvane {
 namespace {
 
 constexpr int lineHeight = 27;
-constexpr std::size_t mostRefused = 200;  // lines that are listed; of a file of something else nobody reads more
+constexpr std::size_t mostRefused = 200;  // lines that are listed: nobody reads more of a wrong file
 
 QString counted(std::size_t count, const QString& noun) {
     return QString::number(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
-// Room in front of a text, so that it stands below its title.
+// Puts a space before the text, which aligns it with its title.
 class RoomyCells final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -32,7 +32,7 @@ public:
     }
 };
 
-// The points of the frequencies stand below each other.
+// Aligns the frequencies at their decimal points.
 QString aligned(const MemoryChannel& channel) {
     const QString words = toQString(channelInWords(channel));
     return words.indexOf('.') == 1 ? QChar(0x2007) + words : words;
@@ -61,7 +61,7 @@ QTableWidget* listOf(const QStringList& titles, int rows, const QString& name) {
 
 void setCell(QTableWidget& list, int row, int column, const QString& text) {
     auto* cell = new QTableWidgetItem(text);
-    cell->setToolTip("<p>" + text.toHtmlEscaped() + "</p>");  // or it would be guessed to be mark-up
+    cell->setToolTip("<p>" + text.toHtmlEscaped() + "</p>");  // else Qt may take it for mark-up
     list.setItem(row, column, cell);
 }
 

@@ -1,4 +1,4 @@
-// What a file of memory channels would change, for the operator to take or leave.
+// Shows what a file of memory channels would change; the operator accepts it or not.
 #pragma once
 
 #include <QDialog>
@@ -17,7 +17,7 @@ class MemoryImportPreview : public QDialog {
     Q_OBJECT
 
 public:
-    // Lists the channels that would not stay as they are in `table`, each with a tick, and the lines that are refused.
+    // Lists the channels that differ from those in `table`, each with a tick, and the lines that are refused.
     MemoryImportPreview(MemoryImport import, const MemoryTable& table, QWidget* parent);
 
     // Shows one over `window`; `take` is called with the ticked channels if the operator takes them.

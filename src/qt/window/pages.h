@@ -13,6 +13,6 @@ QWidget* makeKeyerPage(Display& display, ChangeQueue& queue);
 QWidget* makeMemoriesPage(Display& display, ChangeQueue& queue);
 QWidget* makeListsPage(Display& display, ChangeQueue& queue);
 QWidget* makeSettingsPage(Display& display, ChangeQueue& queue);
-QWidget* makeHelpPage(Display& display);
+QWidget* makeHelpPage(const Display& display);
 
 }  // namespace corvane

@@ -27,6 +27,11 @@ void Panel::setTitleQuiet(bool quiet) {
     title_->setForegroundRole(quiet ? QPalette::PlaceholderText : QPalette::WindowText);
 }
 
+void Panel::follow(Control& control, ChangeQueue& queue, const std::function<void()>& show) {
+    view_ = control.addView(queue, show);
+    show();
+}
+
 void Panel::paintEvent(QPaintEvent*) {
     const Theme& theme = Theme::current();
     QPainter painter(this);

@@ -3,6 +3,9 @@
 
 #include <QFrame>
 #include <QString>
+#include <functional>
+
+#include "display/control.h"
 
 class QLabel;
 class QVBoxLayout;
@@ -17,6 +20,8 @@ public:
 
     void setTitle(const QString& title);
     void setTitleQuiet(bool quiet);  // quiet at first
+    // Calls `show`, now and after changes of the control.
+    void follow(Control& control, ChangeQueue& queue, const std::function<void()>& show);
     QVBoxLayout& content() { return *content_; }
 
 protected:
@@ -25,6 +30,7 @@ protected:
 private:
     QLabel* title_;
     QVBoxLayout* content_;
+    ViewHandle view_;
 };
 
 }  // namespace corvane

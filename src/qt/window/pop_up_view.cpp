@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QSignalBlocker>
 
+#include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
 
@@ -38,7 +39,7 @@ QVariant pictureOf(Image image) {
 
 }  // namespace
 
-// Asks the pop-up for an entry when it is shown, so that ten thousand entries cost no more than the visible ones.
+// Fetches an entry only when it is shown, so that 10,000 entries cost no more than the visible ones.
 class EntryModel : public QAbstractListModel {
 public:
     EntryModel(const PopUpButton& popUp, QObject* parent) : QAbstractListModel(parent), popUp_(popUp) {}
@@ -70,7 +71,7 @@ PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent)
     describe(*this, model);
     setModel(entries_);
     if (auto* list = qobject_cast<QListView*>(view()))
-        list->setUniformItemSizes(true);  // they are not measured one by one
+        list->setUniformItemSizes(true);  // so that Qt does not measure each
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(6);
     setMaxVisibleItems(18);
@@ -79,7 +80,7 @@ PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent)
     setProperty("shown", !model.action);
     setFocusPolicy(model.action ? Qt::StrongFocus : Qt::TabFocus);
     connect(this, &QComboBox::activated, this, [this](int index) { model_.choose(index); });
-    model.addView(queue, [this] { showModel(); });
+    view_ = model.addView(queue, [this] { showModel(); });
     showModel();
 }
 
@@ -91,8 +92,13 @@ void PopUpView::showModel() {
     }
     if (isEnabled() != model_.enabled()) setEnabled(model_.enabled());
     setCurrentIndex(model_.indexOfSelectedItem());
-    setAccessibleName(model_.action ? labelOf(model_) : spokenWithValue(model_, model_.titleOfSelectedItem()));
+    if (model_.busy()) hidePopup();
+    fadeWhileBusy(*this, model_);
+    setSpokenName(*this, model_,
+                  model_.action ? labelOf(model_) : spokenWithValue(model_, model_.titleOfSelectedItem()));
 }
+
+bool PopUpView::event(QEvent* event) { return heldBack(model_, *event) || QComboBox::event(event); }
 
 void PopUpView::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
@@ -100,7 +106,7 @@ void PopUpView::mousePressEvent(QMouseEvent* event) {
     if (model_.action) QComboBox::mousePressEvent(event);
 }
 
-// Walking through the entries of a closed list would send every one that is passed: the keys open it instead.
+// Arrow keys on a closed list would choose, and so send, every entry on the way: they open the list instead.
 void PopUpView::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Tab:

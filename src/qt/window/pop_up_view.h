@@ -1,4 +1,4 @@
-// The widget of a pop-up. It shows its model for as long as both live; a model without an action is only shown.
+// The widget of a pop-up. It shows its model as long as both live; a model without an action is only shown.
 #pragma once
 
 #include <QComboBox>
@@ -16,7 +16,8 @@ public:
     PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
 protected:
-    // The wheel scrolls the page; it must not change a transceiver by the way.
+    bool event(QEvent* event) override;
+    // The wheel scrolls the page and must not change the transceiver.
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -27,6 +28,7 @@ private:
     PopUpButton& model_;
     EntryModel* entries_;
     int shownEntries_ = -1;
+    ViewHandle view_;
 };
 
 }  // namespace corvane

@@ -37,7 +37,7 @@ Panel* keysPanel(const QString& title, Display& display, KeyPanel keys, ChangeQu
     return panel;
 }
 
-// Pressing it leaves the keyboard in the field.
+// A click on it leaves the keyboard in the field.
 KeyButton* tuneKey(Display& display, ChangeQueue& queue) {
     auto* key = new KeyButton(display.tuneButton, queue);
     key->setFocusPolicy(Qt::TabFocus);
@@ -97,7 +97,7 @@ Panel* scopePanel(Display& display, ChangeQueue& queue) {
     return panel;
 }
 
-// Receiving keys and transmitting keys keep a distance.
+// A gap separates the keys for receiving from those for transmitting.
 Panel* functionsPanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel("Functions");
     panel->content().addLayout(keyGrid(display, KeyPanel::functions, queue, 4));

@@ -14,7 +14,7 @@ SMeterView::SMeterView(LevelIndicator& model, ChangeQueue& queue, QWidget* paren
     setFont(typeface(TypeSize::small));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     const auto show = [this, &model] { setValue(model.integerValue()); };
-    model.addView(queue, show);
+    view_ = model.addView(queue, show);
     show();
 }
 

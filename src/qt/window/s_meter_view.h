@@ -18,6 +18,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    ViewHandle view_;
 };
 
 }  // namespace corvane

@@ -37,7 +37,7 @@ int matchesOnPage(int page, std::string_view search) {
     }));
 }
 
-// The search box, and the tabs with what it leaves of each group.
+// The search box, and a tab with the matching items of each group.
 class SettingsPage : public QWidget {
 public:
     SettingsPage(Display& display, ChangeQueue& queue) : display_(display), queue_(queue) {

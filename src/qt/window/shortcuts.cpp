@@ -9,7 +9,24 @@ namespace corvane {
 
 namespace {
 
-ShortcutText textOf(const Outlet& outlet) { return {toQString(outlet.shortcut), toQString(outlet.label)}; }
+bool isKey(const Control& control) { return frontPanelKeyIndex(control.outlet().tag) < frontPanelKeys.size(); }
+
+// The controls with a shortcut: the front-panel keys, or all others.
+std::vector<Control*> withShortcut(const Display& display, bool keys) {
+    std::vector<Control*> found;
+    for (Control* control : display.controls())
+        if (!control->outlet().shortcut.empty() && isKey(*control) == keys) found.push_back(control);
+    return found;
+}
+
+void add(std::vector<ShortcutText>& texts, const std::vector<Control*>& controls) {
+    for (const Control* control : controls) texts.push_back({toQString(control->outlet().shortcut), labelOf(*control)});
+}
+
+// Only the steps repeat while they are held: nothing else should go out many times by accident.
+bool repeats(const Control& control) {
+    return isKey(control) && frontPanelKeys[frontPanelKeyIndex(control.outlet().tag)].panel == KeyPanel::steps;
+}
 
 // In a table.
 const std::array tableKeys{
@@ -21,35 +38,28 @@ const std::array tableKeys{
 
 }  // namespace
 
-std::vector<ShortcutText> shortcutTexts(Display& display) {
+std::vector<ShortcutText> shortcutTexts(const Display& display) {
     std::vector<ShortcutText> texts{
         {"F1", "This page"},
         {"Ctrl+Q", "Quit"},
+        {"Alt+C, Alt+R, Alt+P, Alt+H", "Menus"},
         {"Alt+1 to Alt+7", "Pages"},
         {"Tab, Shift+Tab", "Next and previous control"},
-        textOf(display.openCloseButton.outlet()),
-        textOf(display.sendTextField.outlet()),
-        textOf(display.freqTextField.outlet()),
-        textOf(display.textMemoryField.outlet()),
-        textOf(display.autoMemoryNowButton.outlet()),
     };
+    add(texts, withShortcut(display, false));
     texts.insert(texts.end(), tableKeys.begin(), tableKeys.end());
-    for (const FrontPanelKey& key : frontPanelKeys)
-        if (!key.outlet.shortcut.empty()) texts.push_back(textOf(key.outlet));
+    add(texts, withShortcut(display, true));
     return texts;
 }
 
-void addShortcuts(QWidget& window, Display& display) {
-    const auto add = [&window](Button& button, bool repeats) {
-        auto* shortcut = new QShortcut(QKeySequence(toQString(button.outlet().shortcut)), &window);
-        shortcut->setAutoRepeat(repeats);
-        QObject::connect(shortcut, &QShortcut::activated, &window, [&button] { button.performClick(); });
-    };
-    add(display.openCloseButton, false);
-    add(display.autoMemoryNowButton, false);
-    // Only the steps repeat while they are held: nothing else should go out many times by accident.
-    for (const FrontPanelKey& key : frontPanelKeys)
-        if (!key.outlet.shortcut.empty()) add(display.key(key.outlet.tag), key.panel == KeyPanel::steps);
+void addShortcuts(QWidget& window, const Display& display) {
+    for (Control* control : display.controls()) {
+        auto* button = dynamic_cast<Button*>(control);
+        if (!button || button->outlet().shortcut.empty()) continue;
+        auto* shortcut = new QShortcut(QKeySequence(toQString(button->outlet().shortcut)), &window);
+        shortcut->setAutoRepeat(repeats(*button));
+        QObject::connect(shortcut, &QShortcut::activated, &window, [button] { button->performClick(); });
+    }
 }
 
 }  // namespace corvane

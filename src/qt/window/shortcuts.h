@@ -1,4 +1,4 @@
-// The keyboard: what each shortcut does, from the tables of the controls.
+// The shortcuts of the window, from the texts of the controls.
 #pragma once
 
 #include <QString>
@@ -16,9 +16,9 @@ struct ShortcutText {
 };
 
 // All shortcuts of the window in the order of the help page.
-std::vector<ShortcutText> shortcutTexts(Display& display);
+std::vector<ShortcutText> shortcutTexts(const Display& display);
 
-// Gives `window` the shortcuts of the front-panel keys and of the link. They work on every page.
-void addShortcuts(QWidget& window, Display& display);
+// Gives `window` the shortcuts of all buttons. They work on every page.
+void addShortcuts(QWidget& window, const Display& display);
 
 }  // namespace corvane

@@ -13,11 +13,11 @@ namespace corvane {
 
 namespace {
 
-// Milliseconds since this process was made, as the system counts them: in hundredths of a second since it was booted.
+// Milliseconds since the start of this process. The system keeps the start in hundredths of a second since booting.
 double processAge() {
     QFile file("/proc/self/stat");
     if (!file.open(QIODevice::ReadOnly)) return 0;
-    // The name in brackets may hold blanks; the start is the 20th field behind it.
+    // The program name in brackets may contain spaces; the start time is the 20th field after it.
     const QByteArray text = file.readAll();
     const QList<QByteArray> fields = text.mid(text.lastIndexOf(')') + 2).split(' ');
     timespec now{};

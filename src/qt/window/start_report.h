@@ -1,11 +1,11 @@
-// How fast a program starts, for those who measure it.
+// Measures how fast the program starts.
 #pragma once
 
 namespace corvane {
 
 class MainWindow;
 
-// Writes the milliseconds since this process was made and its resident memory to standard output:
+// Writes the milliseconds since the start of this process and its resident memory to standard output:
 // "first paint 73 ms, resident 38.2 MiB".
 void printStart();
 

@@ -19,16 +19,16 @@ TabPages::TabPages(TabView& model, ChangeQueue& queue, QWidget* parent) : QTabWi
         makePage(index);
         model_.selectItem(index);
     });
-    model.addView(queue, [this] { showModel(); });
+    view_ = model.addView(queue, [this] { showModel(); });
 }
 
 void TabPages::addPage(const QString& title, std::function<QWidget*()> make) {
     makers_.push_back(std::move(make));
-    auto* place = new QScrollArea;  // a small screen scrolls instead of cutting off
+    auto* place = new QScrollArea;  // on a small screen the page scrolls
     place->setWidgetResizable(true);
     place->setFrameShape(QFrame::NoFrame);
     place->setFocusPolicy(Qt::NoFocus);
-    // The first tab comes to the front by itself; that is nobody's choice.
+    // Qt selects the first tab by itself; the operator did not.
     const QSignalBlocker quiet(this);
     const int index = addTab(place, title);
     if (index == model_.indexOfSelectedItem()) setCurrentIndex(index);

@@ -24,6 +24,7 @@ private:
 
     TabView& model_;
     std::vector<std::function<QWidget*()>> makers_;  // empty once the page is made
+    ViewHandle view_;
 };
 
 }  // namespace corvane

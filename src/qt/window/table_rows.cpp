@@ -56,7 +56,7 @@ int TableRows::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(table_.columns().size());
 }
 
-// Between a change of the list and its reload there may be fewer rows than are shown.
+// After a change of the list and before its reload, fewer rows may exist than are shown.
 bool TableRows::exists(const QModelIndex& index) const {
     return index.isValid() && tableRow(index) >= 0 && tableRow(index) < table_.rows();
 }
@@ -120,7 +120,8 @@ QMimeData* TableRows::mimeData(const QModelIndexList& indexes) const {
 
 std::string TableRows::rowText(int tableRow) const {
     std::string text;
-    if (tableRow < 0 || tableRow >= table_.rows()) return text;  // it has gone, and the table not been reloaded yet
+    if (tableRow < 0 || tableRow >= table_.rows())
+        return text;  // the row is gone, but the table has not been reloaded yet
     for (int column = 0; column < columnCount(); ++column)
         if (!table_.isButton(column)) text.append(table_.cell(tableRow, column)).append("\n");
     return text;
@@ -148,7 +149,7 @@ std::vector<int> TableRows::filteredRows() {
     std::vector<int> rows(static_cast<std::size_t>(rows_));
     std::iota(rows.begin(), rows.end(), 0);
     if (words_.isEmpty()) return rows;
-    // Folding every cell anew for every character typed is what would be felt.
+    // Folding the case of every cell for each typed character would be slow.
     if (filterTexts_.empty()) {
         filterTexts_.reserve(rows.size());
         for (const int row : rows) filterTexts_.push_back(QString::fromStdString(rowText(row)).toCaseFolded());
@@ -178,8 +179,8 @@ void TableRows::reload() {
 
 void TableRows::showHeaders() { emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1); }
 
-// Views keep their editor, current cell and scroll position across a change of layout, which they would lose by a
-// reset. The number of rows is brought up or down at the end, where nothing is lost.
+// A change of layout keeps the editor, the current cell and the scroll position of a view; a reset would lose them.
+// Rows are added and removed only at the end.
 void TableRows::show(std::vector<int> next, std::optional<int> watchedBefore, std::optional<int> watchedNow) {
     const int before = rowCount();
     const int after = static_cast<int>(next.size());
@@ -202,10 +203,14 @@ void TableRows::show(std::vector<int> next, std::optional<int> watchedBefore, st
     emit layoutAboutToBeChanged();
     next.resize(shown_.size(), -1);
     shown_ = std::move(next);
-    for (const QModelIndex& index : persistentIndexList()) {
-        const int row = index.row() == from ? to : std::min(index.row(), after - 1);
-        changePersistentIndex(index, row < 0 ? QModelIndex() : this->index(row, index.column()));
+    const QModelIndexList kept = persistentIndexList();
+    QModelIndexList places;
+    for (const QModelIndex& cell : kept) {
+        // Two kept cells must never become one, so what stood at `to` changes places with the watched row.
+        const int row = cell.row() == from ? to : cell.row() == to ? from : cell.row();
+        places.push_back(row < 0 || row >= after ? QModelIndex() : index(row, cell.column()));
     }
+    changePersistentIndexList(kept, places);
     emit layoutChanged();
     if (after < before) {
         beginRemoveRows({}, after, before - 1);

@@ -1,5 +1,5 @@
-// The one adaptor between a table of the display and the toolkit's views: the rows that pass a filter. It keeps no
-// cell; what is in sight is asked for as it is painted.
+// Adapts a table of the display to Qt's views: the rows that pass a filter. It stores no cells; the view asks for the
+// visible ones when it paints them.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -31,17 +31,17 @@ public:
     bool exists(const QModelIndex& index) const;
     int allRows() const { return rows_; }
 
-    // Only rows that contain all the words of `text` in cells that are read are shown; no words show every row.
+    // Shows only the rows whose texts contain all words of `text`; without words, every row.
     void setFilter(const QString& text);
 
-    // Takes over what the table has now. What belongs to the watched row, an open editor for one, follows it to where
-    // it stands then, and stays in its place when it is gone.
+    // Shows the present rows of the table. The current cell and an open editor follow the watched row to its new place;
+    // if the row is gone, they stay where they are.
     void reload();
     void showHeaders();  // the direction of sorting has changed
 
-    // What is read in the row, by which it is found again.
+    // The texts of the row, by which it is found again.
     std::string rowText(int tableRow) const;
-    // The row of the table that reads so, the one at `near` if it does.
+    // The row of the table with these texts; of several, the one at `near` comes first.
     std::optional<int> find(const std::string& rowText, int near) const;
     void watch(const QModelIndex& index);
     bool watchedIsThere() const { return watched_ && find(watched_->text, watched_->tableRow).has_value(); }
@@ -58,10 +58,10 @@ private:
 
     TableView& table_;
     int rows_;
-    std::vector<int> shown_;  // rows of the table, in their order; -1 for one that is about to go
+    std::vector<int> shown_;  // rows of the table, in the order shown; -1 for one about to be removed
     std::optional<Watched> watched_;
-    QStringList words_;                 // folded
-    std::vector<QString> filterTexts_;  // by row of the table, folded; empty until a filter asks
+    QStringList words_;                 // without case
+    std::vector<QString> filterTexts_;  // by row of the table, without case; made for the first filter
 };
 
 }  // namespace corvane

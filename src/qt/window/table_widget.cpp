@@ -53,7 +53,7 @@ TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent)
             is<LinkCell>(shown) && !delegate_->linkRect(visualRect(cell), font(), cell).contains(released_);
         if (!is<EditableCell>(shown) && !linkMissed) act(cell);
     });
-    model.addView(queue, [this] { reload(); });
+    view_ = model.addView(queue, [this] { reload(); });
     reload();
 }
 
@@ -75,14 +75,14 @@ void TableWidget::setUpHeaders() {
         const int room = shown.title.empty() ? 4 * gridStep : 7 * gridStep;
         setColumnWidth(column, std::max(shown.width * metrics.averageCharWidth(), title) + room);
     }
-    // A key as wide as half the window, or a number far from its row, is no help: then the longest text gets the room.
+    // The last column takes the spare room, or the widest one if the last holds keys or numbers.
     const auto columns = model_.columns();
     const bool last = columns.back().alignment == TableColumn::Alignment::left;
     const auto longest = last ? columns.end() - 1 : std::ranges::max_element(columns, {}, &TableColumn::width);
     horizontalHeader()->setSectionResizeMode(static_cast<int>(longest - columns.begin()), QHeaderView::Stretch);
 }
 
-// The keyboard stays where it was as far as there are rows, also across an empty table.
+// Keeps the current cell if its row still exists, also after the table was empty for a while.
 void TableWidget::reload() {
     if (currentIndex().isValid()) place_ = {currentIndex().row(), currentIndex().column()};
     if (state() == EditingState && !rows_->watchedIsThere()) abandonEditing();
@@ -119,12 +119,12 @@ void TableWidget::act(const QModelIndex& cell) {
 }
 
 void TableWidget::pressCell(const QModelIndex& cell) {
-    // What is pressed is what is shown: rows that have changed since are other stations.
+    // If the rows have changed since they were painted, this cell may be another station by now.
     if (rows_->exists(cell) && model_.version() == shownVersion_)
         model_.pressCell(rows_->tableRow(cell), cell.column());
 }
 
-// The menu may stay open while the table changes: the choice is for the row as it was.
+// The table may change while the menu is open: the choice is for the row for which it was opened.
 void TableWidget::openPopUp(const QModelIndex& cell) {
     const TableCell shown = rows_->cell(cell);
     const auto* popUp = std::get_if<PopUpCell>(&shown);
@@ -160,7 +160,7 @@ void TableWidget::sortBy(int column) {
     model_.pressHeader(column);
 }
 
-// The keyboard goes with the row.
+// The current cell moves along with the row.
 void TableWidget::moveRow(int tableRow, int gap) {
     finishEditing();
     const auto row = model_.drop(TableView::pasteboardText(tableRow), gap);
@@ -185,7 +185,7 @@ void TableWidget::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:
-            // An open editor takes the key for itself and commits a moment later.
+            // An open editor handles the key itself and commits a moment later.
             if (event->isAutoRepeat() || state() == EditingState) return;
             return event->modifiers().testFlag(Qt::ControlModifier) ? pressFirstButton() : act(current);
         case Qt::Key_Up:
@@ -221,7 +221,7 @@ void TableWidget::openMenu(QPoint position) {
     menu->popup(position);
 }
 
-// Everything that can be done in the row, each for the row as it was when the menu opened.
+// Everything that can be done in the row for which the menu was opened.
 void TableWidget::addRowActions(QMenu& menu) {
     const int tableRow = rows_->tableRow(currentIndex());
     const auto inRow = [this, tableRow, text = rows_->rowText(tableRow)](auto act) {
@@ -278,7 +278,7 @@ void TableWidget::startDrag(Qt::DropActions) {
     drag->exec(Qt::MoveAction);
 }
 
-// The gap above the row with this number, nearest to the position.
+// The number of the gap nearest to the position: gap 0 is above row 0.
 int TableWidget::gapAt(const QPoint& position) const {
     const int row = rowAt(position.y());
     if (row < 0) return position.y() < 0 ? 0 : shownRows();

@@ -1,5 +1,4 @@
-// A table of the window: shows a table model for as long as both live. Everything that the mouse does in it the
-// keyboard does, too.
+// The widget of a table. It shows its model as long as both live. The keyboard can do all that the mouse can.
 #pragma once
 
 #include <QTableView>
@@ -21,13 +20,13 @@ class TableWidget : public QTableView {
 public:
     TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
-    // Only rows that contain all the words of `text` in some cell are shown; no words show every row.
+    // Shows only the rows whose texts contain all words of `text`; without words, every row.
     void setFilter(const QString& text);
     int shownRows() const;
     int allRows() const;
 
 signals:
-    void rowsChanged();  // how many there are, or are shown
+    void rowsChanged();  // the number of rows, or of those that are shown
 
 protected:
     // Enter and Space do what a cell is there for: press, open, choose, edit. Ctrl+Enter presses the row's first
@@ -38,7 +37,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
-    // Rows are dragged as plain text, their index; a line shows the gap where one would go.
+    // A row is dragged as plain text, its index; a line shows the gap where it would be dropped.
     void startDrag(Qt::DropActions actions) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
@@ -53,7 +52,7 @@ private:
     void pressCell(const QModelIndex& cell);
     void openPopUp(const QModelIndex& cell);
     void pressFirstButton();
-    void openMenu(QPoint position);  // at the cell that has the keyboard when the position is null
+    void openMenu(QPoint position);  // a null position opens it at the current cell
     void sortBy(int column);
     void moveRow(int tableRow, int gap);
     void addRowActions(QMenu& menu);
@@ -66,9 +65,10 @@ private:
     TableRows* rows_;
     CellDelegate* delegate_;
     int shownVersion_;
-    std::optional<std::pair<int, int>> place_;  // row and column that last had the keyboard
-    QPoint released_;                           // where the mouse was let go
-    std::optional<int> gap_;                    // above this row what is dragged would go
+    std::optional<std::pair<int, int>> place_;  // row and column of the last current cell
+    QPoint released_;                           // where the mouse button was released
+    std::optional<int> gap_;                    // above this row the dragged one would be dropped
+    ViewHandle view_;
 };
 
 }  // namespace corvane

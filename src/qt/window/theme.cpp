@@ -134,7 +134,7 @@ QString Theme::styleSheet() const {
                "QComboBox:focus, QLineEdit:focus, QPlainTextEdit:focus { border: 1px solid %4; }"
                "QComboBox[shown=\"true\"], QLineEdit[shown=\"true\"] { background: transparent; }"
                "QComboBox::drop-down { border: 0; width: 20px; }"
-               "QComboBox { combobox-popup: 0; }"  // a list of its own, not as high as the screen
+               "QComboBox { combobox-popup: 0; }"  // opens below the box, not over the whole screen
                "QComboBox[shown=\"true\"]::drop-down { width: 0; }"
                "QComboBox QAbstractItemView { background: %6; color: %3; selection-background-color: %4;"
                " border: 1px solid %1; }"

@@ -20,10 +20,10 @@ struct Theme {
     QColor keyHover;   // under the pointer
     QColor line;       // edges
     QColor unlit;      // segments of the meter at rest
-    QColor text;       // what is read
+    QColor text;       // ordinary text
     QColor quietText;  // labels, units, what is not active; still readable on panel and window
-    QColor accent;     // the one accent: focus, the active digits, the meter
-    QColor link;       // a text that leads elsewhere
+    QColor accent;     // focus, the active digits, the meter
+    QColor link;       // text that opens a web page
     QColor warning;    // behind a message that something went wrong
     // What the named colours of the controls are here; white or black text is readable on each.
     QColor blue, green, orange, red, purple, pink, brown, gray, darkGray;

@@ -18,7 +18,7 @@ const QString emptyDisplay = QStringLiteral("--.---.---");
 
 VfoButton::VfoButton(Button& model, TextField& activeVfo, std::string letter, ChangeQueue& queue, QWidget* parent)
     : KeyButton(model, queue, typeface(TypeSize::digits), parent), activeVfo_(activeVfo), letter_(std::move(letter)) {
-    activeVfo_.addView(queue, [this] {
+    view_ = activeVfo_.addView(queue, [this] {
         setAccessibleName(spokenName());
         update();
     });
@@ -59,7 +59,7 @@ void VfoButton::paintEvent(QPaintEvent*) {
 
     const QString title = model().title().empty() ? emptyDisplay : QString::fromStdString(model().title());
     const QRect digits(16, labelHeight(), width() - 28, height() - labelHeight());
-    // The hertz are read last: they stand back a little.
+    // The hertz matter least: they are a little less bright.
     const qsizetype hertzAt = title.lastIndexOf('.');
     const QFontMetrics metrics(font());
     const int hertzWidth = metrics.horizontalAdvance(title.mid(hertzAt));

@@ -25,6 +25,7 @@ private:
 
     TextField& activeVfo_;
     const std::string letter_;
+    ViewHandle view_;
 };
 
 }  // namespace corvane

@@ -185,7 +185,10 @@ TEST(FrontPanel, PowerOnWakesTheTransceiverAndLeavesTheWindowAlive) {
     EXPECT_EQ(bench.takeWrites(), (Writes{"PS1;", "BS05;", "BI1;"}));
     bench.advance(1249ms);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
+    EXPECT_TRUE(bench.display.key(300).busy());
+    EXPECT_TRUE(bench.display.key(300).enabled()) << "it keeps the keyboard";
     bench.advance(1ms);
+    EXPECT_FALSE(bench.display.key(300).busy());
     EXPECT_EQ(bench.takeWrites(), (Writes{"PS1;", "PS1;", "BI1;"}));
     EXPECT_EQ(bench.controller.link.cmd(), "PS1;BI1;");
     bench.press(301);

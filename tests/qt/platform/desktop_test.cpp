@@ -1,11 +1,9 @@
 // The small ones: browser, log, and the worker behind speech and sounds.
 #include <gtest/gtest.h>
 
-#include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QUrl>
 #include <atomic>
 #include <future>
 #include <memory>
@@ -16,31 +14,22 @@
 #include "qt/platform/desktop_web_browser.h"
 #include "qt/platform/home_data_folder.h"
 #include "qt/platform/standard_log.h"
+#include "url_catcher.h"
 
 namespace corvane {
-
-class UrlCatcher : public QObject {
-    Q_OBJECT
-public:
-    std::vector<std::string> urls;
-public slots:
-    void take(const QUrl& url) { urls.push_back(url.toEncoded().toStdString()); }
-};
 
 namespace {
 
 using std::chrono::milliseconds;
 
 TEST(DesktopWebBrowserTest, OpensWebAddressesOnly) {
-    UrlCatcher catcher;
-    for (const char* scheme : {"http", "https", "file"}) QDesktopServices::setUrlHandler(scheme, &catcher, "take");
+    const UrlCatcher catcher({"http", "https", "file"});
     DesktopWebBrowser browser;
     for (const char* url : {"https://example.org/corvane/", "file:///etc/passwd", "not an address", "", "https://",
                             "http://127.0.0.1:8080/a?b=c"}) {
         browser.open(url);
     }
-    EXPECT_EQ(catcher.urls, (std::vector<std::string>{"https://example.org/corvane/", "http://127.0.0.1:8080/a?b=c"}));
-    for (const char* scheme : {"http", "https", "file"}) QDesktopServices::unsetUrlHandler(scheme);
+    EXPECT_EQ(catcher.taken, (std::vector<std::string>{"https://example.org/corvane/", "http://127.0.0.1:8080/a?b=c"}));
 }
 
 TEST(HomeDataFolderTest, SavesWholeFilesAndSaysWhyItCannot) {
@@ -123,5 +112,3 @@ TEST(BackgroundWorkerTest, EndsByAskingOrByLeavingBehind) {
 
 }  // namespace
 }  // namespace corvane
-
-#include "desktop_test.moc"

@@ -129,7 +129,7 @@ TEST(QtHttpClientTest, WhatIsCancelledIsNotHeardOfAgain) {
         cancelLater();
         client.send(get(server.url()), count);
     }
-    runEventLoop(50ms);
+    ASSERT_TRUE(fetched(get(server.url())));  // by then they had come
     cancelLater();
     EXPECT_EQ(answered, 1);
 }
@@ -161,7 +161,7 @@ TEST(QtHttpClientTest, AnAnswerIsReadBesideTheEventLoop) {
         ASSERT_TRUE(eventually([&] { return begun == 3; }));
         go.release();
     }
-    runEventLoop(50ms);
+    ASSERT_TRUE(fetched(get(server.url())));  // by then it had come
     EXPECT_EQ(answered, 1) << "neither what was cancelled nor what outlives the client";
 }
 

@@ -59,9 +59,9 @@ TEST(QtSchedulerTest, ATaskMayPlanMoreAndRunAnEventLoop) {
 TEST(QtSchedulerTest, DropsWhatIsLeftAtItsEnd) {
     bool ran = false;
     {
-        QtScheduler().after(milliseconds(1), [&] { ran = true; });
+        QtScheduler().after(milliseconds(0), [&] { ran = true; });
     }
-    runEventLoop(milliseconds(20));
+    QCoreApplication::processEvents();
     EXPECT_FALSE(ran);
 }
 

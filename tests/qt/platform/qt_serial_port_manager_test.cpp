@@ -94,10 +94,6 @@ TEST_F(ManagerTest, ABurstGivesOneNoticeAndPortsKeepTheirObjects) {
     ASSERT_TRUE(eventually([&] { return !disconnected.empty(); }));
     EXPECT_EQ(disconnected, (std::vector<Names>{{"ttyUSB0"}}));
     EXPECT_EQ(connected.size(), 1U);
-
-    watcher->changed();  // nothing new
-    runEventLoop(std::chrono::milliseconds(60));
-    EXPECT_EQ(connected.size() + disconnected.size(), 2U);
 }
 
 TEST_F(ManagerTest, AnOpenPortThatLeavesTheListIsRemovedOnce) {
@@ -159,7 +155,6 @@ TEST(SerialPortWatcherTest, PollingTellsOfChangesOnlyAndTheMonitorOpens) {
     attached.clear();
     EXPECT_TRUE(eventually([&] { return calls == 1 && looks >= 6; }));
     EXPECT_TRUE(UdevSerialPortWatcher(UdevSerialPortWatcher::Source::udev).works());
-    EXPECT_NE(makeSerialPortWatcher(), nullptr);
 }
 
 }  // namespace

@@ -26,12 +26,8 @@ struct FilesStation : Station {
         table[0] = {"014250000", "2", "CALLING     "};
         table[1] = {"007030000", "3", "CW"};
         table[4] = {"014074000", "C", "FT8"};
-        display.mainTab.selectItem(Display::memoriesPage);
         controller.memories.setRows(table);
-        EXPECT_TRUE(eventually([this] {
-            const auto* button = find("importMemoriesButton");
-            return button && button->isVisible();
-        }));
+        Station::show(Display::memoriesPage);
     }
     template <class Dialog>
     static Dialog* shown() {

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -13,16 +12,7 @@
 namespace corvane {
 namespace {
 
-using namespace std::chrono_literals;
-
 struct MenuStation : Station {
-    void showSettings() {
-        display.mainTab.selectItem(Display::settingsPage);
-        ASSERT_TRUE(eventually([&] {
-            auto* search = find<QLineEdit>("menuSearch");
-            return search && search->isVisible();
-        }));
-    }
     QComboBox* popUp(int tag) { return find<QComboBox>(("tag" + std::to_string(tag)).c_str()); }
     // What the transceiver holds in an item of its menu.
     std::string held(const char* item) { return radio.transceiver.state().menu.value(item).value_or("none"); }
@@ -31,7 +21,7 @@ struct MenuStation : Station {
 TEST(SettingsTest, TheMenuIsReadSearchedAndSet) {
     MenuStation station;
     station.synchronise();
-    station.showSettings();
+    station.show(Display::settingsPage);
     station.click("tag2010100");
     auto* read = station.find<QLabel>("radioMenuReadField");
     ASSERT_TRUE(eventually([&] { return read->text() == "104 items read"; })) << read->text().toStdString();
@@ -49,12 +39,9 @@ TEST(SettingsTest, TheMenuIsReadSearchedAndSet) {
     // One of ten thousand entries, typed.
     QComboBox* contest = station.popUp(2020205);
     ASSERT_EQ(contest->count(), 9999);
-    QElapsedTimer opening;
-    opening.start();
     contest->setFocus();
     QTest::keyClick(contest, Qt::Key_Space);
     ASSERT_TRUE(contest->view()->isVisible());
-    RecordProperty("milliseconds to open 9999 entries", static_cast<int>(opening.elapsed()));
     QTest::keyClicks(contest->view(), "9876");
     QTest::keyClick(contest->view(), Qt::Key_Return);
     EXPECT_TRUE(eventually([&] { return station.held("020205") == "9876"; })) << station.held("020205");
@@ -68,7 +55,7 @@ TEST(SettingsTest, TheMenuIsReadSearchedAndSet) {
 TEST(SettingsTest, TheCallSignOfTheMenuIsTypedOnEitherPage) {
     MenuStation station;
     station.synchronise();
-    station.showSettings();
+    station.show(Display::settingsPage);
     station.find<QTabWidget>("settingsTab")->setCurrentIndex(3);
     auto* call = station.find<QLineEdit>("menuCallTextField");
     ASSERT_NE(call, nullptr);
@@ -89,13 +76,10 @@ TEST(SettingsTest, SettingsSurviveARestart) {
     station.controller.sendCommand("EX040101;");
     ASSERT_TRUE(eventually([&] { return station.controller.setupMenu.vqCall() == "N2ABC"; }));
     station.display.openCloseButton.performClick();
-    runEventLoop(1ms);
+    QFile kept(station.folder.filePath("corvane.conf"));
+    ASSERT_TRUE(eventually([&] { return kept.open(QIODevice::ReadOnly) && kept.readAll().contains("N2ABC"); }));
 
-    QtPlatformOptions options;
-    options.settingsPath = station.folder.filePath("corvane.conf");
-    options.dataPath = station.folder.filePath("data");
-    options.extraPorts = {station.radio.path()};
-    QtPlatform owner(options);
+    QtPlatform owner(station.options("corvane.conf"));
     const Platform platform = owner.platform();
     SerialPortDemoController again{platform, ServiceHosts::from("http://127.0.0.1:1")};
     again.awakeFromNib();
@@ -110,15 +94,11 @@ TEST(SettingsTest, SettingsSurviveARestart) {
 
 TEST(SettingsTest, AFileThatCannotBeReadIsToldInTheWindow) {
     Station station;
-    const QString path = station.folder.filePath("other.conf");
-    QFile bad(path);
+    QFile bad(station.folder.filePath("other.conf"));
     ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
     bad.write("defaultPort=ttyUSB");
     bad.close();
-    QtPlatformOptions options;
-    options.settingsPath = path;
-    options.dataPath = station.folder.filePath("data");
-    QtPlatform owner(options);
+    QtPlatform owner(station.options("other.conf"));
     const Platform platform = owner.platform();
     SerialPortDemoController controller{platform, ServiceHosts::from("http://127.0.0.1:1")};
     MainWindow window{controller};

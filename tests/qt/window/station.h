@@ -3,8 +3,12 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAction>
+#include <QMessageBox>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 
 #include "app/app_delegate.h"
 #include "controller/serial_port_demo_controller.h"
@@ -36,6 +40,37 @@ public:
         ASSERT_TRUE(button->isVisible()) << name;
         QTest::mouseClick(button, Qt::LeftButton);
     }
+    // Brings one of the pages to the front.
+    void show(TabView& pages, int index) {
+        pages.selectItem(index);
+        ASSERT_TRUE(eventually([&] {
+            const auto* tabs = find<QTabWidget>(pages.objectName().c_str());
+            return tabs && tabs->currentIndex() == index && tabs->currentWidget()->isVisible();
+        }));
+    }
+    void show(int page) { show(display.mainTab, page); }
+    // An entry of the menus; there must be one.
+    QAction& action(const QString& text) {
+        const auto actions = window.findChildren<QAction*>();
+        return **std::ranges::find(actions, text, &QAction::text);
+    }
+    QMessageBox* box() { return window.findChild<QMessageBox*>(); }
+
+    // A platform of its own kind that keeps its settings in this file.
+    QtPlatformOptions options(const char* settings) const {
+        // No sound server, speech service or session bus of this machine may answer.
+        qputenv("PULSE_SERVER", "unix:/no/such/socket");
+        qputenv("SPEECHD_ADDRESS", "unix_socket:/no/such/socket");
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/such/socket");
+        QtPlatformOptions made;
+        made.settingsPath = folder.filePath(settings);
+        made.dataPath = folder.filePath("data");
+        made.soundsFolder = folder.path().toStdString();
+        made.extraPorts = {radio.path()};
+        made.schedulerSpeed = schedulerSpeed_;
+        made.simulatedPort = false;
+        return made;
+    }
 
     void open() {
         click("openCloseButton");
@@ -61,27 +96,11 @@ private:
 public:
     RadioOnLine radio;
     const QTemporaryDir folder;
-    QtPlatform owner{options()};
+    QtPlatform owner{options("corvane.conf")};
     Platform platform = owner.platform();
     SerialPortDemoController controller{platform, ServiceHosts::from("http://127.0.0.1:1")};  // nobody there
     Display& display = controller.display;
     MainWindow window{controller};
-
-private:
-    QtPlatformOptions options() const {
-        // No sound server, speech service or session bus of this machine may answer.
-        qputenv("PULSE_SERVER", "unix:/no/such/socket");
-        qputenv("SPEECHD_ADDRESS", "unix_socket:/no/such/socket");
-        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/such/socket");
-        QtPlatformOptions made;
-        made.settingsPath = folder.filePath("corvane.conf");
-        made.dataPath = folder.filePath("data");
-        made.soundsFolder = folder.path().toStdString();
-        made.extraPorts = {radio.path()};
-        made.schedulerSpeed = schedulerSpeed_;
-        made.simulatedPort = false;
-        return made;
-    }
 };
 
 }  // namespace corvane

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QDesktopServices>
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -10,12 +9,14 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QTableView>
-#include <QUrl>
 #include <algorithm>
+#include <array>
 #include <cstdio>
 
+#include "qt/window/table_rows.h"
 #include "station.h"
 #include "tests/support/rows.h"
+#include "url_catcher.h"
 
 namespace corvane {
 namespace {
@@ -32,8 +33,7 @@ struct Memories : Station {
     Memories() {
         display.autoMemSquelchSlider.drag(15);  // nothing is recorded by itself
         synchronise();
-        display.mainTab.selectItem(Display::memoriesPage);
-        EXPECT_TRUE(eventually([&] { return find<QTableView>("memoriesTable") && table().isVisible(); }));
+        show(Display::memoriesPage);
         read();
         table().setFocus();
     }
@@ -146,12 +146,12 @@ TEST(TablesTest, AMemoryCellIsEditedInPlaceOrWarnedOf) {
          {std::pair{"75.1", "Frequency must be in MHz and less than 75.0\n\nExample: 14.235"},
           std::pair{"abc", "Frequency must be in MHz and greater than 0.03\n\nExample: 0.860"}}) {
         station.type(3, frequencyColumn, typed);
-        auto* box = station.window.findChild<QMessageBox*>();
+        auto* box = station.box();
         ASSERT_NE(box, nullptr);
         EXPECT_EQ(box->text(), message);
         EXPECT_EQ(box->icon(), QMessageBox::Warning);
         QTest::keyClick(box, Qt::Key_Return);
-        EXPECT_TRUE(eventually([&] { return station.window.findChild<QMessageBox*>() == nullptr; }));
+        EXPECT_TRUE(eventually([&] { return station.box() == nullptr; }));
         EXPECT_EQ(station.row(3), (MemoryChannel{"", before.mode, before.tag}));
     }
     station.type(2, frequencyColumn, "");
@@ -287,6 +287,36 @@ TEST(TablesTest, AnOpenEditorNeverWritesIntoAnotherRow) {
     EXPECT_NE(station.row(3).tag, "LOST");
 }
 
+struct Letters : TableViewDataSource {
+    std::string rows = "abc";
+    int numberOfRows(const TableView&) const override { return static_cast<int>(rows.size()); }
+    TableCell viewFor(const TableView&, int row, int) const override {
+        return TextCell{rows.substr(static_cast<std::size_t>(row), 1)};
+    }
+    void openLink(std::string_view) override {}
+    std::optional<int> acceptDrop(TableView&, std::string_view, int) override { return std::nullopt; }
+    bool mouseDownInHeader(TableView&, int) override { return false; }
+};
+
+// Two cells that became one would leave Qt with a pointer to a model that is gone.
+TEST(TablesTest, CellsThatAreKeptStayApart) {
+    const std::array columns{TableColumn{"letter", "Letter", 5}};
+    TableView table({"letters"}, columns);
+    Letters letters;
+    table.setDataSource(letters);
+    TableRows rows(table, nullptr);
+    rows.watch(rows.index(0, 0));
+    const QPersistentModelIndex watched = rows.index(0, 0), hovered = rows.index(2, 0);
+    const auto reload = [&](const char* now) {
+        letters.rows = now;
+        rows.reload();
+        return std::pair(watched.row(), hovered.row());
+    };
+    EXPECT_EQ(reload("bca"), std::pair(2, 0));
+    EXPECT_EQ(reload("ba"), std::pair(1, 0));
+    EXPECT_EQ(reload("a"), std::pair(0, -1));
+}
+
 TEST(TablesTest, WhatIsSortedDraggedAndEditedIsWrittenAndReadBack) {
     Memories station;
     station.pressHeader(tagColumn);
@@ -302,7 +332,7 @@ TEST(TablesTest, WhatIsSortedDraggedAndEditedIsWrittenAndReadBack) {
 
     station.click("writeMemoriesButton");
     QMessageBox* box = nullptr;
-    ASSERT_TRUE(eventually([&] { return (box = station.window.findChild<QMessageBox*>()) && box->isVisible(); }));
+    ASSERT_TRUE(eventually([&] { return (box = station.box()) && box->isVisible(); }));
     for (auto* button : box->buttons())
         if (button->text() == "Write") button->click();
     station.settle();
@@ -332,27 +362,10 @@ TEST(TablesTest, WhatIsSortedDraggedAndEditedIsWrittenAndReadBack) {
     EXPECT_GE(programmed, 10);
 }
 
-// Takes the addresses that would open in the web browser.
-class UrlCatcher : public QObject {
-    Q_OBJECT
-
-public:
-    UrlCatcher() { QDesktopServices::setUrlHandler("http", this, "take"); }
-    ~UrlCatcher() override { QDesktopServices::unsetUrlHandler("http"); }
-    std::vector<std::string> taken;
-
-public slots:
-    void take(const QUrl& url) { taken.push_back(url.toString().toStdString()); }
-};
-
 TEST(TablesTest, LinksOpenByHandAndByKey) {
     Station station;
-    UrlCatcher browser;
-    station.display.mainTab.selectItem(Display::listsPage);
-    ASSERT_TRUE(eventually([&] {
-        const auto* made = station.find<QTableView>("potaTable");
-        return made && made->isVisible();
-    }));
+    const UrlCatcher browser({"http"});
+    station.show(Display::listsPage);
     auto& table = *station.find<QTableView>("potaTable");
     ASSERT_TRUE(eventually([&] { return station.display.potaStatusField.stringValue() != "Refreshing\u2026"; }));
     station.controller.lists.setRows(
@@ -389,5 +402,3 @@ TEST(TablesTest, LinksOpenByHandAndByKey) {
 
 }  // namespace
 }  // namespace corvane
-
-#include "tables_test.moc"

@@ -6,10 +6,12 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSlider>
 #include <QTabBar>
 #include <QTableView>
@@ -30,26 +32,15 @@ constexpr int helpPage = Display::settingsPage + 1;
 // Shows every page of the window, those of the settings included, one after the other.
 template <class Visit>
 void forEachPage(Station& station, Visit visit) {
-    const auto show = [&](TabView& pages, int index, const char* name) {
-        pages.selectItem(index);
-        ASSERT_TRUE(eventually([&] {
-            const auto* tabs = station.find<QTabWidget>(name);
-            return tabs && tabs->currentIndex() == index && tabs->currentWidget()->isVisible();
-        }));
-    };
     for (int page = 0; page <= helpPage; ++page) {
-        show(station.display.mainTab, page, "mainTab");
+        station.show(page);
         const bool lists = page == Display::listsPage;
         if (!lists && page != Display::settingsPage) {
             visit();
             continue;
         }
         for (int inner = 0; inner < (lists ? Display::listsPages : Display::settingsPages); ++inner) {
-            if (lists) {
-                show(station.display.listsTab, inner, "listsTab");
-            } else {
-                show(station.display.settingsTab, inner, "settingsTab");
-            }
+            station.show(lists ? station.display.listsTab : station.display.settingsTab, inner);
             visit();
         }
     }
@@ -121,21 +112,18 @@ TEST(WindowTest, EveryShortcutOfTheHelpPageDoesWhatItSaysOnEveryPage) {
     Station station;
     std::map<std::string, std::string> listed;
     for (const ShortcutText& text : shortcutTexts(station.display))
-        EXPECT_TRUE(listed.try_emplace(text.keys.toStdString(), text.meaning.toStdString()).second)
-            << text.keys.toStdString() << " stands for two things";
+        listed[text.keys.toStdString()] = text.meaning.toStdString();
     station.controller.enableTextMemoryControls();
     int presses = 0;
     std::vector<std::pair<QKeySequence, std::string>> shortcuts;
-    const auto watch = [&](Button& button) {
-        const Outlet& outlet = button.outlet();
-        button.action = [&presses](Button&) { ++presses; };
+    for (Control* control : station.display.controls()) {
+        const Outlet& outlet = control->outlet();
+        auto* button = dynamic_cast<Button*>(control);
+        if (outlet.shortcut.empty() || !button) continue;
+        button->action = [&presses](Button&) { ++presses; };
         EXPECT_EQ(listed[std::string(outlet.shortcut)], outlet.label);
         shortcuts.emplace_back(toQString(outlet.shortcut), outlet.label);
-    };
-    for (const FrontPanelKey& key : frontPanelKeys)
-        if (!key.outlet.shortcut.empty()) watch(station.display.key(key.outlet.tag));
-    watch(station.display.openCloseButton);
-    watch(station.display.autoMemoryNowButton);
+    }
     EXPECT_GT(shortcuts.size(), 30U);
 
     const auto pressAll = [&](QWidget* target) {
@@ -150,6 +138,41 @@ TEST(WindowTest, EveryShortcutOfTheHelpPageDoesWhatItSaysOnEveryPage) {
         const bool takesKeys = qobject_cast<QLineEdit*>(control) || qobject_cast<QPlainTextEdit*>(control) ||
                                qobject_cast<QComboBox*>(control);
         if (takesKeys) pressAll(control);
+    }
+}
+
+// "Alt+1 to Alt+3" gives all three.
+std::vector<QKeySequence> keysIn(const QString& text) {
+    std::vector<QKeySequence> keys;
+    for (const QString& part : text.split(", ")) {
+        const QStringList ends = part.split(" to ");
+        const QString stem = ends.front().chopped(1);
+        for (ushort last = ends.front().back().unicode(); last <= ends.back().back().unicode(); ++last)
+            keys.emplace_back(stem + QChar(last));
+    }
+    return keys;
+}
+
+TEST(WindowTest, EveryShortcutStandsForOneThingAndIsOnTheHelpPage) {
+    Station station;
+    forEachPage(station, [] {});
+    std::multiset<QKeySequence> made;
+    for (const auto* shortcut : station.window.findChildren<QShortcut*>()) made.insert(shortcut->key());
+    for (const auto* action : station.window.findChildren<QAction*>())
+        for (const QKeySequence& keys : action->shortcuts()) made.insert(keys);
+    for (const auto* button : station.window.findChildren<QAbstractButton*>())
+        if (!button->shortcut().isEmpty()) made.insert(button->shortcut());
+    for (const auto* menu : station.window.menuBar()->actions()) made.insert(QKeySequence::mnemonic(menu->text()));
+    std::multiset<QKeySequence> listed;
+    for (const ShortcutText& text : shortcutTexts(station.display))
+        for (const QKeySequence& keys : keysIn(text.keys)) listed.insert(keys);
+
+    for (const auto& [all, place] : {std::pair{&made, "made"}, {&listed, "listed"}})
+        for (const QKeySequence& keys : *all) EXPECT_EQ(all->count(keys), 1U) << keys.toString().toStdString() << place;
+    for (const QKeySequence& keys : made) EXPECT_TRUE(listed.contains(keys)) << keys.toString().toStdString();
+    for (const Control* control : station.display.controls()) {
+        const std::string_view shortcut = control->outlet().shortcut;
+        EXPECT_TRUE(shortcut.empty() || made.contains(QKeySequence(toQString(shortcut)))) << shortcut;
     }
 }
 
@@ -198,6 +221,69 @@ TEST(WindowTest, PagesAreMadeWhenTheyAreFirstShownOrAskedFor) {
     EXPECT_EQ(station.find("m20Button"), made);
 }
 
+TEST(WindowTest, TheKeyboardStaysOnPowerOnWhileItIsBusy) {
+    Station station(0.02);  // busy for a minute
+    station.show(Display::radioPage);
+    QAbstractButton& key = *station.find("tag300");
+    Button& model = station.display.key(300);
+    std::vector<int> pressed;
+    for (const int tag : {300, 301}) {
+        Button& watched = station.display.key(tag);
+        watched.action = [&pressed, action = watched.action](Button& sender) {
+            pressed.push_back(sender.tag());
+            action(sender);
+        };
+    }
+    const QImage before = key.grab().toImage();
+    key.setFocus();
+    QTest::keyClick(&key, Qt::Key_Space);
+    ASSERT_TRUE(eventually([&] { return key.accessibleName() == "Power on, busy"; }));
+    EXPECT_TRUE(key.hasFocus());
+    const QPoint face(key.width() / 2, 6);
+    EXPECT_NE(key.grab().toImage().pixelColor(face), before.pixelColor(face)) << "grey";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QTest::mouseClick(&key, Qt::LeftButton);
+    EXPECT_FALSE(key.isDown());
+    QTest::keyClick(&key, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), station.find("tag301"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    EXPECT_TRUE(key.hasFocus()) << "it stays in the tab order";
+    EXPECT_EQ(pressed, std::vector{300});
+    model.setBusy(false);
+    ASSERT_TRUE(eventually([&] { return key.accessibleName() == "Power on"; }));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(pressed, (std::vector{300, 300}));
+}
+
+TEST(WindowTest, NoHandMovesABusyControl) {
+    Station station;
+    Display& display = station.display;
+    station.show(Display::radioPage);
+    auto& modes = *station.find<QComboBox>("modesPopUpButton");
+    auto& gain = *station.find<QSlider>("rfGainSlider");
+    auto& frequency = *station.find<QLineEdit>("freqTextField");
+    const std::initializer_list<std::pair<Control*, QWidget*>> controls{
+        {&display.modesPopUpButton, &modes}, {&display.rfGainSlider, &gain}, {&display.freqTextField, &frequency}};
+    for (const auto& [model, widget] : controls) {
+        const QString name = widget->accessibleName();
+        model->setBusy(true);
+        ASSERT_TRUE(eventually([&, shown = widget] { return shown->accessibleName() == name + ", busy"; }));
+        widget->setFocus();
+        for (const auto key : {Qt::Key_Left, Qt::Key_7, Qt::Key_Space, Qt::Key_Down}) QTest::keyClick(widget, key);
+        QTest::mouseClick(widget, Qt::LeftButton, {}, {widget->width() / 4, widget->height() / 2});
+        EXPECT_TRUE(widget->hasFocus());
+        EXPECT_NE(widget->graphicsEffect(), nullptr) << "faded";
+        model->setBusy(false);
+        ASSERT_TRUE(eventually([&, shown = widget] { return shown->accessibleName() == name; }));
+        EXPECT_EQ(widget->graphicsEffect(), nullptr);
+    }
+    EXPECT_FALSE(modes.view()->isVisible());
+    EXPECT_EQ(gain.value(), gain.maximum());
+    EXPECT_EQ(frequency.text(), "");
+    QTest::keyClicks(&frequency, "7");
+    EXPECT_EQ(frequency.text(), "7");
+}
+
 // Counts the events of a kind that a widget gets.
 class EventCount : public QObject {
 public:
@@ -219,15 +305,14 @@ private:
 
 TEST(WindowTest, AThousandChangesInOneTurnAreShownOnce) {
     Station station;
-    station.display.mainTab.selectItem(Display::radioPage);
-    ASSERT_TRUE(eventually([&] { return station.find("m20Button") && station.find("m20Button")->isVisible(); }));
-    runEventLoop(std::chrono::milliseconds(50));
+    station.show(Display::radioPage);
+    QCoreApplication::processEvents();
     const EventCount paints(station.find("vqFreqAButton"), QEvent::Paint);
     const EventCount refreshes(&station.window, QEvent::MetaCall);
     for (int hertz = 7'000'000; hertz < 7'001'000; ++hertz)
         station.controller.interpretResponses("FA00" + std::to_string(hertz) + ';');
     EXPECT_TRUE(eventually([&] { return paints.count > 0; }));
-    runEventLoop(std::chrono::milliseconds(50));
+    QCoreApplication::processEvents();
     EXPECT_EQ(station.find("vqFreqAButton")->text(), "7.000.999");
     EXPECT_EQ(refreshes.count, 1);
     EXPECT_EQ(paints.count, 1);
@@ -242,12 +327,8 @@ TEST(WindowTest, AnotherThemeIsSeenAtOnceAndEverywhere) {
     for (const auto& [text, kind] : {std::pair{"Light theme", ThemeKind::light},
                                      {"Dark theme", ThemeKind::dark},
                                      {"Light theme", ThemeKind::light}}) {
-        const auto actions = station.window.findChildren<QAction*>();
-        const auto action =
-            std::ranges::find_if(actions, [name = text](const QAction* each) { return each->text() == name; });
-        ASSERT_NE(action, actions.end());
         paints.count = 0;
-        (*action)->trigger();
+        station.action(text).trigger();
         EXPECT_EQ(Theme::currentKind(), kind);
         EXPECT_TRUE(eventually([&] { return paints.count > 0; }));
         EXPECT_EQ(station.window.palette().color(QPalette::Window), Theme::current().window);
