@@ -22,7 +22,7 @@ struct Press {
     void operator()(const MuteKey& key) const { face.frontPanel.press(sender, key, firstTag); }
     void operator()(const FirstScopeColorKey& key) const { face.frontPanel.press(sender, key, firstTag); }
     void operator()(const TextMemoryKey& key) const {
-        if (auto command = face.keyer.playMemory(key.memory, sender)) face.frontPanel.finish(std::move(*command));
+        if (auto command = face.keyer.playMemory(key.memory)) face.frontPanel.finish(std::move(*command));
     }
     void operator()(const ClearLogKey&) const {
         face.keyer.clearLog();

@@ -56,14 +56,14 @@ void SerialPortDemoController::wire() {
 }
 
 void SerialPortDemoController::awakeFromNib() {
-    if (vqPortChecked_ != 1) {
+    if (vqPortChecked != 1) {
         link.fillPortPopUp();
         restoreSettings();
         link.suggestPort();
         showSettingsProblem();
     }
     // A port may have appeared, and the settings been restored, before the window was there.
-    if (std::exchange(vqTimerStarted_, 1) == 1) return;
+    if (std::exchange(vqTimerStarted, 1) == 1) return;
     fetchBandConditions();
     autoMemorySample();
 }
@@ -72,7 +72,7 @@ void SerialPortDemoController::restoreSettings() {
     link.restorePort();
     preferences.restore();
     autoMemories.restoreSquelch();
-    vqPortChecked_ = 1;
+    vqPortChecked = 1;
     display.vqMemAButton.setTitle("  M-01");
     const int power = display.powerPopUpButton.indexOfSelectedItem();
     display.powerPopUpButton.setEntries(powerEntries());

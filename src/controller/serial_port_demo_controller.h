@@ -178,8 +178,8 @@ public:
     Conditions conditions;
 
 private:
-    int vqPortChecked_ = 0;   // 1 once the settings have been restored
-    int vqTimerStarted_ = 0;  // 1 from when what runs as long as the program does has been started
+    int vqPortChecked = 0;   // 1 once the settings have been restored
+    int vqTimerStarted = 0;  // 1 from when what runs as long as the program does has been started
 };
 
 }  // namespace corvane

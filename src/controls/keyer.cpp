@@ -43,7 +43,7 @@ void Keyer::sendTextMessage(Button&) {
         link_.write(std::string(group->playCommands[scratchMemory - 1]));
     }
     link_.write(storeScratch(*group, mirror_.state().vqTextMemoryRevert));
-    display_.sentTextMemoryField.setStringValue(typed + '\n' + display_.sentTextMemoryField.stringValue());
+    log(typed);
     clearTextMessage();
 }
 
@@ -55,11 +55,15 @@ void Keyer::clearTextMessage() {
 
 void Keyer::returnPressedInTextMessageField(TextField&) { display_.sendTextMemoryButton.performClick(); }
 
-std::optional<std::string> Keyer::playMemory(int memory, const Button& sender) {
+std::optional<std::string> Keyer::playMemory(int memory) {
     const ModeGroup* group = groupInUse(mirror_);
     if (!group) return std::nullopt;
-    display_.sentTextMemoryField.setStringValue(sender.title() + '\n' + display_.sentTextMemoryField.stringValue());
+    log(mirror_.state().vqTextMemoryArray[static_cast<std::size_t>(memory)]);
     return std::string(group->playCommands[static_cast<std::size_t>(memory - 1)]);
+}
+
+void Keyer::log(const std::string& text) {
+    display_.sentTextMemoryField.setStringValue(text + '\n' + display_.sentTextMemoryField.stringValue());
 }
 
 void Keyer::clearLog() { display_.sentTextMemoryField.setStringValue({}); }

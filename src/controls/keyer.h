@@ -18,13 +18,15 @@ public:
     void returnPressedInTextMessageField(TextField& sender);
     void clearTextMessage();
     // What transmits memory 1 to 5 of the present mode, whose text joins the log; nothing in a mode without memories.
-    std::optional<std::string> playMemory(int memory, const Button& sender);
+    std::optional<std::string> playMemory(int memory);
     void clearLog();
 
     // The sender is the pop-up of an editor, with the memory to write.
     void writeMemoryText(PopUpButton& sender);
 
 private:
+    void log(const std::string& text);  // above what was sent before
+
     Display& display_;
     Link& link_;
     Mirror& mirror_;

@@ -38,6 +38,8 @@ public:
     MemoryChannels(Display& display, Link& link, Mirror& mirror, Voice& voice, const Surroundings& surroundings);
 
     const MemoryTable& vqMemArray() const { return vqMemArray_; }
+    // A list of tags by themselves, one blank each. The tags in use are those of the rows.
+    const std::vector<std::string>& vqMemTagArray() const { return vqMemTagArray_; }
     const MemoryRead& read() const { return read_; }
     const std::string& tagOf(int row) const { return vqMemArray_.at(static_cast<std::size_t>(row)).tag; }
 
@@ -95,6 +97,7 @@ private:
     Surroundings around_;
     Tasks tasks_;
     MemoryTable vqMemArray_;
+    const std::vector<std::string> vqMemTagArray_ = std::vector<std::string>(memoryChannels, " ");
     MemoryRead read_;
 };
 
