@@ -37,7 +37,7 @@ void Conditions::fetch(std::function<void()> then) {
     const auto read = [this](const HttpResponse& response) -> HttpClient::Rest {
         return [this, conditions = decodeBandConditions(response.body), problem = response.problem]() mutable {
             show(conditions);
-            if (problem.empty() && conditions == BandConditions{}) problem = "unreadable: not the lines of the service";
+            if (problem.empty() && conditions == BandConditions{}) problem = "unreadable: no band conditions";
             display_.bandStatusField.setStringValue(clockTime(tasks_.now()) + (problem.empty() ? "" : ": " + problem));
         };
     };

@@ -35,8 +35,9 @@ bool MemoryChannels::canTakeChannels() const {
 
 void MemoryChannels::importMemories(Button&) {
     if (!canTakeChannels())
-        return tell("The memory channels have not been read yet",
-                    "Connect, and import a file when reading has ended: it would replace what is imported before.");
+        return tell(
+            "The memory channels have not been read yet",
+            "Connect and wait until they have been read, then import the file: reading replaces imported channels.");
     around_.files.chooseExisting("Import memory channels", kind,
                                  tasks_.guarded([this](const std::string& path) { importFile(path); }));
 }
@@ -47,7 +48,7 @@ void MemoryChannels::importFile(const std::string& path) {
     };
     const OpenedFile file = around_.files.read(path, largestFile);
     if (!file.error.empty()) return refuse(file.error);
-    if (file.contents.size() > largestFile) return refuse("a file of more than 1 MiB holds something else.");
+    if (file.contents.size() > largestFile) return refuse("The file is larger than 1 MiB.");
     MemoryImport import = readMemoryCsv(file.contents);
     if (!import.problem.empty()) return refuse(import.problem);
     onImport(std::move(import), vqMemArray_,
