@@ -13,7 +13,7 @@ namespace corvane {
 namespace {
 
 constexpr std::string_view path = "/solarxml.php";
-constexpr std::size_t longestValue = 40;  // characters; what is longer is no value of the service
+constexpr std::size_t longestValue = 40;  // characters; the values of the service are shorter
 
 Color conditionColor(std::string_view value) {
     if (value == "Good") return Color::green;
