@@ -1,4 +1,4 @@
-// What happens once, when the program has started and its window is made.
+// What happens once, after the program has started and made its window.
 #pragma once
 
 #include "app/my_tab_view_controller.h"
@@ -10,7 +10,7 @@ class AppDelegate {
 public:
     explicit AppDelegate(Display& display) : display_(display), pages_{display.mainTab} {}
 
-    // The first page is in front, and rows of the memory channels can be dragged.
+    // Brings the first page to the front, and lets rows of the memory channels be dragged.
     void applicationDidFinishLaunching();
 
 private:

@@ -37,8 +37,8 @@ class Preferences {
 public:
     Preferences(Display& display, SettingsStore& settings) : display_(display), settings_(settings) {}
 
-    void restore();                     // takes the stored switches and shows them
-    void goMainMenu(MenuItem& sender);  // turns the switch of the sender's tag over, and stores it
+    void restore();                     // loads the stored switches and shows them
+    void goMainMenu(MenuItem& sender);  // flips the switch of the sender's tag, and stores it
 
     const Switches& switches() const { return switches_; }
     bool voiceGuide() const { return switches_.vqVoiceGuide == "1"; }

@@ -1,4 +1,4 @@
-// Where the services live that the program talks to or opens in the web browser.
+// The addresses of the services that the program uses or opens in the web browser.
 #pragma once
 
 #include <string>
@@ -19,7 +19,7 @@ struct ServiceHosts {
     std::string helpPage() const { return webSite + "/corvane/"; }
     std::string productPage() const { return webSite + "/v/corvane/"; }
 
-    // The default hosts; with `services` ("http://127.0.0.1:9000") that one server for all of them.
+    // The default hosts, or the one server `services` ("http://127.0.0.1:9000") for all of them.
     static ServiceHosts from(std::string services) {
         while (services.ends_with('/')) services.pop_back();
         if (services.empty()) return {};

@@ -1,4 +1,5 @@
-// What is heard: the voice guide and the program's own sounds behind their switches, the named alerts in any case.
+// Everything that is heard: the voice guide and the program's own sounds while they are switched on, the named alerts
+// always.
 #pragma once
 
 #include <string>
@@ -19,7 +20,7 @@ public:
     void speak(std::string_view text);            // while the voice guide is on
     void playSound(std::string_view name);        // while sounds are on: "Seatbelts"
     void playSystemSound(std::string_view name);  // "Basso"
-    // A box over the window, with a sound: what went wrong, then what to do about it.
+    // Shows a box over the window, with a sound: what went wrong, then what to do about it.
     void warn(std::string_view message, std::string_view detail);
 
     SpeechSynthesizer& synth;

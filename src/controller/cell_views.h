@@ -1,5 +1,5 @@
-// The cells with a control in them. One row per column: the control that stands for those of all rows, and what it
-// does.
+// The table cells with a control in them. One row per column: the one control that serves the whole column, and its
+// action.
 #pragma once
 
 #include <array>
@@ -44,7 +44,7 @@ inline constexpr std::array popUpCellViews{
                           &SerialPortDemoController::modeEdited},
 };
 
-// Plain text cells that may be edited.
+// Text cells that can be edited.
 inline constexpr std::array textCellViews{
     CellView<TextField>{"", &Display::memoriesTable, "frequency", &Display::memsTableFrequencyField,
                         &SerialPortDemoController::textEdited},

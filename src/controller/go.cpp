@@ -1,4 +1,4 @@
-// The two actions that many controls share: which room a key of the front panel, or a pop-up, is of.
+// The two actions that many controls share. They find the room of a front-panel key or a pop-up.
 #include <variant>
 
 #include "controller/serial_port_demo_controller.h"
@@ -33,7 +33,7 @@ struct Press {
     }
     void operator()(const ProductPageKey&) const { face.openLink(face.hosts.productPage()); }
     void operator()(const ClearAutoMemoriesKey&) const { face.autoMemories.clear(); }
-    // The key's refresh ends with a sound, a refresh by itself without one.
+    // Only a refresh that a key started ends with a sound.
     void operator()(const RefreshKey& key) const {
         const auto sound = [&voice = face.voice] { voice.playSound("Funk"); };
         if (key.feed == Feed::bandConditions)

@@ -1,4 +1,4 @@
-// Chunks of bytes become responses, and each response goes to the one handler of its command name.
+// Splits chunks of bytes into responses, and passes each response to the one handler of its command name.
 #include <algorithm>
 #include <array>
 #include <variant>
@@ -12,7 +12,7 @@ namespace corvane {
 
 namespace {
 
-struct EndOfChunk {};  // nothing after it in the chunk is taken
+struct EndOfChunk {};  // the rest of the chunk is ignored
 
 // An operation of one of the rooms.
 using Handler = std::variant<EndOfChunk, void (Mirror::*)(std::string_view), void (SetupMenu::*)(std::string_view),
@@ -84,8 +84,8 @@ static_assert(std::ranges::adjacent_find(responseTable,
                                          }) == responseTable.end(),
               "no row begins another, so that a response passes one test at most");
 
-// The row whose test the response passes. As no row's text begins another's, it can only be the last one that does not
-// come after the response.
+// The row whose test the response passes, or nullptr. Because no row's text begins another's, only the last row that
+// does not sort after the response can pass.
 const ResponseRow* responseRow(std::string_view response) {
     const auto after = std::ranges::upper_bound(responseTable, response, {}, &ResponseRow::text);
     if (after == responseTable.begin()) return nullptr;
@@ -94,7 +94,7 @@ const ResponseRow* responseRow(std::string_view response) {
     return passes ? &row : nullptr;
 }
 
-// Hands a response to the room that takes it; whether the chunk goes on.
+// Hands a response to the room that takes it; returns whether the rest of the chunk is taken, too.
 struct Taking {
     SerialPortDemoController& face;
     std::string_view response;

@@ -62,7 +62,7 @@ void SerialPortDemoController::awakeFromNib() {
         link.suggestPort();
         showSettingsProblem();
     }
-    // A port may have appeared, and the settings been restored, before the window was there.
+    // A flag of its own: if a port appears before the window is made, the settings are restored then.
     if (std::exchange(vqTimerStarted, 1) == 1) return;
     fetchBandConditions();
     autoMemorySample();

@@ -1,12 +1,11 @@
 // The face of Corvane: it owns the rooms, wires them, and names every operation of the program whose name others use:
-// the operator's actions, the calls of ports and tables, and what runs by itself.
+// the operator's actions, the calls from ports and tables, and what runs on a timer.
 //
-// This header is an index. An operation does what its room says it does; the room's header is the contract. What the
-// controller does itself stands in
-//   what each control does               controller/bindings.cpp
-//   which room takes a response          controller/response_table.cpp
-//   which room a front-panel key is of   controller/go.cpp
-//   making, restoring, and the tables    controller/serial_port_demo_controller.cpp
+// This header is an index. The contract of an operation is in the header of its room. The controller itself does this:
+//   the action of each control           controller/bindings.cpp
+//   the room that takes a response       controller/response_table.cpp
+//   the room of a front-panel key        controller/go.cpp
+//   start, restoring, and the tables     controller/serial_port_demo_controller.cpp
 #pragma once
 
 #include <string>
@@ -41,8 +40,8 @@ class SerialPortDemoController final : public ORSSerialPortDelegate,
 public:
     SerialPortDemoController(const Platform& platform, ServiceHosts serviceHosts);
     ~SerialPortDemoController() override;
-    void awakeFromNib();     // the window is there: restores the settings, the first time only
-    void restoreSettings();  // what is kept between runs
+    void awakeFromNib();     // the window is made: restores the settings, the first time only
+    void restoreSettings();  // restores what is kept between runs
     void goMainMenu(MenuItem& sender) { preferences.goMainMenu(sender); }
     void showHelp() { platform_.browser.open(hosts.helpPage()); }
 
@@ -143,7 +142,7 @@ public:
     bool mouseDownInHeader(TableView& table, int column) override;
 
 private:
-    void wire();  // what one room tells another
+    void wire();  // connects the callbacks of the rooms
     void bindControls();
     void bindPopUps();
     void bindEntries();
@@ -157,7 +156,7 @@ public:
     SettingsStore& userDefaults = platform_.settings;
     const ServiceHosts hosts;
 
-    // The rooms, each below those that may see it.
+    // The rooms; each may use only those above it in this list.
     Display display;
     Preferences preferences;
     Voice voice;
@@ -179,7 +178,7 @@ public:
 
 private:
     int vqPortChecked = 0;   // 1 once the settings have been restored
-    int vqTimerStarted = 0;  // 1 from when what runs as long as the program does has been started
+    int vqTimerStarted = 0;  // 1 once the sampler of auto memories has been started
 };
 
 }  // namespace corvane

@@ -1,5 +1,5 @@
-// Keeps a control that is dragged from sending more than the line carries: at most one command in 50 ms, and always
-// the last one given.
+// Keeps a dragged slider from sending more than the line can carry: at most one command in 50 ms, and always the last
+// one.
 #pragma once
 
 #include <functional>
@@ -16,12 +16,12 @@ public:
 
     static constexpr Scheduler::Duration interval{50};
 
-    // `tasks` end with the pacer; `rested` is called when the last command is 50 ms old.
+    // `tasks` must end with the pacer; `rested` is called 50 ms after the last command.
     CommandPacer(Send send, const Tasks& tasks, std::function<void()> rested)
         : send_(std::move(send)), tasks_(tasks), rested_(std::move(rested)) {}
 
-    // Sends the command at once, or as soon as the one before it is 50 ms old; only the latest of those that wait is
-    // sent. "AG0080;", "AG0085;", "AG0090;" within 50 ms send the first and the last.
+    // Sends the command at once, or as soon as the previous one is 50 ms old; of several that wait, only the latest is
+    // sent. Of "AG0080;", "AG0085;" and "AG0090;" within 50 ms the first and the last are sent.
     void submit(std::string command);
 
 private:

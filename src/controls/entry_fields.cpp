@@ -15,7 +15,7 @@ void EntryFields::doTune(Button&) {
     TextField& field = display_.freqTextField;
     const TypedFrequency typed = typedFrequency(field.stringValue());
     field.endEditing();
-    // Whatever was typed, the field shows what is tuned; the transceiver's report brings the new frequency.
+    // The field goes back to the tuned frequency; the transceiver's report then brings the new one.
     mirror_.showActiveFrequency();
     if (typed.verdict == TypedFrequency::Verdict::tooLowOrNoNumber)
         return voice_.warn(frequencyTooLow.message, frequencyTooLow.detail);

@@ -1,4 +1,4 @@
-// What the operator types to be sent: a frequency and the call sign.
+// The fields in which the operator types a frequency or the call sign.
 #pragma once
 
 #include "app/voice.h"
@@ -13,7 +13,7 @@ public:
     EntryFields(Display& display, Link& link, Mirror& mirror, Voice& voice);
 
     void doTune(Button& sender);  // tunes the active VFO to the typed frequency
-    void doCall(Button& sender);  // writes the typed call sign into the transceiver's menu
+    void doCall(Button& sender);  // writes the typed call sign into the setup menu
     void returnPressedInFreqField(TextField& sender);
     void returnPressedInCallField(TextField& sender);
 

@@ -14,7 +14,7 @@ FrontPanel::FrontPanel(Display& display, Link& link, Mirror& mirror, Voice& voic
     : display_(display), link_(link), mirror_(mirror), voice_(voice), tasks_(scheduler) {}
 
 void FrontPanel::finish(std::string command) {
-    // Break-in off must stay off: it alone goes out without the command that switches break-in on.
+    // The command for break-in off goes out alone: break-in on after it would undo it.
     if (command != "BI0;") command += "BI1;";
     link_.send(std::move(command));
 }
@@ -91,14 +91,14 @@ void FrontPanel::press(Button&, const SwapKey& key) {
     finish(std::string(key.command));
 }
 
-// The first "PS1;" only wakes the transceiver; it needs a while before it takes the next. The window stays alive
-// meanwhile.
+// The first "PS1;" only wakes the transceiver, which then needs a while before it takes the next. The wait does not
+// block the window.
 void FrontPanel::press(Button& sender, const PowerOnKey&) {
     link_.send("PS1;");
     sender.setBusy(true);
     tasks_.after(1250ms, [this, &sender, session = link_.session()] {
         sender.setBusy(false);
-        if (session != link_.session()) return;  // another link by now
+        if (session != link_.session()) return;  // the link has been closed or opened since
         link_.send("PS1;");
         finish("PS1;");
     });

@@ -1,5 +1,5 @@
-// The keys of the front panel. Each press builds a command, which the common tail `finish` sends; the display follows
-// when the transceiver reports.
+// The keys of the front panel. Each press builds a command, and `finish` sends it. The display follows when the
+// transceiver reports.
 #pragma once
 
 #include <string>
@@ -17,7 +17,7 @@ class FrontPanel {
 public:
     FrontPanel(Display& display, Link& link, Mirror& mirror, Voice& voice, Scheduler& scheduler);
 
-    // A press of a key, each kind in its own way; a key with two tags goes from one to the other.
+    // A press of a key, one operation for each kind of key. A key with two tags changes from one tag to the other.
     void press(Button& sender, const BandKey& key);
     void press(Button& sender, const MediumWaveKey& key);
     void press(Button& sender, const ModeKey& key);
@@ -32,12 +32,12 @@ public:
     void press(Button& sender, const VfoKey& key);
     void press(Button& sender, const MemoryKey& key);
     void press(Button& sender, const MemoryBKey& key);
-    void pressWithoutAction(Button& sender);  // a tag that no key has
+    void pressWithoutAction(Button& sender);  // for a tag that no key has
 
-    // Sends the frequency of the active VFO, moved by so many hertz "up" or "down".
+    // Tunes the active VFO "up" or "down" by `step` hertz.
     void stepFrequency(std::string_view direction, int step);
 
-    // The tail of every key: break-in on, then what the key built. "BS05;" sends "BS05;BI1;".
+    // Ends every press: sends the key's command, followed by break-in on. "BS05;" sends "BS05;BI1;".
     void finish(std::string command);
 
 private:

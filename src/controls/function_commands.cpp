@@ -16,7 +16,7 @@ std::string codeCommand(std::string_view before, std::string_view codes, int ind
     return fmt::format("{}{}{}", before, codes[static_cast<std::size_t>(index)], after);
 }
 
-// Off for the first entry, else on and its level.
+// The first entry switches off; any other switches on and sets the level.
 std::string levelCommand(std::string_view name, std::string_view level, int width, int index) {
     if (index < 0) return {};
     if (index == 0) return fmt::format("{}0;", name);

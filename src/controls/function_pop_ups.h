@@ -1,4 +1,4 @@
-// The function pop-ups and sliders: each sends what its position stands for. The display follows when the transceiver
+// The function pop-ups and sliders: each sends the command for its position. The display follows when the transceiver
 // reports.
 #pragma once
 
@@ -33,7 +33,7 @@ public:
     void goMPVD(PopUpButton& sender);
     void goAF(Slider& sender);
     void goRF(Slider& sender);
-    void send(PopUpButton& sender, const SetupPopUp& row);  // what a pop-up of the scope or the power stands for
+    void send(PopUpButton& sender, const SetupPopUp& row);  // for the scope and power pop-ups
 
 private:
     Link& link_;

@@ -31,12 +31,12 @@ Keyer::Keyer(Display& display, Link& link, Mirror& mirror) : display_(display), 
         text->setMaximumLength(static_cast<int>(textPieceLength));
 }
 
-// Outside CW, RTTY and PSK there is no memory to send from: nothing goes out and what was typed stays.
+// Outside CW, RTTY and PSK there is no memory to send from: nothing is sent and the typed text stays.
 void Keyer::sendTextMessage(Button&) {
     const ModeGroup* group = groupInUse(mirror_);
     if (!group) return;
     const std::string typed = display_.textMemoryField.stringValue();
-    // The memory 5 reported last may be another group's, after all three have been read.
+    // After all three groups have been read, the memory 5 reported last may be that of another group.
     mirror_.rememberScratchMemory(*group);
     for (const std::string_view piece : textPieces(typed)) {
         link_.write(storeScratch(*group, piece));
@@ -68,7 +68,7 @@ void Keyer::log(const std::string& text) {
 
 void Keyer::clearLog() { display_.sentTextMemoryField.setStringValue({}); }
 
-// An entry without a memory, the blank one included, has nowhere to store the text: it stays in the editor.
+// An entry without a memory, such as the blank one, stores nothing: the text stays in the editor.
 void Keyer::writeMemoryText(PopUpButton& sender) {
     const int memory = sender.indexOfSelectedItem();
     if (memory < 1 || memory > Display::memories) return;
@@ -78,7 +78,7 @@ void Keyer::writeMemoryText(PopUpButton& sender) {
         const std::string command = storeAndReadBack(editor.group, memory, field.stringValue());
         field.endEditing();
         field.setStringValue({});
-        sender.selectItem(0);  // no memory is chosen beforehand for the next text
+        sender.selectItem(0);  // the operator chooses a memory for every text
         link_.send(command);
     }
 }

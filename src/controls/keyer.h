@@ -1,4 +1,5 @@
-// Texts on the air: what the operator types, and the memories that the transceiver keeps for each mode group.
+// Texts that are transmitted: those that the operator types, and the memories that the transceiver keeps for each mode
+// group.
 #pragma once
 
 #include <optional>
@@ -17,11 +18,12 @@ public:
     void sendTextMessage(Button& sender);  // transmits the typed text through memory 5
     void returnPressedInTextMessageField(TextField& sender);
     void clearTextMessage();
-    // What transmits memory 1 to 5 of the present mode, whose text joins the log; nothing in a mode without memories.
+    // Gives the command that transmits memory 1 to 5 of the present mode, and adds the memory's text to the log. Gives
+    // nothing in a mode without memories.
     std::optional<std::string> playMemory(int memory);
     void clearLog();
 
-    // The sender is the pop-up of an editor, with the memory to write.
+    // The sender is the pop-up of an editor; its selected entry is the memory to write.
     void writeMemoryText(PopUpButton& sender);
 
 private:

@@ -11,7 +11,7 @@ class OperatorClassButton {
 public:
     explicit OperatorClassButton(Display& display);  // hidden until there is a frequency
 
-    void showOperatorClass(std::string_view megahertz);  // "14.250000"; text that is no number is on no amateur band
+    void showOperatorClass(std::string_view megahertz);  // "14.250000"; text that is not a number shows "Out of Band"
 
 private:
     Button& button_;

@@ -1,6 +1,6 @@
-// Switching the transceiver off after a while. Every choice plans a switch-off of its own, and none is called off: one
-// that falls due while nothing is armed does nothing, and one of an earlier choice that falls due after a later one
-// switches off.
+// Switches the transceiver off after a chosen time. Every choice starts its own timer, and no timer is cancelled. A
+// timer that runs out while the power-off is not armed does nothing. One that was started by an earlier choice switches
+// off, even if a later choice has armed the power-off for another time.
 #pragma once
 
 #include "app/voice.h"
@@ -14,7 +14,7 @@ class PowerOff {
 public:
     PowerOff(Display& display, Link& link, Voice& voice, Scheduler& scheduler);
 
-    void choose(PopUpButton& sender);  // entry 1 is half an hour, entry 2 an hour, and so on; entry 0 is off
+    void choose(PopUpButton& sender);  // entry 1 is half an hour, entry 2 an hour, and so on; entry 0 disarms
     void autoPowerOff();
     int vqAPO() const { return vqAPO_; }  // 1 while it is armed
 

@@ -20,7 +20,7 @@ PresetPopUp::PresetPopUp(Display& display, Link& link, const Mirror& mirror, Voi
     display.presetPopUpButton.setEntries(std::move(titles), std::move(groups));
 }
 
-// A title without a row is announced and sends nothing: the command before it must not go out a second time.
+// A title without a preset is announced, but must not send the previous command again.
 void PresetPopUp::goMacro(PopUpButton& sender) {
     const std::string title = sender.titleOfSelectedItem();
     if (const Preset* preset = presetWithTitle(title))

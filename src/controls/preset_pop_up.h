@@ -1,4 +1,4 @@
-// The preset pop-up, by its titles.
+// The pop-up of operating presets, whose titles name them.
 #pragma once
 
 #include "app/voice.h"

@@ -10,7 +10,7 @@ namespace corvane {
 // The command is the prefix, the letter of the active VFO and the suffix: the prefix ends with the "F" of "FA" or "FB",
 // the suffix begins with nine digits of hertz.
 struct Preset {
-    std::string_view group;  // where the menu shows it
+    std::string_view group;  // its heading in the pop-up
     std::string_view title;
     std::string_view prefix;
     std::string_view suffix;

@@ -14,7 +14,7 @@ std::string refusal(std::string_view text) {
         if (c < space || c == deleted)
             return "The transceiver cannot hold line ends, tabs and other control characters.";
         if (c > deleted)
-            return fmt::format("The transceiver cannot hold \"{}\": only unaccented letters, figures and signs.",
+            return fmt::format("The transceiver cannot hold \"{}\": only unaccented letters, digits and signs.",
                                utf8Prefix(text.substr(i), 1));
     }
     return {};

@@ -8,11 +8,11 @@
 
 namespace corvane {
 
-// Empty for a text that can be sent: printable ASCII without ";", which would end the command in the middle and make
-// another one of the rest. Else why it is refused: "The transceiver cannot hold \";\"."
+// Why a text is refused: "The transceiver cannot hold \";\"." Empty for a text that can be sent: printable ASCII
+// without ";", which would end the command early and make another one of the rest.
 std::string refusal(std::string_view text);
 
-// Whether the text in a field can be sent; `notice` says why not, or nothing.
+// Whether the text in a field can be sent; `notice` shows why not, or is emptied.
 bool acceptsText(const TextField& typed, TextField& notice);
 
 }  // namespace corvane

@@ -1,5 +1,5 @@
-// The pop-ups that share one action and are known by their tags: the scope's, the powers' and those that write keyer
-// memories.
+// The pop-ups that share one action and are told apart by their tags: those of the scope, of the power and the
+// power-off, and those that write keyer memories.
 #pragma once
 
 #include <algorithm>
@@ -9,15 +9,15 @@
 
 namespace corvane {
 
-// What a choice does: send the entry's index, its title or the watts that it stands for, plan to switch off, or store
-// the text of an editor in a memory.
+// What a choice does: it sends the entry's index, its title or its watts, starts the power-off timer, or stores an
+// editor's text in a memory.
 enum class SetupChoice { index, title, watts, powerOff, memoryText };
 
 struct SetupPopUp {
     int tag;
     SetupChoice choice;
-    std::string_view before = {};   // what stands before the value, e.g. "SS00"
-    std::string_view after = {};    // and behind it, e.g. "0000;"
+    std::string_view before = {};   // the text before the value, e.g. "SS00"
+    std::string_view after = {};    // the text after it, e.g. "0000;"
     std::string_view noEntry = {};  // the value when no entry is selected; empty: nothing is sent
 };
 
@@ -34,15 +34,15 @@ inline constexpr std::array setupPopUps{
 };
 static_assert(std::ranges::is_sorted(setupPopUps, std::ranges::less_equal{}, &SetupPopUp::tag));
 
-// The row of a tag, or nullptr: 2000 is the scope's speed.
+// The row of a tag, or nullptr: 2000 gives the scope speed.
 constexpr const SetupPopUp* setupPopUp(int tag) {
     const auto row = std::ranges::find(setupPopUps, tag, &SetupPopUp::tag);
     return row == setupPopUps.end() ? nullptr : &*row;
 }
 
-// What a choice sends: entry 2 of tag 2000 "SS0020000;", the title "-30.0" of tag 2004 "SS04-30.0;", entry 45 of tag
-// 2007 "PC050;". Nothing for a choice that does something else, and without an entry (index below 0) only what
-// `noEntry` says.
+// The command for a choice: entry 2 of tag 2000 gives "SS0020000;", the title "-30.0" of tag 2004 "SS04-30.0;", entry
+// 45 of tag 2007 "PC050;". Empty for a choice that sends no command. Without a selected entry (index below 0) the value
+// is `noEntry`; if that is empty, so is the command.
 std::string setupCommand(const SetupPopUp& popUp, int index, std::string_view title);
 
 }  // namespace corvane

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double lowestUpperSideBand = SideBands::lowestUpper / 1e6;  // MHz
 
-// A number typed with six decimals is a whole number of hertz, which binary fractions may miss by a hair.
+// A number typed with six decimals is a whole number of hertz, but its binary fraction may be slightly smaller.
 constexpr double hair = 1e-6;  // Hz
 
 }  // namespace

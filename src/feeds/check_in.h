@@ -1,4 +1,4 @@
-// One check-in to a net, as a value: what happens, and what is to be done next.
+// One check-in to a net, as a value: it takes what happens and says what to do next.
 #pragma once
 
 #include <string>
@@ -11,18 +11,19 @@ public:
     enum class Event {
         begun,
         answered,    // by the directory
-        timePassed,  // that the directory is given to note it
-        listShown,   // the nets, fetched anew
+        timePassed,  // the directory has had time to store it
+        listShown,   // the list of nets was fetched again
     };
     enum class Next { nothing, announce, fetchList };
 
     CheckIn(Kind kind, std::string net, std::string name) : kind_(kind), net_(std::move(net)), name_(std::move(name)) {}
 
-    // A confirmation is announced at once, and the list fetched when the directory has had its time. A retraction is
-    // announced once the list shows it, which is fetched as soon as the directory answers, or has had its time.
+    // A confirmation is announced at once, and the list is fetched when the directory has had its time. For a
+    // retraction the list is fetched as soon as the directory answers or has had its time; once the list is shown, the
+    // retraction is announced.
     Next take(Event event);
 
-    // For the directory: {"action":1,"key":"0123456789abcdef0123456789abcdef","net_id":"7"}.
+    // The request to the directory: {"action":1,"key":"0123456789abcdef0123456789abcdef","net_id":"7"}.
     std::string body(const std::string& operatorKey) const;
     std::string announcement() const;  // "thank you for confirming Noon Net"
 

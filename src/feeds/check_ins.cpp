@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto recordingTime = 2s;  // what the directory is given to note a check-in
+constexpr auto recordingTime = 2s;  // the time that the directory gets to store a check-in
 
 }  // namespace
 
@@ -42,7 +42,7 @@ void CheckIns::take(const std::shared_ptr<CheckIn>& checkIn, CheckIn::Event even
     }
 }
 
-// Whether it arrived shows in the list that is fetched next.
+// The list that is fetched next shows whether it arrived.
 void CheckIns::post(const std::shared_ptr<CheckIn>& checkIn) {
     HttpRequest request;
     request.method = "POST";

@@ -13,7 +13,7 @@ namespace corvane {
 namespace {
 
 constexpr std::string_view path = "/solarxml.php";
-constexpr std::size_t longestValue = 40;  // characters; what is longer is no value of the service
+constexpr std::size_t longestValue = 40;  // characters; the values of the service are shorter
 
 Color conditionColor(std::string_view value) {
     if (value == "Good") return Color::green;
@@ -37,7 +37,7 @@ void Conditions::fetch(std::function<void()> then) {
     const auto read = [this](const HttpResponse& response) -> HttpClient::Rest {
         return [this, conditions = decodeBandConditions(response.body), problem = response.problem]() mutable {
             show(conditions);
-            if (problem.empty() && conditions == BandConditions{}) problem = "unreadable: not the lines of the service";
+            if (problem.empty() && conditions == BandConditions{}) problem = "unreadable: no band conditions";
             display_.bandStatusField.setStringValue(clockTime(tasks_.now()) + (problem.empty() ? "" : ": " + problem));
         };
     };

@@ -11,11 +11,11 @@
 
 namespace corvane {
 
-// The text of a column by its identifier; a row that is too short shows nothing.
+// The text for a column, given its identifier; a row that is too short shows nothing.
 std::string feedCell(Feed feed, std::string_view column, const FeedRow& row);
 
-// The same as a cell: a link where the text leads elsewhere. A park's reference leads to
-// "https://pota.app/#/park/US-0001", its name to the map, a net or a station to the page that the list names.
+// The same as a cell, with a link where there is one. A park's reference links to "https://pota.app/#/park/US-0001",
+// its name to the map, a net or a station to the web page that the list gives for it.
 TableCell feedTableCell(Feed feed, std::string_view column, const FeedRow& row, const ServiceHosts& hosts);
 
 }  // namespace corvane

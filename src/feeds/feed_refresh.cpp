@@ -10,7 +10,7 @@ void FeedRefresh::start(const HttpRequest& request, const Read& read, std::funct
     const auto box = std::make_shared<ResponseBox>();
     box->show = read({{}, "no answer within 2 s"});
     box_ = box;
-    // Nobody waits for a box that is not the present one.
+    // An answer counts only while its box is the current one.
     const std::weak_ptr<ResponseBox> current = box;
     box->cancel = client_.send(request, [this, current, read](const HttpResponse& response) {
         return [this, current, show = read(response)]() mutable {

@@ -1,4 +1,4 @@
-// One refresh of a feed: a request, at most 2.0 s of patience, and what came of it.
+// One refresh of a feed: a request, a wait of at most 2.0 s, and the result.
 #pragma once
 
 #include <functional>
@@ -11,17 +11,17 @@
 
 namespace corvane {
 
-// Where what was made of an answer is put; one for every refresh, never used again.
+// Holds the result of one refresh; never used again for another.
 struct ResponseBox {
     HttpClient::Rest show;
     HttpClient::Cancel cancel;
 };
 
-// Refreshes of one feed never overlap: a new one ends the one that is under way, whose answer nobody sees.
+// Refreshes of one feed never overlap: a new one ends the running one, whose answer is dropped.
 class FeedRefresh {
 public:
-    // Makes of an answer what is then to be done on the user-interface thread. Runs on any thread, also when nobody
-    // waits for it any more, so it may use only what it owns.
+    // Decodes an answer; what it returns is then called on the user-interface thread. Runs on any thread, even after
+    // the refresh has ended, so it may use only what it owns.
     using Read = std::function<HttpClient::Rest(const HttpResponse& response)>;
 
     static constexpr Scheduler::Duration patience{2000};
@@ -31,9 +31,9 @@ public:
     FeedRefresh(const FeedRefresh&) = delete;
     FeedRefresh& operator=(const FeedRefresh&) = delete;
 
-    // Ends once with what `read` makes of the answer, or, when the patience is over before that is done, of a response
-    // without a body whose problem says so. What comes later is dropped. `then`, if any, is called after the end of
-    // this refresh or of the one that takes its place.
+    // Ends once, with the result of `read` for the answer. If that is not there within `patience`, it ends with the
+    // result of `read` for a response without a body, whose problem says so; a later answer is dropped. `then`, if any,
+    // is called after this refresh has ended, or the one that replaced it.
     void start(const HttpRequest& request, const Read& read, std::function<void()> then = {});
     bool running() const { return box_ != nullptr; }
 

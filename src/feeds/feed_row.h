@@ -6,7 +6,8 @@
 
 namespace corvane {
 
-// Texts in a fixed order, numbers and times too; each decoder says what stands at which position, counted from 0.
+// Texts in a fixed order; numbers and times are texts, too. Each decoder says what stands at which position, counted
+// from 0.
 struct FeedRow {
     std::vector<std::string> fields;
 
@@ -18,17 +19,17 @@ using FeedList = std::vector<FeedRow>;
 
 inline constexpr std::size_t longestSpokenName = 200;  // characters
 
-// The row with this index, or nullptr when the list has been refreshed since, or the row has fewer fields.
+// The row with this index, or nullptr if a refreshed list has become too short, or the row has fewer fields.
 inline const FeedRow* rowAt(const FeedList& list, int index, std::size_t fields) {
     const auto row = static_cast<std::size_t>(index);
     return row < list.size() && list[row].fields.size() >= fields ? &list[row] : nullptr;
 }
 
-// What is kept of a list, from its top. Services have some hundred rows; a table can be searched through so many while
-// the operator types.
+// The most rows that are kept of a list, from its top. Services send a few hundred; this many can still be searched
+// while the operator types.
 inline constexpr std::size_t mostRows = 10'000;
 
-// What a decoder makes of a body: the rows, or none and why not, in a few words for the operator.
+// The result of decoding a body: the rows, or none and the reason in a few words for the operator.
 struct DecodedFeed {
     FeedList rows;
     std::string problem;

@@ -1,4 +1,4 @@
-// The on-line lists as they were fetched last. They live in memory only.
+// The on-line lists as last fetched. They are kept in memory only.
 #pragma once
 
 #include "feeds/feed_row.h"

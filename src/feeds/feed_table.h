@@ -1,4 +1,4 @@
-// The on-line lists: where each comes from, how it is read and where it is shown. One row per list.
+// The on-line lists: where each comes from, how it is decoded and where it is shown. One row per list.
 #pragma once
 
 #include <array>
@@ -22,7 +22,7 @@ struct ListFeed {
     FeedList FeedState::*list;
     TableView Display::*table;
     TextField Display::*status;
-    std::string_view noun;  // what the rows are: "spots", of which one is a "spot"
+    std::string_view noun;  // what the rows are called, in the plural: "spots"
 };
 
 // In the order in which they are fetched at the start.

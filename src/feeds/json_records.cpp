@@ -14,7 +14,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-// The fields of the record that is being read; of a field given twice the last one counts.
+// The fields of the record that is being decoded; if a field occurs twice, the last one counts.
 class OpenRecord final : public JsonRecord {
 public:
     struct Other {};  // true, false, a list or an object
@@ -63,8 +63,8 @@ private:
     std::string problem_;
 };
 
-// Takes the events of the parser. Only one record is held at a time, so that no body fills the memory; what is nested
-// in a record's fields is passed over. An event that returns false ends the parse.
+// Takes the events of the parser. Only one record is held at a time, so that a large body does not fill the memory.
+// Values nested in a record's fields are skipped. An event that returns false ends the parse.
 class RecordReader final : public nlohmann::json_sax<Json> {
 public:
     using MakeRow = std::function<std::optional<FeedRow>(JsonRecord&)>;

@@ -1,5 +1,5 @@
-// A JSON array of records whose fields are known, read exactly: a record that lacks a field, or holds something else in
-// it, makes the whole array unreadable.
+// Strict decoding of a JSON array of records with known fields: one missing field, or one of another type, makes the
+// whole array unreadable.
 #pragma once
 
 #include <functional>
@@ -11,7 +11,8 @@
 
 namespace corvane {
 
-// One record. Asking for a field that is not as it should be marks the record, and with it the array, as unreadable.
+// One record. Asking for a field that is missing or has another type makes the record, and with it the array,
+// unreadable.
 class JsonRecord {
 public:
     virtual ~JsonRecord() = default;
@@ -21,8 +22,8 @@ public:
     virtual std::optional<float> optionalNumber(std::string_view name) = 0;      // may be absent or null
 };
 
-// Calls `makeRow` for every record in order; rows that it gives are kept. Bytes that are no JSON array of records give
-// no rows and a problem: "unreadable: record 3 has no text \"name\"".
+// Calls `makeRow` for every record in order; keeps the rows that it returns. Bytes that are not a JSON array of records
+// give no rows and a problem: "unreadable: record 3 has no text \"name\"".
 DecodedFeed decodeRecords(std::string_view body, const std::function<std::optional<FeedRow>(JsonRecord&)>& makeRow);
 
 }  // namespace corvane

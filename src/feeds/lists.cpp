@@ -1,5 +1,5 @@
 // Fetching the on-line lists: the list is emptied, the answer to one request is decoded into it, and the line beside it
-// says when that was and what went wrong. Nothing pops up, nothing is tried again by itself.
+// shows the time and what went wrong. A failure opens no box and is not retried.
 #include "feeds/lists.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ const ListFeed* feedOf(const Display& display, const TableView& table) {
     return feed == listFeeds.end() ? nullptr : &*feed;
 }
 
-// Why a body without a problem gave no rows; nothing for a list that is just empty.
+// Why a body without a problem gave no rows; empty for a list that has none.
 std::string problemOfNoRows(std::string_view body) {
     if (body.empty()) return "an empty answer";
     const std::string_view start = trimmed(body).substr(0, 15);
@@ -30,15 +30,15 @@ std::string problemOfNoRows(std::string_view body) {
     return page ? "unreadable: a web page" : "";
 }
 
-// What the answer of a list comes to. It is made on any thread.
+// The result of fetching a list. It is made on any thread.
 struct ListAnswer {
     FeedList rows;
     std::size_t found = 0;   // rows of the answer; those beyond mostRows are left out
-    std::string unreadable;  // why the body could not be read; empty: it could
+    std::string unreadable;  // why the body could not be decoded; empty: it could
     std::string problem;     // why there are no rows, for the operator
 };
 
-// An error page has a body, too: it is read like any other, and finds nothing.
+// An error page has a body, too: it is decoded like any other, and gives no rows.
 ListAnswer listAnswer(const ListFeed& feed, const HttpResponse& response, Instant now) {
     DecodedFeed decoded = response.body.empty() ? DecodedFeed{} : feed.decode(response.body, now);
     ListAnswer answer{std::move(decoded.rows), 0, decoded.problem, response.problem};

@@ -37,10 +37,10 @@ public:
     // Puts these rows into a list's table.
     void setRows(const ListFeed& feed, FeedList rows);
 
-    // Empties the list and asks for it anew. `then` is called when the rows of this fetch, or of one that has replaced
+    // Empties the list and fetches it again. `then` is called when the rows of this fetch, or of one that has replaced
     // it, are shown.
     void fetch(Feed list, std::function<void()> then = {});
-    void fetchAll();  // in the order of the start
+    void fetchAll();  // in the order of listFeeds
 
     int numberOfRows(const TableView& table) const;  // 0 for a table of another room
     TableCell viewFor(const TableView& table, int row, int column) const;

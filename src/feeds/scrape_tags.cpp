@@ -8,7 +8,7 @@ namespace corvane {
 
 namespace {
 
-// What stands between the first opening tag of a line and the first closing tag after it.
+// Finds the text between the first opening tag of a line and the first closing tag after it.
 struct TagPair {
     explicit TagPair(std::string_view name)
         : opening(fmt::format("<{}>", name)), closing(fmt::format("</{}>", name)), isFrequency(name == "Frequency") {}

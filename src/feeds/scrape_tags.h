@@ -1,4 +1,4 @@
-// Values out of text that looks like XML and is read line by line: "<NetName>Noon Net</NetName><Mode>SSB</Mode>".
+// Extracts values from text that looks like XML, line by line: "<NetName>Noon Net</NetName><Mode>SSB</Mode>".
 #pragma once
 
 #include <span>
@@ -10,14 +10,15 @@
 
 namespace corvane {
 
-// One list of values a tag. A line gives at most one value a tag, its first whole pair, unchanged; of the tag
-// "Frequency" it gives keepDigits of that. Lines end with "\n".
+// One list of values for each tag. A line gives at most one value for a tag: the text between its first opening tag and
+// the closing tag after it. Of a "Frequency" only keepDigits is kept. Lines end with "\n".
 std::vector<std::vector<std::string>> scrapeTags(std::string_view text, std::span<const std::string_view> tags);
 
-// The rows that the lists make: the k-th value of each list, as far as every list has one.
+// Turns the lists into rows: row k has the k-th value of each list. There are as many rows as the shortest list has
+// values.
 FeedList rowsOf(std::vector<std::vector<std::string>> lists);
 
-// The text without everything that is no figure and no point: "14.300 MHz" gives "14.300", "7,185" "7185".
+// Removes everything but digits and points: "14.300 MHz" gives "14.300", "7,185" gives "7185".
 std::string keepDigits(std::string_view text);
 
 }  // namespace corvane

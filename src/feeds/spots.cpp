@@ -90,7 +90,7 @@ std::optional<FeedRow> potaRow(const potaCalls& spot, Instant now) {
 
 std::optional<FeedRow> sotaRow(const sotaCalls& spot, Instant now) {
     const float megahertz = decimalNumber<float>(spot.frequency).value_or(0);
-    // Compared before it is cut: what no integer holds is no frequency either.
+    // Compared as a float: an integer could overflow.
     if (!(megahertz >= lowestSotaMegahertz && megahertz < highestSotaMegahertz + 1)) return std::nullopt;
     const auto timePieces = pieces(spot.timeStamp, '.');
     const auto summit = pieces(spot.summitDetails, ',');

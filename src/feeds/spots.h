@@ -10,9 +10,9 @@ namespace corvane {
 
 using Instant = std::chrono::system_clock::time_point;
 
-// Parks on the air, youngest spot first, without those whose comment says QRT. Row: activator, frequency (kHz), mode,
-// comment, park, age (minutes), latitude, longitude, location, reference. A spot whose time cannot be read has no age
-// and stands last.
+// Parks on the air, newest spot first; spots whose comment says QRT are left out. Row: activator, frequency (kHz),
+// mode, comment, park, age (minutes), latitude, longitude, location, reference. A spot whose time cannot be read has no
+// age and stands last.
 DecodedFeed decodePotaSpots(std::string_view body, Instant now);
 
 // Summits on the air between 2 and 70 MHz in the order of the service. Row: activator, activator's name, frequency

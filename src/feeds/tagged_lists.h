@@ -7,15 +7,15 @@
 
 namespace corvane {
 
-// The SSB nets that are active on NetLogger, most subscribers first. Row: name, frequency (MHz or kHz, figures and
-// points), mode, subscribers. A count that is no number stands before all others.
+// The SSB nets that are active on NetLogger, most subscribers first. Row: name, frequency (MHz or kHz, digits and
+// points), mode, subscribers. A net whose count is not a number comes first.
 DecodedFeed decodeNetLoggerNets(std::string_view body);
 
-// The directory of nets in its own order. Row: name, frequency (MHz, figures and points), UTC, mode, web page,
+// The directory of nets in its own order. Row: name, frequency (MHz, digits and points), UTC, mode, web page,
 // confirmed, net's number.
 DecodedFeed decodeNets(std::string_view body);
 
-// Medium-wave stations in the order of the list. Row: station, frequency (kHz, figures and points), city, power (kW),
+// Medium-wave stations in the order of the list. Row: station, frequency (kHz, digits and points), city, power (kW),
 // web page.
 DecodedFeed decodeMWStations(std::string_view body);
 

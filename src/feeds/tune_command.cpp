@@ -21,7 +21,7 @@ struct ModeRow {
     ModeWords words;
     std::string_view mode;
     SideBands sideBands;
-    bool setsKnob = true;  // the function knob goes with the mode
+    bool setsKnob = true;  // sets the function knob along with the mode
 };
 
 constexpr std::array modeRows{
@@ -57,7 +57,7 @@ std::string tuneCommandForNetLogger(std::string_view frequency, std::string_view
     float megahertz = decimalNumber<float>(frequency).value_or(0);
     if (megahertz > aboveIsKilohertz) megahertz /= 1000.0F;
     const std::string digits = without(shortestDecimal(megahertz), ".");
-    // Filled up or cut on the right. Unlike elsewhere 10 MHz itself has the lower side band.
+    // The digits are filled up or cut on the right. Unlike elsewhere, 10 MHz itself gets the lower side band.
     const bool lower = megahertz <= SideBands::lowestUpper / 1e6F;
     return lower ? fmt::format("MD01;F{}00{:0<7.7};{}SS0560000;", vfo, digits, scopeMode)
                  : fmt::format("MD02;F{}0{:0<8.8};{}SS0560000;", vfo, digits, scopeMode);

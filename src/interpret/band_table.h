@@ -20,7 +20,8 @@ inline constexpr std::array bandTable{
 };
 inline constexpr int generalCoverageKeyTag = 161;
 
-// The tag of the key for a frequency in hertz: 14250000 gives 20; what lies in no band is general coverage.
+// The tag of the key for a frequency in hertz: 14250000 gives 20; a frequency outside all bands gives the key for
+// general coverage.
 constexpr int bandKeyTag(int frequency) {
     const auto band = std::ranges::find_if(
         bandTable, [frequency](const Band& b) { return b.lowerBound <= frequency && frequency <= b.upperBound; });

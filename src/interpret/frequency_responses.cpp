@@ -136,7 +136,7 @@ void Mirror::takeMode(std::string_view response) {
 void Mirror::takeVfoASelected(std::string_view) { setActiveVfo("A"); }
 void Mirror::takeVfoBSelected(std::string_view) { setActiveVfo("B"); }
 
-// A channel that was read outside a read of all channels is the one in use.
+// Outside a read of all channels, the response is about the channel in use.
 void Mirror::takeMemoryInUse(std::string_view response) {
     if (!isAscii(response)) return;
     state_.vqMemFreq = positions(response, 6, 9);

@@ -1,4 +1,4 @@
-// Reading a group of the setup menu, as a value: what is still asked for, and how far it is.
+// The read of one group of the setup menu, as a value: the items that are still awaited, and the progress.
 #pragma once
 
 #include <bitset>
@@ -13,16 +13,16 @@ struct MenuGroup;
 class MenuGroupRead {
 public:
     MenuGroupRead() = default;
-    MenuGroupRead(const MenuGroup& group, unsigned number);  // begins; every read has a number of its own
+    MenuGroupRead(const MenuGroup& group, unsigned number);  // begins a read; each has its own number
 
-    // What has come. Each says whether the read was waiting for it.
+    // A response has come. Each operation returns whether the read was waiting for it.
     bool takeAnswer(const MenuItemRow& row);
-    bool takeRefusal();  // an error answer: the transceiver has no such item
+    bool takeRefusal();  // an error response: the transceiver has no such item
 
     void stop() { stopped_ = true; }
 
     bool running() const { return !stopped_ && handled() < asked_; }
-    int page() const { return page_; }  // of the group, on the settings page
+    int page() const { return page_; }  // of the settings tab
     unsigned number() const { return number_; }
     int handled() const { return asked_ - static_cast<int>(waiting_.count()) + refused_; }
     int percent() const { return asked_ == 0 ? 0 : 100 * handled() / asked_; }
@@ -36,8 +36,8 @@ private:
     unsigned number_ = 0;
     int asked_ = 0;  // items of the group
     int refused_ = 0;
-    bool stopped_ = true;                    // it ended before its time, or never began
-    std::bitset<menuItems.size()> waiting_;  // the items without an answer, by their place in menuItems
+    bool stopped_ = true;                    // it ended early, or never began
+    std::bitset<menuItems.size()> waiting_;  // the items without a response, by their index in menuItems
 };
 
 }  // namespace corvane

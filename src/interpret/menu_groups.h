@@ -1,4 +1,4 @@
-// The groups of the transceiver's setup menu: which items a read of one asks for.
+// The groups of the transceiver's setup menu, and the items that a read of each group asks for.
 #pragma once
 
 #include <algorithm>
@@ -15,13 +15,14 @@ inline constexpr std::array menuItemsNotAskedFor{10517, 20212, 20301, 30108, 301
 static_assert(std::ranges::is_sorted(menuItemsNotAskedFor), "found by binary search");
 static_assert(std::ranges::all_of(menuItemsNotAskedFor, [](int item) { return menuItem(item) != nullptr; }));
 
-// Whether the read of its group asks for an item: 30107 is asked for, 30108 is not, nor is what is no item.
+// Whether the read of its group asks for an item: true for 30107, false for 30108 and for a number without an item.
 constexpr bool isAskedFor(int item) {
     return menuItem(item) && !std::ranges::binary_search(menuItemsNotAskedFor, item);
 }
 
-// What the key that reads a group sends: `before`, then the requests of its sub-menus in order, then `after`. The last
-// of these goes out with the tail that every key has, and where `lastTwice` says so also once before.
+// A group of the setup menu, and what its key sends to read it: `before`, then the requests of its sub-menus in order,
+// then `after`. The last of these that is not empty goes out with the tail that every key sends; with `lastTwice` it is
+// also sent once before.
 struct MenuGroup {
     int page;  // of the settings tab
     std::string_view before;
@@ -29,7 +30,7 @@ struct MenuGroup {
     bool lastTwice;
 
     constexpr int firstSubMenu() const { return std::ranges::find(menuSubMenus, page, &MenuSubMenu::page)->number; }
-    // The last of which an item is asked for.
+    // The last sub-menu with an item that is asked for.
     constexpr int lastSubMenu() const {
         int last = 0;
         for (const MenuItemRow& row : menuItems)
@@ -47,8 +48,8 @@ inline constexpr std::array menuGroups{
 };
 static_assert(menuGroups.back().page == menuSubMenus.back().page());
 
-// The read requests of a sub-menu back to back: 106 gives "EX010601;EX010602;EX010603;EX010604;EX010605;". A number
-// that is not in the table gives none.
+// The read requests of a sub-menu back to back: 106 gives "EX010601;EX010602;EX010603;EX010604;EX010605;". An unknown
+// number gives the empty text.
 std::string subMenuRequest(int number);
 
 }  // namespace corvane

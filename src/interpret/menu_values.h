@@ -1,4 +1,4 @@
-// What the transceiver says of an item of its setup menu.
+// The transceiver's report of one item of its setup menu.
 #pragma once
 
 #include <optional>
@@ -10,11 +10,12 @@ namespace corvane {
 
 struct MenuReport {
     const MenuItemRow* row;
-    std::string_view value;  // as many characters as the item has; of the call sign all there are
+    std::string_view value;  // as many characters as the item has; the call sign may have any number
 };
 
-// "EX0101040250" reports "0250" for item 010104; what follows the item's width is ignored. Nothing for a number that no
-// item has and for a value that is too short. An item that is not read is reported with an empty value.
+// "EX0101040250" reports "0250" for item 010104; characters beyond the item's width are ignored. Gives nothing for an
+// unknown item number and for a value that is too short. An item that the program does not read is reported with an
+// empty value.
 std::optional<MenuReport> menuReport(std::string_view response);
 
 }  // namespace corvane

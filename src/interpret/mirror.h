@@ -1,5 +1,5 @@
-// The mirror of the transceiver: what it reports of itself, and the controls that show it. One operation for each kind
-// of response; a response is taken without its ";".
+// The mirror of the transceiver: it keeps what the transceiver reports, and shows it in the controls. There is one
+// operation for each kind of response; a response comes without its ";".
 //
 //   frequency and mode   FA FB MC IF OI MD VS, the channel in use   interpret/frequency_responses.cpp
 //   operating state      meters, gains, switches, texts             interpret/operating_state_responses.cpp
@@ -21,9 +21,9 @@ class Mirror {
 public:
     Mirror(Display& display, Link& link, Voice& voice);
 
-    // Told by the mirror, with the frequency in MHz: "14.250000".
+    // Called by the mirror with the frequency in MHz: "14.250000".
     std::function<void(std::string_view megahertz)> onFrequency = [](std::string_view) {};
-    // Asked by the mirror: the tag of a memory channel, by its row counted from 0.
+    // Called by the mirror for the tag of a memory channel; rows count from 0.
     std::function<std::string(int row)> tagOfChannel = [](int) { return std::string(); };
 
     const RadioState& state() const { return state_; }
@@ -75,7 +75,8 @@ public:
     void takeNoiseBlankerSwitch(std::string_view response);    // "NB01"
     void takeSwitch(std::string_view response);                // "BC01", "CO000001", "BP00001", "BI1"
     void setMuted(bool muted) { state_.vqMuted = muted ? 1 : 0; }
-    // Makes memory 5 of this mode group the text that is put back into it after a typed text was sent.
+    // Remembers the text of memory 5 of this mode group: typed texts are sent through that memory, which then gets its
+    // own text back.
     void rememberScratchMemory(const ModeGroup& group);
 
 private:

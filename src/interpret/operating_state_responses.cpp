@@ -1,5 +1,5 @@
-// The transceiver's receive and transmit settings as it reports them. None of these sends a setting back; two ask for a
-// level.
+// Takes the transceiver's reports of its receive and transmit settings. No operation here changes a setting; two ask
+// for a level.
 #include <algorithm>
 #include <array>
 
@@ -17,8 +17,8 @@ namespace {
 constexpr int lowestAudibleLevel = 5;
 constexpr std::size_t textMemoryLength = 50;
 
-// The number of a scope value: '0' to '9', then 'A' for 10 and 'B' for 11 as far as the pop-up has them. Anything else
-// is 0.
+// The number that a scope code stands for: '0' to '9', then 'A' for 10 and 'B' for 11 if the pop-up has them. Any other
+// code gives 0.
 int scopeValue(std::string_view response, std::string_view codes) {
     const std::size_t index = codes.find(response[4]);
     return index == std::string_view::npos ? 0 : static_cast<int>(index);
@@ -48,7 +48,7 @@ void Mirror::takeNoiseReductionLevel(std::string_view response) {
     display_.DNRPopupButton.selectItem(decimalOrZero(lastOf(response, 2)));
 }
 
-// 4 is automatic; 5 and 6 say which speed it chose.
+// 4 is automatic; 5 and 6 are automatic, too, and say which speed was chosen.
 void Mirror::takeAgc(std::string_view response) {
     display_.AGCPopUpButton.selectItem(std::min(decimalOrZero(lastOf(response, 1)), 4));
 }
@@ -57,7 +57,7 @@ void Mirror::takeAttenuator(std::string_view response) {
     display_.ATTPopUpButton.selectItem(decimalOrZero(lastOf(response, 1)));
 }
 
-// A line feed within a piece is as if it were not there.
+// Line feeds within a piece are ignored.
 void Mirror::takeSignal(std::string_view chunk) {
     forEachPiece(chunk, [this](std::string_view piece) {
         if (piece.find('\n') == std::string_view::npos) {

@@ -1,4 +1,4 @@
-// The transceiver as it reports itself. Values are kept as the text received, leading zeros included.
+// The transceiver's state as last reported. Values are kept as the text received, leading zeros included.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@ struct RadioState {
     std::string vqFreqA;            // VFO A in hertz, nine digits, e.g. "014250000"; empty before the first report
     std::string vqFreqB;            // VFO B
     std::string vqAorB = "B";       // the active VFO, "A" or "B"
-    std::string vqModeA = "vfo";    // what side A is tuned by: "vfo" or "memory"
+    std::string vqModeA = "vfo";    // what tunes side A: "vfo" or "memory"
     std::string vqModeB = "vfo";    // side B
     std::string vqMode;             // name of the operating mode, e.g. "USB"
     std::string vqMemCh = "001";    // the memory channel reported last, three digits

@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto patience = 2s;  // without an answer
+constexpr auto patience = 2s;  // without a response
 
 }  // namespace
 
@@ -103,7 +103,7 @@ void SetupMenu::showReadProgress(std::string_view problem) {
     display_.menu.readField(read_.page()).setStringValue(read_.text() + std::string(problem));
 }
 
-// Once the answers have stopped coming the read has ended.
+// The read ends when no response has come for `patience`.
 void SetupMenu::watchRead() {
     tasks_.after(patience, [this, handled = read_.handled(), number = read_.number()] {
         if (number != read_.number() || !read_.running()) return;
@@ -112,7 +112,7 @@ void SetupMenu::watchRead() {
     });
 }
 
-// A tag that names no item sends nothing; above all not the command before it.
+// A tag without an item must not send the previous command again.
 void SetupMenu::writeMenuItem(PopUpButton& sender) {
     const MenuItemRow* row = menuItem(sender.tag() - menuTagBase);
     if (!row) return;

@@ -1,5 +1,4 @@
-// The transceiver's setup menu: what its pop-ups hold, what the transceiver reports of it, reading a group of it, and
-// setting an item.
+// The transceiver's setup menu: filling its pop-ups, taking reports of its items, reading a group, and setting an item.
 #pragma once
 
 #include <string>
@@ -19,20 +18,20 @@ class SetupMenu {
 public:
     SetupMenu(Display& display, Link& link, SettingsStore& settings, Scheduler& scheduler);
 
-    // Fills a pop-up of the setup menu with the numbers index * step, e.g. (0, 100, 1, 2010115, 3, 0, 50) "000" to
-    // "100".
+    // Fills a pop-up of the setup menu with the numbers from first * step to last * step: (0, 100, 1, 2010115, 3, 0,
+    // 50) gives "000" to "100".
     void fillMenuPopUp(int first, int last, int step, int tag, int digits, int page, int defaultNumber);
-    // Fills all that hold numbers. What the transceiver reported, or the operator chose, outlasts another filling.
+    // Fills all pop-ups that hold numbers. When they are filled again, each keeps its selected entry.
     void fillMenuPopUps();
 
     void takeMenuItem(std::string_view response);  // "EX0101040250"
-    bool takeRefusal();  // an error answer: whether a read of a group was waiting for an answer
-    // The call sign in the transceiver's menu; empty before the first report.
+    bool takeRefusal();                            // an error response; whether a read of a group was waiting for one
+    // The call sign in the transceiver's setup menu; empty before the first report.
     const std::string& vqCall() const { return vqCall_; }
 
-    // Asks for the items of a group, all but the command that ends it, which is returned.
+    // Asks for the items of a group. Returns the last command, which the caller sends.
     std::string readGroup(const MenuGroup& group);
-    void endRead(std::string_view problem);  // ": stopped, the link is closed."; shown behind how far it came
+    void endRead(std::string_view problem);  // ": stopped, the link is closed."; shown after the progress
 
     void writeMenuItem(PopUpButton& sender);  // sets the item of the sender's tag to the chosen entry
 

@@ -10,7 +10,8 @@ std::string spokenFrequency(std::string_view nineDigits) {
         if (!spoken.empty()) spoken += ' ';
         spoken += digit;
     }
-    // In place: a spin reports a hundred frequencies a second, and a format would take a third longer for each.
+    // Appended in place: a turning knob reports a hundred frequencies a second, and fmt::format would take a third
+    // longer.
     spoken.append(" dot ").append(nineDigits.substr(3, 3));
     std::string_view hertz = nineDigits.substr(6, 3);
     while (hertz.ends_with('0')) hertz.remove_suffix(1);

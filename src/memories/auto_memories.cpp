@@ -36,7 +36,7 @@ void AutoMemories::autoMemoryNow(Button&) {
     if (record()) voice_.playSystemSound("Tink");
 }
 
-// A frequency is kept once, with the mode in which it was heard first.
+// A frequency is recorded once, with the mode in which it was heard first.
 bool AutoMemories::record() {
     auto& [frequencies, modes, notes, squelch] = state_;
     const std::string& frequency = mirror_.activeFrequency();
@@ -46,7 +46,7 @@ bool AutoMemories::record() {
         modes.insert(modes.begin(), mirror_.state().vqMode);
         notes.insert(notes.begin(), std::string(emptyNote));
     }
-    // Before the transceiver's first report there is nothing that could be tuned to.
+    // Before the transceiver's first report there is no frequency or mode that a row could tune to.
     for (std::size_t row = frequencies.size(); row-- > 0;)
         if (frequencies[row].empty() || modes[row].empty()) removeAutoMemory(state_, row);
     display_.autoMemTable.reloadData();

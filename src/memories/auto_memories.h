@@ -1,4 +1,4 @@
-// Auto memories: every 20 seconds the frequency of a signal that is strong enough is kept.
+// Auto memories: every 20 seconds the active frequency is recorded if the signal is strong enough.
 #pragma once
 
 #include "display/display.h"
@@ -17,15 +17,15 @@ public:
 
     const AutoMemoryState& state() const { return state_; }
 
-    void autoMemorySample();                 // now, and every 20 s from now on
-    void autoMemoryNow(Button& sender);      // whatever the signal
+    void autoMemorySample();                 // samples now, and every 20 s from now on
+    void autoMemoryNow(Button& sender);      // records at any signal strength
     void goAutoMemsTune(Button& sender);     // the sender's tag is the row
     void goAutoMemsClear(Button& sender);    // the sender's tag is the row
-    void autoNoteEdited(TextField& sender);  // in the cell where the sender is
+    void autoNoteEdited(TextField& sender);  // the sender is in the note's cell
     void clear();
     void goAutoMemSquelch(Slider& sender);
     void applyAutoMemSquelch(int index);
-    void restoreSquelch();  // as it was in the last run
+    void restoreSquelch();  // from the last run
 
 private:
     bool record();

@@ -8,14 +8,14 @@
 
 namespace corvane {
 
-// Comma-separated, one line a programmed channel under a line of titles:
+// Comma-separated: a line of titles, then one line for each programmed channel:
 //   Location,Name,Frequency,Mode,Record
 //   5,"20M FT8, EU",7.074000,USB,+000000210000
-// Frequency in MHz; a tag without its blanks at the end, in quotes where it needs them; the record as the transceiver
-// sent it after the frequency: clarifier, its two switches, mode, kind, tone, shift.
+// The frequency is in MHz. The tag has no blanks at its end, and quotes where needed. The record is what the
+// transceiver sent after the frequency: clarifier, its two switches, mode, kind, tone, shift.
 std::string memoryTableCsv(const ChannelsAsRead& channels);
 
-// Below the data folder, dated in UTC to the second: "memory-channels/2026-11-23T140312Z.csv".
+// The file's name in the data folder, with the UTC time to the second: "memory-channels/2026-11-23T140312Z.csv".
 std::string memoryBackupName(std::chrono::system_clock::time_point when);
 
 }  // namespace corvane

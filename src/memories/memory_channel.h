@@ -1,4 +1,4 @@
-// A memory channel of the transceiver, and all of them.
+// One memory channel of the transceiver, and the table of all channels.
 #pragma once
 
 #include <array>
@@ -19,7 +19,7 @@ struct MemoryChannel {
 
 using MemoryTable = std::array<MemoryChannel, memoryChannels>;
 
-// A channel as the transceiver reported it, with what a table row does not keep.
+// A channel as the transceiver reported it, including what a table row does not keep.
 struct ChannelAsRead {
     MemoryChannel row;
     std::string rest;  // clarifier, mode, tone and shift: what follows the frequency, e.g. "+000000210000"

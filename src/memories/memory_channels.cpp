@@ -1,4 +1,4 @@
-// Reading the memory channels. The pace is the transceiver's; nothing is sent on a timer.
+// Reading the memory channels. Each reply triggers the next request; nothing is sent on a timer.
 #include "memories/memory_channels.h"
 
 #include "display/table_columns.h"
@@ -9,7 +9,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto patience = 3s;  // longer than any transceiver takes for one answer
+constexpr auto patience = 3s;  // longer than any transceiver takes for one reply
 
 }  // namespace
 
@@ -80,7 +80,7 @@ void MemoryChannels::finishMemoryRead() {
     voice_.playSound("Funk");
 }
 
-// Shows the channels in the table and in the memory pop-up, whose choice stays.
+// Shows the channels in the table and in the memory pop-up, whose selection stays.
 void MemoryChannels::showChannels() {
     display_.memoriesTable.reloadData();
     std::vector<std::string> titles;
@@ -98,7 +98,7 @@ void MemoryChannels::showReadProgress(std::string_view problem) {
     display_.memoryReadField.setStringValue(progress.text + std::string(problem));
 }
 
-// A chain that has stopped says so; it goes on by itself should the answer still come.
+// Tells the operator when the chain has stopped; it goes on if the reply still comes.
 void MemoryChannels::watchMemoryRead() {
     tasks_.after(patience, [this, handled = read_.handled(), number = read_.number] {
         if (number != read_.number || !read_.running()) return;
@@ -116,7 +116,7 @@ void MemoryChannels::linkClosed() {
     display_.memoryReadProgress.setVisible(false);
 }
 
-// Late replies name channels, and rows that have changed their places are other channels.
+// A late reply names a channel, whose row may have moved: it would fill the wrong row.
 void MemoryChannels::endHaltedRead() {
     if (!read_.stalled) return;
     read_.endEarly();

@@ -1,7 +1,7 @@
-// The 99 memory channels: their table, reading and writing them, what hands do to their rows, and files of them.
+// The 99 memory channels: their table, reading and writing them, editing their rows, and files of channels.
 //
 //   reading   the chain of request and reply            memories/memory_channels.cpp
-//   writing   one burst of commands, saved before       memories/memory_write.cpp
+//   writing   one burst of commands, after a backup    memories/memory_write.cpp
 //   edits     editing, moving and sorting rows          memories/memory_edits.cpp
 //   files     export and import                         memories/memory_files.cpp
 #pragma once
@@ -51,8 +51,8 @@ public:
     void startMemoryRead();
     void takeMemoryReply(std::string_view response);  // "MR001014250000+000000210000"
     void takeTagReply(std::string_view response);     // "MT0011CALLING     "
-    // The reply that an error answer stands for while a read waits for one: "MR304" or "MT304", of a channel that does
-    // not exist; empty while none does.
+    // The reply that an error response stands for while channels are read: "MR304" or "MT304", for a channel that does
+    // not exist. Empty while no channels are read.
     std::string_view refusedReply() const;
     void linkClosed();
 
@@ -61,7 +61,7 @@ public:
     void writeMemoriesToRadio(Button& sender);
 
     // --- edits
-    void textEdited(TextField& sender);  // in the cell where the sender is
+    void textEdited(TextField& sender);  // the sender is in the edited cell
     void modeEdited(PopUpButton& sender);
     std::optional<int> acceptDrop(std::string_view plainText, int row);
     bool mouseDownInHeader(int column);
@@ -69,7 +69,7 @@ public:
     // --- files
     void exportMemories(Button& sender);
     void importMemories(Button& sender);
-    // Shows what a file would change, for the operator to take or leave.
+    // Shows what a file would change; the operator chooses which changes to take.
     using TakeChannels = std::function<void(const std::vector<ImportedChannel>& chosen)>;
     std::function<void(MemoryImport import, const MemoryTable& shown, TakeChannels take)> onImport =
         [](const MemoryImport&, const MemoryTable&, const TakeChannels&) {};

@@ -12,9 +12,9 @@ namespace corvane {
 // "MR" asks for frequency and mode of a channel, "MT" for its tag: memoryRequest("MR", 7) is "MR007;".
 std::string memoryRequest(std::string_view name, int channel);
 
-// A reply without its ";": "MR001014250000+000000210000". Positions that a short reply does not have are filled from
-// what it has. The channel is 0 unless it is a number from 1 to 99 and all of the reply is ASCII: noise may still be
-// text, but it is no channel.
+// A reply without its ";": "MR001014250000+000000210000". The fields of a short reply are taken from the characters
+// that it has. The channel is 0 unless it is a number from 1 to 99 and the whole reply is ASCII, because noise may
+// still be well-formed text.
 struct MemoryReply {
     int channel = 0;
     std::string_view frequency;  // nine digits of hertz in a whole reply
@@ -34,12 +34,11 @@ TagReply tagReply(std::string_view reply);
 // The entry of the memory pop-up for row i: "M-05 20M FT8"; an empty channel shows "M-05" and two blanks.
 std::string memoryPopUpTitle(int row, const MemoryChannel& channel);
 
-// A row whose frequency has nine characters holds something; any other is empty.
+// A row whose frequency has nine characters holds a channel; any other is empty.
 bool isProgrammed(const MemoryChannel& row);
 
-// What writes row i, counted from 0. A programmed row gives two commands, frequency with mode and then the tag:
-// "MW005007074000+000000210000;" and "MT0051FT8         ;". An empty row gives the one that erases its channel and no
-// tag.
+// The commands that write a row, counted from 0. A programmed row gives two: "MW005007074000+000000210000;" for
+// frequency and mode, "MT0051FT8         ;" for the tag. An empty row gives only the command that erases its channel.
 std::string memoryWriteCommand(int row, const MemoryChannel& channel);
 std::optional<std::string> tagWriteCommand(int row, const MemoryChannel& channel);
 

@@ -26,8 +26,8 @@ constexpr std::size_t columnCount = 7;
 
 struct FileColumn {
     std::string_view title;
-    std::string_view usual;           // what stands in it when there is nothing to say
-    std::optional<Column> read = {};  // what is made of it; columns without one are only written
+    std::string_view usual;           // what is written if the channel has no value for it
+    std::optional<Column> read = {};  // its use on import; columns without one are only written
 };
 
 constexpr std::array fileColumns{
@@ -51,14 +51,14 @@ constexpr std::array fileColumns{
     FileColumn{"DVCODE", ""},
 };
 constexpr std::string_view lineEnd = "\r\n";
-constexpr std::size_t longestQuoted = 30;  // characters of a field that is named in a reason
+constexpr std::size_t longestQuoted = 30;  // characters of a field that a reason quotes
 
 std::string inQuotes(std::string_view field) {
     const bool showable = isUtf8(field) && std::ranges::none_of(field, [](char c) { return c >= 0 && c < ' '; });
     return showable ? fmt::format("\"{}\"", utf8Prefix(field, longestQuoted)) : "(unreadable)";
 }
 
-// Which field of a line belongs to a column: the first that bears its title.
+// Finds the field of a line for a column: the first whose title matches.
 class Header {
 public:
     explicit Header(const CsvLine& titles) {
@@ -72,7 +72,7 @@ public:
         titles_ = titles.fields.size();
     }
     bool has(Column column) const { return positions_[static_cast<std::size_t>(column)] < titles_; }
-    // Without white space at both ends; empty where the line is too short.
+    // Without white space at both ends; empty if the line is too short.
     std::string_view field(const CsvLine& line, Column column) const {
         const std::size_t position = positions_[static_cast<std::size_t>(column)];
         return has(column) && position < line.fields.size() ? trimmed(line.fields[position]) : std::string_view{};
@@ -83,7 +83,7 @@ private:
     std::size_t titles_ = 0;
 };
 
-// As if it had been typed; of a name in another coding its ASCII characters.
+// The tag as if the name had been typed; a name that is not UTF-8 keeps its ASCII characters.
 std::string tagOf(std::string_view name) {
     const bool text = isUtf8(name);
     std::string printable;

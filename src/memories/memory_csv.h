@@ -1,4 +1,4 @@
-// The memory channels as a file that memory programming tools read and write, and what a file of theirs would change:
+// The memory channels in the file format of memory programming tools, and what such a file would change:
 //   Location,Name,Frequency,Duplex,Offset,Tone,rToneFreq,cToneFreq,DtcsCode,DtcsPolarity,Mode,TStep,Skip,Comment,...
 //   5,20M FT8,14.074000,,0.000000,,88.5,88.5,023,NN,DIG,5.00,,,,,,
 #pragma once
@@ -11,15 +11,15 @@
 
 namespace corvane {
 
-// One line a programmed channel, in the order of the channels; empty channels are left out. A mode that the tools have
-// no name for is written as the nearest, with the transceiver's own name as the comment.
+// One line for each programmed channel, in the order of the channels; empty channels are left out. A mode that the
+// tools do not know is written as the nearest one, with the transceiver's own name as the comment.
 std::string memoryCsv(const MemoryTable& channels);
 
 struct ImportedChannel {
     int line = 0;           // of the file, counted from 1
     int row = 0;            // of the table, counted from 0
     MemoryChannel channel;  // frequency in nine digits, a mode code, a tag of ASCII characters
-    std::string note;       // what of the line is not taken as it stands; empty: nothing
+    std::string note;       // what of the line was changed or left out; empty: nothing
 
     bool operator==(const ImportedChannel&) const = default;
 };
@@ -32,23 +32,24 @@ struct RefusedLine {
 };
 
 struct MemoryImport {
-    std::string problem;  // why the file is none of memory channels; then there are no lines. Empty: it is one
+    std::string problem;  // why the file cannot be used; then both lists are empty. Empty: it can be used
     std::vector<ImportedChannel> channels;
     std::vector<RefusedLine> refused;
 
     bool operator==(const MemoryImport&) const = default;
 };
 
-// Any bytes. Columns are known by their titles in the first line, in any order, small letters or capitals; of others
-// nothing is used. Location (1 to 99) and Frequency (MHz, 0.03 to 75) must be there. Without a mode a channel gets the
-// usual side band. A line that cannot be used, and a second one for a channel, is refused; channels that no line names
-// stay as they are.
+// Takes any bytes. Columns are found by their titles in the first line, in any order, in upper or lower case; other
+// columns are ignored. Location (1 to 99) and Frequency (MHz, 0.03 to 75) must be present. A channel without a mode
+// gets the usual side band. A line that cannot be used is refused, and so is a second line for the same channel.
+// Channels that no line names stay unchanged.
 MemoryImport readMemoryCsv(std::string_view text);
 
-// Whether a write leaves the transceiver with the same: blanks around a tag and what an empty row holds do not count.
+// Whether writing either channel has the same result: blanks around a tag and the contents of an empty row do not
+// count.
 bool sameChannel(const MemoryChannel& left, const MemoryChannel& right);
 
-// A channel in a few words: "14.074000 DATA-U 20M FT8"; "empty" for one that is.
+// A channel in a few words: "14.074000 DATA-U 20M FT8"; "empty" for an empty one.
 std::string channelInWords(const MemoryChannel& channel);
 
 }  // namespace corvane

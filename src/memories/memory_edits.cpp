@@ -1,4 +1,4 @@
-// What hands do to the table of memory channels: edit a cell, choose a mode, move a row, sort.
+// Edits in the table of memory channels: editing a cell, choosing a mode, moving a row, sorting.
 #include "memories/memory_channels.h"
 
 #include "display/table_columns.h"
@@ -34,7 +34,7 @@ void MemoryChannels::modeEdited(PopUpButton& sender) {
     vqMemArray_.at(static_cast<std::size_t>(place->row)).mode = memoryModeField(sender.indexOfSelectedItem());
 }
 
-// Replies that are still to come name channels, not rows: while they come every row stays in its place.
+// Replies name channels, not rows: while replies are still to come, every row must stay in its place.
 std::optional<int> MemoryChannels::acceptDrop(std::string_view plainText, int row) {
     const auto source = decimal(plainText);
     const bool drop = row >= 0 && row <= memoryChannels;

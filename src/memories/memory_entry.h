@@ -1,4 +1,4 @@
-// What the operator types into a memory row, as the row keeps it.
+// Turns what the operator types into a memory row into what the row keeps.
 #pragma once
 
 #include <optional>
@@ -10,8 +10,8 @@
 
 namespace corvane {
 
-// A frequency in MHz: "14.235" gives the field "014235000", to the nearest hertz. Nothing typed clears the row; a text
-// that is no frequency from 0.03 to 75, both included, empties the field and is warned of.
+// A frequency in MHz, rounded to the nearest hertz: "14.235" gives the field "014235000". An empty text clears the row.
+// Any text but a frequency from 0.03 to 75, both included, empties the field and gives a warning.
 struct MemoryFrequencyEntry {
     std::string field;
     bool clearsRow = false;
@@ -21,15 +21,15 @@ struct MemoryFrequencyEntry {
 };
 MemoryFrequencyEntry memoryFrequencyEntry(std::string_view typed);
 
-// A mode code as text: its first character, or "1" when none of the text's characters is a mode code. Nothing for a
-// text without a character.
+// The mode field for a typed text: its first character, or "1" if no character of the text is a mode code or the first
+// cannot be sent. Nothing for a blank text.
 std::optional<std::string> memoryModeTyped(std::string_view typed);
 
-// An entry of the mode pop-up as a mode field: 2 gives "2", 11 gives "B".
+// The mode field for an entry of the mode pop-up: 2 gives "2", 11 gives "B".
 std::string memoryModeField(int entry);
 
-// What a tag keeps of a text: its first twelve ASCII characters, without accented letters, signs made of several, and
-// ";", which would end the command that writes it. "Caf\u00e9 M\u00fcnchen 40m" gives "Caf Mnchen 4".
+// The tag for a typed text: its first twelve ASCII characters. Accented letters, joined signs and ";", which would end
+// the command early, are left out. "Caf\u00e9 M\u00fcnchen 40m" gives "Caf Mnchen 4".
 std::string memoryTag(std::string_view typed);
 
 }  // namespace corvane

@@ -1,4 +1,4 @@
-// Memory channels to a file and from one. The transceiver gets what is imported with the next write.
+// Exporting and importing memory channels. Imported channels reach the transceiver with the next write.
 #include <algorithm>
 
 #include "display/table_columns.h"
@@ -10,7 +10,7 @@ namespace corvane {
 namespace {
 
 constexpr std::string_view kind = "Memory channels (*.csv)";
-constexpr std::size_t largestFile = 1024 * 1024;  // bytes; 99 channels take some ten thousand
+constexpr std::size_t largestFile = 1024 * 1024;  // bytes; 99 channels take about ten thousand
 
 }  // namespace
 
@@ -28,15 +28,16 @@ void MemoryChannels::exportMemories(Button&) {
     around_.files.chooseNew("Export memory channels", kind, "memory-channels.csv", tasks_.guarded(write));
 }
 
-// The read that every opening of the port begins with would replace what is imported.
+// Every opening of the port starts a read, which would replace imported channels.
 bool MemoryChannels::canTakeChannels() const {
     return link_.isOpen() && read_.session == link_.session() && !read_.repliesAreComing();
 }
 
 void MemoryChannels::importMemories(Button&) {
     if (!canTakeChannels())
-        return tell("The memory channels have not been read yet",
-                    "Connect, and import a file when reading has ended: it would replace what is imported before.");
+        return tell(
+            "The memory channels have not been read yet",
+            "Connect and wait until they have been read, then import the file: reading replaces imported channels.");
     around_.files.chooseExisting("Import memory channels", kind,
                                  tasks_.guarded([this](const std::string& path) { importFile(path); }));
 }
@@ -47,7 +48,7 @@ void MemoryChannels::importFile(const std::string& path) {
     };
     const OpenedFile file = around_.files.read(path, largestFile);
     if (!file.error.empty()) return refuse(file.error);
-    if (file.contents.size() > largestFile) return refuse("a file of more than 1 MiB holds something else.");
+    if (file.contents.size() > largestFile) return refuse("The file is larger than 1 MiB.");
     MemoryImport import = readMemoryCsv(file.contents);
     if (!import.problem.empty()) return refuse(import.problem);
     onImport(std::move(import), vqMemArray_,
@@ -56,7 +57,7 @@ void MemoryChannels::importFile(const std::string& path) {
              }));
 }
 
-// What was shown may have changed by the time of the answer.
+// The channels may have changed since the preview was opened.
 void MemoryChannels::takeImportedChannels(const MemoryTable& shown, std::span<const ImportedChannel> channels) {
     if (!canTakeChannels() || vqMemArray_ != shown)
         return voice_.warn("Nothing was imported: the channels have changed meanwhile", "Import the file again.");

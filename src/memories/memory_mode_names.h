@@ -6,9 +6,9 @@
 
 namespace corvane {
 
-// The code for a mode as a file names it, small letters or capitals: a tool's name or the transceiver's own, "CW-U". A
-// comment that is the transceiver's own name of a mode that is written as `mode` decides between those: "DIG" is 'C',
-// with the comment "PSK" 'E'.
+// The code for a mode's name in a file, in upper or lower case: a tool's name, or the transceiver's own such as "CW-U".
+// If several modes share the tool's name, a comment with the transceiver's own name decides: "DIG" is 'C', but with the
+// comment "PSK" it is 'E'.
 std::optional<char> memoryModeCode(std::string_view mode, std::string_view comment);
 
 }  // namespace corvane

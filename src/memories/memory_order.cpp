@@ -16,7 +16,7 @@ constexpr int behindEveryFrequency = 99'999'999;
 int ascendingFrequency(const MemoryChannel& row) { return decimal(row.frequency).value_or(behindEveryFrequency); }
 double descendingFrequency(const MemoryChannel& row) { return numberOrZero(row.frequency); }
 
-// An empty tag compares as last, so that every two rows can be told apart or are equal: the sort needs that.
+// An empty tag compares as last, which gives the strict weak order that the sort needs.
 std::pair<bool, std::string_view> ascendingTag(const MemoryChannel& row) { return {row.tag.empty(), row.tag}; }
 
 }  // namespace

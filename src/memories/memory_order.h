@@ -1,4 +1,4 @@
-// The order of the memory rows, which decides what channel each is written to.
+// The order of the memory rows, which decides which channel each row is written to.
 #pragma once
 
 #include <optional>
@@ -8,19 +8,19 @@
 
 namespace corvane {
 
-// Where a row goes that is dropped on the gap above `row`: the gap below the last row is the number of rows. Row 2
-// dropped above row 5 comes to stand at 4, row 5 dropped above row 2 at 2.
+// Where a row ends up that is dropped into the gap above `row`; for the gap below the last row, `row` is the number of
+// rows. Row 2 dropped above row 5 moves to 4, row 5 dropped above row 2 moves to 2.
 constexpr int dropDestination(int source, int row) { return source < row ? row - 1 : row; }
 
-// Takes the row at `from` out and puts it in at `to`; both exist.
+// Moves the row at `from` to `to`; both must exist.
 void moveChannel(MemoryTable& table, int from, int to);
 
-// Sorts the rows by the direction that they were sorted in before: anything but ascending sorts them ascending. Rows
-// with equal keys keep their order, and rows without a key go last.
+// Sorts the rows: descending if they were sorted ascending before, otherwise ascending. Rows with equal keys keep their
+// order, and rows without a key go last.
 //
-// By frequency: as a number; a field that is no number counts as no key.
+// By frequency, compared as a number; a field that is not a number is no key.
 void sortByFrequency(MemoryTable& table, SortDirection before);
-// By tag: in the order of character codes; a tag of blanks is one, and an empty one is none.
+// By tag, in the order of character codes; a tag of blanks is a key, an empty tag is none.
 void sortByTag(MemoryTable& table, SortDirection before);
 
 }  // namespace corvane

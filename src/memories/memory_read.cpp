@@ -25,9 +25,8 @@ MemoryReadStep MemoryRead::take(const MemoryReply& reply) {
     MemoryReadStep step;
     const bool describesRow = reply.channel != 0;
     if (vqMemRead != "run") {
-        // A read that was begun anew, or an error answer to another command, leaves one reply more on its way than is
-        // counted: the last channel then comes after the tags have begun. It belongs in the table; without it a write
-        // would erase it.
+        // After a read was restarted, or an error response to another command was counted, one reply more is on its
+        // way: the last channel then comes after the tags have begun. It must fill its row, or a write would erase it.
         const bool late =
             describesRow && vqTagRead == "run" && !answered.test(static_cast<std::size_t>(reply.channel - 1));
         if (late)
@@ -73,7 +72,7 @@ std::size_t MemoryRead::fill(const MemoryReply& reply) {
     return row;
 }
 
-// A channel that did not answer holds nothing, whatever an earlier read found there.
+// A channel without a reply is empty, whatever an earlier read found there.
 void MemoryRead::finish() {
     vqTagRead = "0";
     whole = true;

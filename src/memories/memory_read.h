@@ -1,4 +1,5 @@
-// Reading the memory channels, as a value: a chain of request and reply, first frequencies and modes, then tags.
+// The read of the memory channels, as a value: a chain of requests and replies, first for frequencies and modes, then
+// for tags.
 #pragma once
 
 #include <bitset>
@@ -10,7 +11,7 @@
 
 namespace corvane {
 
-// What a reply comes to.
+// What to do after a reply.
 struct MemoryReadStep {
     std::optional<std::size_t> row;  // the row of the table that the reply fills
     std::string request;             // what is asked next, e.g. "MR007;"; empty: nothing
@@ -31,13 +32,13 @@ struct MemoryRead {
     std::string vqTagRead = "0";  // "run" while tags are read
     int vqMemReadCnt = 0;         // replies handled in the present read
     int vqTagReadCnt = 0;
-    unsigned number = 0;                   // grows with every read begun or ended early, so that a late watch is known
-    unsigned session = 0;                  // the opening of the port in which a read was begun last
-    bool whole = false;                    // whether the last read came to its end
-    bool stalled = false;                  // whether the present read waits for an answer that does not come
+    unsigned number = 0;                   // grows with every read begun or ended early, to recognise a late watch
+    unsigned session = 0;                  // the session of the link in which the last read began
+    bool whole = false;                    // whether the last read was completed
+    bool stalled = false;                  // whether the present read waits for an overdue reply
     std::bitset<memoryChannels> answered;  // the rows that the present read has filled
     ChannelsAsRead asRead;                 // what the transceiver is known to hold
-    bool unsaved = false;                  // whether that has changed since it was saved last
+    bool unsaved = false;                  // whether `asRead` has changed since it was last saved
 
     MemoryReadStep begin(unsigned inSession);
     MemoryReadStep take(const MemoryReply& reply);

@@ -43,7 +43,7 @@ std::string question(const MemoryTable& table, bool whole) {
 
 }  // namespace
 
-// What was asked about may have changed by the time of the answer.
+// The link or the channels may have changed before the operator confirms.
 void MemoryChannels::askBeforeWriting(Button& sender) {
     const auto confirmed = [this, &sender, session = link_.session(), number = read_.number] {
         if (session == link_.session() && number == read_.number) return writeMemoriesToRadio(sender);

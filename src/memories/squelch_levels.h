@@ -1,4 +1,4 @@
-// The auto-memory squelch: how strong a signal must be for its frequency to be kept.
+// The auto-memory squelch: how strong a signal must be for its frequency to be recorded.
 #pragma once
 
 #include <array>
@@ -7,7 +7,7 @@
 namespace corvane {
 
 struct SquelchLevel {
-    std::string_view label;  // as an S-meter reads, e.g. "S9+20"
+    std::string_view label;  // as on an S-meter, e.g. "S9+20"
     long long threshold;     // of the signal, in the units of vqSignal: meter reading times 1000
 };
 
@@ -21,8 +21,8 @@ inline constexpr std::array squelchLevels{
     SquelchLevel{"S9+60", 225000},
 };
 
-// The level of an index. One outside the table, which only a damaged setting can hold, is shown as "S1" and counts
-// 10000 a step: 16 gives 160000.
+// The level of an index. An index outside the table, which only a damaged setting can hold, is labelled "S1" and has a
+// threshold of 10000 a step: 16 gives 160000.
 constexpr SquelchLevel squelchLevel(int index) {
     if (index >= 0 && index < static_cast<int>(squelchLevels.size()))
         return squelchLevels[static_cast<std::size_t>(index)];

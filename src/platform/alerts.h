@@ -6,8 +6,8 @@
 
 namespace corvane {
 
-// Both show a box that keeps the operator from the window until it is answered, and return at once: reports of the
-// transceiver go on being handled meanwhile.
+// Both show a box that blocks the window until the operator answers, and return at once: while it is shown, the
+// transceiver's reports are still handled.
 class Alerts {
 public:
     virtual ~Alerts() = default;
@@ -15,8 +15,8 @@ public:
     // A warning with the one button "OK". `text` may have several lines.
     virtual void warn(std::string_view text) = 0;
 
-    // A question, answered with a button named `verb` ("Write") or with "Cancel", which is what Return and Escape do.
-    // `confirmed` is called when it was the first.
+    // A question with two buttons: `verb` ("Write") and "Cancel". Return and Escape cancel. `confirmed` is called only
+    // if the operator presses `verb`.
     virtual void confirm(std::string_view text, std::string_view verb, std::function<void()> confirmed) = 0;
 };
 

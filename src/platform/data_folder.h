@@ -1,4 +1,4 @@
-// The user's own files of the program, what it keeps for people to read.
+// The folder in which the program saves files for the user to read.
 #pragma once
 
 #include <string>
@@ -7,8 +7,8 @@
 namespace corvane {
 
 struct SavedFile {
-    std::string path;   // where it stands, or would have stood
-    std::string error;  // why it could not be saved, a phrase to end a sentence with; empty: it is saved
+    std::string path;   // where it is saved, or would have been
+    std::string error;  // why it could not be saved, as the end of a sentence; empty: it is saved
 };
 
 class DataFolder {

@@ -18,10 +18,10 @@ struct HttpRequest {
     bool operator==(const HttpRequest&) const = default;
 };
 
-// What came back. A body may come with a problem, too: that of an error page, say.
+// The answer. A body may come with a problem, e.g. that of an error page.
 struct HttpResponse {
     std::string body;
-    std::string problem;  // why there is no answer or no good one, for the operator: "no network"; empty: all went well
+    std::string problem;  // what went wrong, for the operator: "no network"; empty: nothing did
 };
 
 inline constexpr std::size_t largestBody = 8 * 1024 * 1024;  // a larger one is refused: no body and a problem
@@ -34,11 +34,11 @@ public:
 
     virtual ~HttpClient() = default;
 
-    // Starts the exchange and returns at once. `completed` is called once, on a thread of the client's own, where a
-    // large answer may take its time; it may use only what it owns. The rest that it gives back, if any, is called once
-    // from the event loop.
+    // Starts the exchange and returns at once. `completed` is called once, on a thread of the client, where decoding a
+    // large answer does not block the window; it may use only what it owns. It returns the rest of the work, if any,
+    // which is called once from the event loop.
     //
-    // What send gives back ends the exchange before its time; then the rest is not called. After the end it does
+    // The returned Cancel ends the exchange early; then the rest is not called. After the exchange has ended it does
     // nothing. Certificates are checked; redirects are followed to the same scheme or a safer one.
     virtual Cancel send(const HttpRequest& request, Completed completed) = 0;
 };

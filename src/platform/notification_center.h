@@ -20,7 +20,8 @@ class NotificationCenter {
 public:
     virtual ~NotificationCenter() = default;
 
-    // Shows a notice; `delivered` is called with its id once it stands. Where no notices are shown, it is never called.
+    // Shows a notice; `delivered` is called with its id once it is shown. On a desktop without notices it is never
+    // called.
     virtual void deliver(const UserNotification& notification, std::function<void(NotificationId)> delivered) = 0;
     virtual void removeDelivered(NotificationId id) = 0;
 };

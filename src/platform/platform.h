@@ -1,4 +1,4 @@
-// What the program expects of its surroundings, in one hand. Everything referred to must outlive the controller.
+// Everything that the program expects of its surroundings. All members must outlive the controller.
 #pragma once
 
 #include "platform/alerts.h"

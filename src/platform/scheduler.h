@@ -1,4 +1,4 @@
-// The time, and work for later on the user-interface thread.
+// The time of day, and delayed tasks on the user-interface thread.
 #pragma once
 
 #include <chrono>

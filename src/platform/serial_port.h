@@ -1,4 +1,4 @@
-// The serial port as the program needs it. Real in the shell, recorded in tests.
+// The serial port as the program needs it: a real one in qt/platform, a fake in tests.
 #pragma once
 
 #include <string>
@@ -12,10 +12,10 @@ enum class Parity { none, odd, even };
 
 // Why a port could not be opened, or stopped working.
 enum class SerialPortErrorKind {
-    busy,        // somebody else holds the port
+    busy,        // another program has the port open
     permission,  // the user may not open the device
     notFound,    // there is no such device
-    gone,        // the device was there and is not any more
+    gone,        // the device has been removed
     other,
 };
 
@@ -28,7 +28,7 @@ struct SerialPortError {
     bool operator==(const SerialPortError&) const = default;
 };
 
-// Who a port reports to. All calls arrive on the user-interface thread.
+// The receiver of a port's reports. All calls come on the user-interface thread.
 class ORSSerialPortDelegate {
 public:
     virtual ~ORSSerialPortDelegate() = default;
@@ -36,8 +36,8 @@ public:
     virtual void serialPortWasOpened(ORSSerialPort& port) = 0;
     virtual void serialPortWasClosed(ORSSerialPort& port) = 0;
 
-    // Bytes from the line, e.g. "FA014250000;". A real port hands over one whole response at a time; what is handed
-    // over is valid only during the call.
+    // Bytes from the line, e.g. "FA014250000;". A real port hands over one whole response at a time; the bytes are
+    // valid only during the call.
     virtual void serialPortDidReceiveData(ORSSerialPort& port, std::string_view bytes) = 0;
 
     // The device has left the system. The port is closed already and reports nothing more.
@@ -52,7 +52,7 @@ public:
 
     virtual const std::string& name() const = 0;         // as listed, e.g. "ttyUSB0"; unique in the list
     virtual const std::string& description() const = 0;  // as listed and as remembered; the same text as the name
-    virtual const std::string& details() const = 0;      // for the eye: "USB serial adapter, /dev/ttyUSB0"
+    virtual const std::string& details() const = 0;      // for display: "USB serial adapter, /dev/ttyUSB0"
 
     virtual int baudRate() const = 0;  // bits a second
     virtual void setBaudRate(int baudRate) = 0;
@@ -61,10 +61,10 @@ public:
     virtual void setUsesRTSCTSFlowControl(bool uses) = 0;
 
     virtual bool isOpen() const = 0;
-    // Ends in serialPortWasOpened or serialPortDidEncounterError, at once or later. An open port stays as it is.
+    // Ends in serialPortWasOpened or serialPortDidEncounterError, at once or later. Does nothing if the port is open.
     virtual void open() = 0;
-    // Ends in serialPortWasClosed when the port was open; otherwise does nothing. What was sent before still goes
-    // out, as far as the device takes it.
+    // Ends in serialPortWasClosed when the port was open; otherwise does nothing. Bytes that were sent before still go
+    // out, as far as the device takes them.
     virtual void close() = 0;
 
     // Hands all bytes to the line in one piece. A port that is not open drops them; nothing is kept for later.

@@ -1,4 +1,4 @@
-// The list of the system's serial ports, and word of those that come and go.
+// The list of the system's serial ports, and the observer of ports that come and go.
 #pragma once
 
 #include <memory>
@@ -10,7 +10,7 @@ namespace corvane {
 
 using SerialPorts = std::vector<std::shared_ptr<ORSSerialPort>>;
 
-// Told after the list has changed, on the user-interface thread, with the affected ports only.
+// Called after the list has changed, on the user-interface thread, with the affected ports only.
 class SerialPortsObserver {
 public:
     virtual ~SerialPortsObserver() = default;
@@ -27,8 +27,7 @@ public:
     // system.
     virtual const SerialPorts& availablePorts() = 0;
 
-    // The port to begin with while none is remembered: a named extra port, else an adapter on USB, else the simulated
-    // one.
+    // The port to choose while none is remembered: a named extra port, else an adapter on USB, else the simulated one.
     virtual std::shared_ptr<ORSSerialPort> suggestedPort() { return nullptr; }
 
     virtual void setObserver(SerialPortsObserver* observer) = 0;  // or nullptr; does not own it

@@ -17,8 +17,8 @@ public:
     virtual void setText(std::string_view key, std::string_view value) = 0;
     virtual void setInteger(std::string_view key, int value) = 0;
 
-    // What the operator must know of the settings as a whole, in one line: that they could not be read or kept. Empty
-    // when they are fine. `onProblem` is called when that changes.
+    // One line for the operator when the settings could not be read or stored; empty when all is well. `onProblem` is
+    // called when it changes.
     virtual std::string problem() const { return {}; }
     std::function<void()> onProblem;
 };

@@ -1,4 +1,4 @@
-// Work for later that ends with its owner.
+// Delayed tasks that end with their owner.
 #pragma once
 
 #include <memory>
@@ -8,7 +8,7 @@
 
 namespace corvane {
 
-// A room's own hand on the scheduler: a task that falls due after the room has gone does not run.
+// A room's own access to the scheduler: a task that falls due after the room has gone does not run.
 class Tasks {
 public:
     explicit Tasks(Scheduler& scheduler) : scheduler_(scheduler) {}
@@ -17,7 +17,7 @@ public:
 
     std::chrono::system_clock::time_point now() const { return scheduler_.now(); }
 
-    // `callback` for somebody who may outlive the owner: once the owner has gone it does nothing.
+    // Wraps `callback` for a caller that may outlive the owner: once the owner has gone, the wrapper does nothing.
     template <typename Callback>
     auto guarded(Callback callback) const {
         return [owner = std::weak_ptr(owner_), call = std::move(callback)](auto&&... arguments) {

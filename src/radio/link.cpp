@@ -1,4 +1,4 @@
-// Everything that leaves for the transceiver leaves here.
+// Everything for the transceiver is sent from here.
 #include "radio/link.h"
 
 #include <utility>
@@ -14,7 +14,7 @@ Link::Link(Display& display, Voice& voice, const Surroundings& surroundings)
 }
 
 Link::~Link() {
-    // The window may have gone before: nobody is left to show what the port says of its closing.
+    // The window may be gone already: the port's report of its closing cannot be shown any more.
     if (const auto port = std::exchange(serialPort_, nullptr)) {
         port->setDelegate(nullptr);
         port->close();
@@ -22,10 +22,10 @@ Link::~Link() {
 }
 
 void Link::sendCommand(std::string_view commands) {
-    // A callback of the port may replace it.
+    // A callback of the port may replace serialPort_.
     const std::shared_ptr<ORSSerialPort> port = serialPort_;
     if (!port) return;
-    const std::string text(commands);  // often the action's buffer, which a callback may fill anew
+    const std::string text(commands);  // often cmd_, which a callback may overwrite
     forEachCommand(text, [&port](std::string_view command) {
         if (isUtf8(command)) port->sendData(command);
     });
@@ -36,7 +36,7 @@ void Link::writeString(std::string_view commands) {
     if (port && isUtf8(commands)) port->sendData(commands);
 }
 
-// An action that built nothing sends nothing; above all not the command before it.
+// An action that built nothing must not send the previous command again.
 void Link::send(std::string command) {
     if (command.empty()) return;
     cmd_ = std::move(command);

@@ -1,7 +1,6 @@
-// The link to the transceiver: which port, opening and closing it, what leaves through it, and the steps after an
-// opening.
+// The link to the transceiver: choosing, opening and closing a port, sending, and the steps after an opening.
 //
-//   sending   what leaves for the transceiver       radio/link.cpp
+//   sending   commands to the transceiver           radio/link.cpp
 //   ports     choosing, opening, coming and going   radio/serial_ports.cpp
 //   session   the steps after a port opened         radio/session_start.cpp
 #pragma once
@@ -29,13 +28,13 @@ inline constexpr std::string_view synchronisationString =
     "SS03;SS04;SS05;SS06;MS;EX040101;SV;";
 static_assert(synchronisationString.size() == 150);
 
-// Side B on memory channel 002, then side A on memory channel 001.
+// Puts side B on memory channel 002, then side A on memory channel 001.
 inline constexpr std::string_view memorySlotString = "VS1;MC002;MC;MW002;VM;VS0;MC001;MC;MW001;VM;";
 static_assert(memorySlotString.size() == 44);
 
 class Link {
 public:
-    // What the link uses of the system. `reports` is who a port reports to: it hands on what is for the link.
+    // What the link uses of the system. A port reports to `reports`, which passes on to the link what is meant for it.
     struct Surroundings {
         ORSSerialPortManager& ports;
         SettingsStore& settings;
@@ -48,25 +47,25 @@ public:
     Link(Display& display, Voice& voice, const Surroundings& surroundings);
     ~Link();  // closes the port
 
-    // Told by the link:
+    // Called by the link:
     std::function<void(bool ready)> onReady = [](bool) {};  // whether commands would reach the transceiver
     std::function<void()> onClosed = [] {};                 // the session is over: the port was closed, or has gone
     std::function<void()> onMemoryReadDue = [] {};          // a step of the opening: read the memory channels
 
-    // --- sending. Without a current port everything is dropped without a word: the display follows the transceiver's
-    // own reports, so nothing is shown that did not happen.
+    // --- sending. Without a current port everything is dropped silently. The display follows the transceiver's
+    // reports, so it never shows what did not happen.
     void sendCommand(std::string_view commands);  // one write for each command in the text
     void writeString(std::string_view commands);  // the whole text in one write
-    void send(std::string command);   // makes it the command built last and sends it; an empty one does nothing
-    void write(std::string command);  // the same in one write
-    void sendBox(Button& sender);     // what is typed in the raw-command box
+    void send(std::string command);               // keeps the command as `cmd` and sends it; an empty one does nothing
+    void write(std::string command);              // the same in one write
+    void sendBox(Button& sender);                 // sends the text of the raw-command box
     void returnPressedInTextField(TextField& sender);  // Return in the raw-command box
-    // What the last action built, e.g. "BS05;BI1;"; no meaning after it was sent.
+    // The command that the last action built, e.g. "BS05;BI1;". It means nothing once it is sent.
     const std::string& cmd() const { return cmd_; }
     void build(std::string command) { cmd_ = std::move(command); }
 
     // --- ports
-    void setSerialPort(std::shared_ptr<ORSSerialPort> port);  // makes it, or none, the current port
+    void setSerialPort(std::shared_ptr<ORSSerialPort> port);  // makes it the current port; nullptr: none
     const std::shared_ptr<ORSSerialPort>& serialPort() const { return serialPort_; }
     bool isOpen() const { return serialPort_ && serialPort_->isOpen(); }
     const std::vector<int>& availableBaudRates() const { return availableBaudRates_; }
@@ -74,20 +73,21 @@ public:
     void chooseBaudRate(PopUpButton& sender);
     void openOrClosePort(Button& sender);
     void restorePort();  // chooses the port and the speed of the last run, unless a port is open
-    void suggestPort();  // chooses the port to begin with while none is remembered
+    void suggestPort();  // chooses a port while none is remembered
     void serialPortWasOpened(ORSSerialPort& port);
     void serialPortWasClosed(ORSSerialPort& port);
     void serialPortWasRemovedFromSystem(ORSSerialPort& port);
     void serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error);
     void serialPortsWereConnected(const SerialPorts& ports);
     void serialPortsWereDisconnected(const SerialPorts& ports);
-    bool userNotificationCenterShouldPresentNotification() const;  // notices show while the program is in front, too
+    bool userNotificationCenterShouldPresentNotification() const;  // notices also show while the program is in front
     void userNotificationCenterDidDeliverNotification(NotificationId id);
-    void noteAnswer();  // something has come from the transceiver
+    void noteAnswer();  // the transceiver has sent something
     void fillPortPopUp();
     void showMessage(std::string_view message);  // in the line below the frequencies
 
-    // --- session: it grows with every opening and closing, so that a step left over from an earlier one is known
+    // --- session: its number grows with every opening and closing, which shows whether a step is left over from an
+    // earlier one
     const std::string& syncRadioCmd() const { return syncRadioCmd_; }
     unsigned session() const { return session_; }
 

@@ -1,4 +1,4 @@
-// What the window says when a port fails, and what to do about it.
+// The window's messages when a port fails, each with what to do about it.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 
 namespace corvane {
 
-// A sentence on what went wrong and one on what to do, e.g. "/dev/ttyUSB0 is in use by another program. Close that
+// One sentence says what went wrong and one what to do, e.g. "/dev/ttyUSB0 is in use by another program. Close that
 // program, then press Connect."
 std::string linkMessage(const std::string& portName, const SerialPortError& error);
 

@@ -1,4 +1,4 @@
-// Whole responses out of bytes that a serial driver cuts anywhere.
+// Assembles whole responses from bytes that a serial driver cuts anywhere.
 #pragma once
 
 #include <cstddef>
@@ -10,8 +10,9 @@
 namespace corvane {
 
 // Takes chunks of any size and hands over one whole response at a time, its ";" included: "FA0142" and "50000;MD02;"
-// give "FA014250000;" and "MD02;". What has no ";" yet is held, at most `limit` bytes; a longer run is noise and is
-// dropped up to its ";". The owner calls `expire` when nothing has come for `patience` after a chunk that left a tail.
+// give "FA014250000;" and "MD02;". Bytes without a ";" yet are held as the tail, at most `limit` of them; a longer run
+// is noise and is dropped up to its ";". The owner calls `expire` when no bytes have come for `patience` after a chunk
+// that left a tail.
 class ResponseAssembler {
 public:
     using Deliver = std::function<void(std::string_view response)>;
@@ -24,7 +25,7 @@ public:
     void feed(std::string_view bytes);
     bool holdsTail() const { return !tail_.empty() || skipping_; }
 
-    // Hands over the tail as it stands, and starts afresh.
+    // Hands over the tail without a ";", and starts anew.
     void expire();
     // Forgets the tail.
     void clear();
@@ -32,7 +33,7 @@ public:
 private:
     Deliver deliver_;
     std::string tail_;
-    bool skipping_ = false;  // in a run that was too long, until its ";"
+    bool skipping_ = false;  // in a run that is too long, up to its ";"
 };
 
 }  // namespace corvane

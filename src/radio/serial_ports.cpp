@@ -1,4 +1,4 @@
-// The choice of port, its opening and closing, and ports that come and go.
+// Choosing, opening and closing a port, and ports that come and go.
 #include <algorithm>
 #include <utility>
 
@@ -124,7 +124,7 @@ void Link::serialPortsWereDisconnected(const SerialPorts& ports) {
     listPortsInLog("Ports were disconnected: ", ports);
     for (const auto& port : ports)
         deliverNotice("Serial Port Disconnected", port->name(), " was disconnected from your Mac.");
-    // A port that leaves the list without having been open has nobody else to take it out of use.
+    // An open port reports its own removal; a closed one must be dropped here.
     if (std::ranges::find(ports, serialPort_) != ports.end() && !serialPort_->isOpen()) setSerialPort(nullptr);
     fillPortPopUp();
 }

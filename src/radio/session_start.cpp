@@ -1,5 +1,5 @@
 // The steps after a port has opened: memories, memory slots, synchronisation, settings pages. They run at fixed times,
-// whether or not the transceiver answers.
+// whether or not the transceiver responds.
 #include <utility>
 
 #include "radio/link.h"
@@ -18,7 +18,7 @@ void Link::startSession() {
         afterOpening(9s + page * 1s, [this, page] { display_.settingsTab.requestView(page); });
 }
 
-// A step of an opening that has ended since does not run, so that a port opened again sees its own steps only.
+// A step does not run once its session has ended: a port that is opened again gets only its own steps.
 void Link::afterOpening(Scheduler::Duration delay, std::function<void()> step) {
     tasks_.after(delay, [this, run = std::move(step), session = session_] {
         if (session == session_) run();

@@ -1,6 +1,6 @@
 // CAT commands: ASCII text, a two-letter name, parameters of fixed width, and ";". Several may stand back to back:
-// "MD02;FA014250000;". A command without parameters reads, with parameters sets. No line ending is part of the
-// protocol.
+// "MD02;FA014250000;". A command without parameters asks for a value, one with parameters sets it. The protocol has no
+// line endings.
 #pragma once
 
 #include <string>
@@ -8,8 +8,8 @@
 
 namespace corvane {
 
-// Calls `each` with every piece between the ";" of `text`, the one after the last ";" included: "FA;FB;" gives "FA",
-// "FB" and the empty text.
+// Splits `text` at every ";" and calls `each` with the pieces, including the one after the last ";": "FA;FB;" gives
+// "FA", "FB" and the empty text.
 template <typename Each>
 void forEachPiece(std::string_view text, Each each) {
     for (;;) {
@@ -21,8 +21,8 @@ void forEachPiece(std::string_view text, Each each) {
 }
 
 // Calls `each` with the commands in `text`, each with its ";", in order. Line feeds are removed, empty commands
-// skipped, and a last command without ";" gets one: "FA;;FB" gives "FA;" and "FB;". What `each` is given is valid
-// during the call.
+// skipped, and a last command without ";" gets one: "FA;;FB" gives "FA;" and "FB;". The text that `each` gets is valid
+// only during the call.
 template <typename Each>
 void forEachCommand(std::string_view text, Each each) {
     std::string command;
@@ -37,7 +37,7 @@ void forEachCommand(std::string_view text, Each each) {
 }
 
 // `number` in decimal with leading zeros: zeroPadded(7074000, 9) is "007074000". A longer number keeps all its digits;
-// of a negative one the sign counts as a digit.
+// a minus sign counts as one of them.
 std::string zeroPadded(long long number, int width);
 
 }  // namespace corvane

@@ -1,4 +1,4 @@
-// Letters of commands, call signs and modes, which are ASCII; every other byte stays as it is.
+// Upper case for commands, call signs and modes, which are ASCII; every other byte stays unchanged.
 #pragma once
 
 #include <algorithm>
@@ -16,7 +16,7 @@ constexpr std::string upperCase(std::string_view text) {
     return upper;
 }
 
-// Whether both are the same but for their case: "Cw-u" and "CW-U".
+// Whether two texts are equal when case is ignored: "Cw-u" and "CW-U" are.
 constexpr bool sameWord(std::string_view left, std::string_view right) {
     return std::ranges::equal(left, right, [](char a, char b) { return upperCase(a) == upperCase(b); });
 }

@@ -1,4 +1,4 @@
-// The memory channels as the line knows them.
+// How many memory channels there are, and how long their tags.
 #pragma once
 
 #include <cstddef>
@@ -7,6 +7,6 @@ namespace corvane {
 
 inline constexpr int memoryChannels = 99;  // "MC001;" to "MC099;"
 
-inline constexpr std::size_t tagLength = 12;  // characters; a command has exactly so many
+inline constexpr std::size_t tagLength = 12;  // characters; a command always has all of them
 
 }  // namespace corvane

@@ -1,4 +1,4 @@
-// The operating modes: one row each, with every form in which commands, pop-ups, keys and files of channels know it.
+// The operating modes: one row each, with its code in commands and its names in pop-ups, keys and channel files.
 #pragma once
 
 #include <algorithm>
@@ -8,11 +8,11 @@
 
 namespace corvane {
 
-// The modes that share their keyer memories: how these are read, stored and played, and what the keyer is called
-// meanwhile.
+// A group of modes that share five keyer memories: how these are read, stored and played, and the title of the keyer
+// box.
 struct ModeGroup {
     std::string_view memoryRequests;  // reads the five memories, e.g. "KM1;KM2;KM3;KM4;KM5;"
-    std::string_view storeCommand;    // in front of a memory's number and its text, e.g. "EM0"
+    std::string_view storeCommand;    // before a memory's number and its text, e.g. "EM0"
     std::string_view boxTitle;        // e.g. "Send CW"
     std::array<std::string_view, 5> playCommands;
 };
@@ -29,21 +29,21 @@ inline constexpr const ModeGroup* cwGroup = &modeGroups[0];
 inline constexpr const ModeGroup* rttyGroup = &modeGroups[1];
 inline constexpr const ModeGroup* pskGroup = &modeGroups[2];
 
-// The place of a group among all: that of cwGroup is 0.
+// The index of a group in modeGroups: 0 for cwGroup.
 constexpr std::size_t groupIndex(const ModeGroup& group) {
     return static_cast<std::size_t>(&group - modeGroups.data());
 }
 
 struct OperatingMode {
-    char code;                // of the "MD" command, "1" to "9" and "A" to "F": "MD02;" is USB
+    char code;                // in the "MD" command, "1" to "9" and "A" to "F": "MD02;" is USB
     std::string_view name;    // what the program shows
     const ModeGroup* group;   // noGroup: without keyer memories
-    std::string_view inFile;  // what a file of channels calls it; of two with the same name a comment says which
-    std::array<std::string_view, 6> fromFile;  // the names in files that lead to it besides its own, in capitals
+    std::string_view inFile;  // its name in a channel file; a comment tells modes with the same name apart
+    std::array<std::string_view, 6> fromFile;  // other names in files that mean this mode, in upper case
 };
 
-// In the order of the pop-ups: an entry's index is the place of its row. In the pop-up of a memory channel an entry for
-// no mode, whose code is '0', stands before them.
+// In the order of the pop-ups: the index of an entry is the index of its row. The mode pop-up of a memory channel
+// starts with one more entry, for no mode, whose code is '0'.
 // clang-format off
 inline constexpr std::array operatingModes{
     OperatingMode{'1', "LSB", noGroup, "LSB", {}},
@@ -66,8 +66,8 @@ inline constexpr std::array operatingModes{
 inline constexpr char noModeCode = '0';
 
 static_assert(std::ranges::equal(operatingModes, std::string_view("123456789ABCDEF"), {}, &OperatingMode::code),
-              "the pop-ups count on one row for each code, in their order");
-// The row of a code, or nullptr: '2' gives the row of USB, '0' none.
+              "the pop-ups need one row for each code, in this order");
+// The row of a code, or nullptr: '2' gives the row of USB, '0' gives nullptr.
 constexpr const OperatingMode* operatingMode(char code) {
     const auto mode = std::ranges::find(operatingModes, code, &OperatingMode::code);
     return mode == operatingModes.end() ? nullptr : &*mode;
@@ -94,10 +94,10 @@ constexpr const ModeGroup* modeGroup(char code) {
     return mode ? mode->group : noGroup;
 }
 
-// What the function knob is set to along with a mode: the speed in CW, else the RF power.
+// The command that sets the function knob along with a mode: to the speed in CW, else to the RF power.
 constexpr std::string_view functionKnobSetting(char code) { return modeGroup(code) == cwGroup ? "SF1H;" : "SF1E;"; }
 
-// The codes of the two side bands of one kind of operation. The upper one is usual from 10 MHz on.
+// The mode codes of a lower and an upper side band. The upper one is usual from 10 MHz up.
 struct SideBands {
     char lower;
     char upper;

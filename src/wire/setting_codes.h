@@ -5,7 +5,7 @@
 
 namespace corvane {
 
-// What a knob is assigned to: the position of a code is the index of its entry in the knob's pop-up.
+// The functions of a knob: the position of a code is the index of its entry in the knob's pop-up.
 inline constexpr std::string_view multiKnobCodes = "13489";
 inline constexpr std::string_view functionKnobCodes = "014569CDEFGHIJKMN";
 

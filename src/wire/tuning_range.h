@@ -1,4 +1,4 @@
-// The frequencies that may be typed and what is said of others.
+// The range of frequencies that may be typed, and the warnings for frequencies outside it.
 #pragma once
 
 #include <string_view>

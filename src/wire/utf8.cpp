@@ -9,7 +9,7 @@ namespace {
 
 const std::uint8_t* octets(std::string_view text) { return reinterpret_cast<const std::uint8_t*>(text.data()); }
 
-// Without a way out of the loop, so that the compiler takes many bytes at once.
+// The loop has no early exit, so that the compiler can check many bytes at once.
 bool isLongAscii(std::string_view text) {
     unsigned char all = 0;
     for (const char c : text) all |= static_cast<unsigned char>(c);
@@ -18,7 +18,7 @@ bool isLongAscii(std::string_view text) {
 
 }  // namespace
 
-// Every response passes here, and nearly all are ASCII, which takes the library four times as long to find out.
+// Every response is checked here, and nearly all are ASCII. The library would take four times as long to find that out.
 bool isUtf8(std::string_view bytes) { return isLongAscii(bytes) || u8_check(octets(bytes), bytes.size()) == nullptr; }
 
 std::string_view utf8Prefix(std::string_view text, std::size_t count) {

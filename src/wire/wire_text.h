@@ -1,4 +1,4 @@
-// Fields of a response: numbers and ends of texts that may be shorter than they should be.
+// Helpers for the fields of a response, which may be shorter than it should be.
 #pragma once
 
 #include <optional>
@@ -7,8 +7,8 @@
 
 namespace corvane {
 
-// The text as a decimal integer: digits with an optional sign, nothing else around them. Nothing for empty text, other
-// text and numbers too large for an int: "014" gives 14, "+5" gives 5, "RM" and "1 " nothing.
+// Converts a text of digits with an optional sign: "014" gives 14, "+5" gives 5. Gives nothing for any other text, such
+// as "RM", "1 " or the empty text, nor for numbers too large for an int.
 constexpr std::optional<int> decimal(std::string_view text) {
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) text.remove_prefix(1);
@@ -23,7 +23,7 @@ constexpr std::optional<int> decimal(std::string_view text) {
     return static_cast<int>(number);
 }
 
-// The same with 0 for what is no number.
+// The same, but 0 for a text that is not a number.
 constexpr int decimalOrZero(std::string_view text) { return decimal(text).value_or(0); }
 
 // The last `count` bytes, or all of a shorter text.
@@ -31,13 +31,14 @@ constexpr std::string_view lastOf(std::string_view text, std::size_t count) {
     return text.size() > count ? text.substr(text.size() - count) : text;
 }
 
-// `count` bytes from position `first`, counted from 1 as in the transceiver's tables; fewer or none where the text
-// ends.
+// `count` bytes from position `first`, counted from 1 as in the transceiver's tables; fewer or none if the text is too
+// short.
 constexpr std::string_view positions(std::string_view text, std::size_t first, std::size_t count) {
     return first > text.size() ? std::string_view{} : text.substr(first - 1, count);
 }
 
-// Whether every byte is ASCII: what noise makes of a field may be well-formed UTF-8, and must not be cut in the middle.
+// Whether every byte is ASCII. Noise can turn a field into longer characters of UTF-8, which must not be cut in the
+// middle.
 constexpr bool isAscii(std::string_view text) {
     for (const char c : text)
         if (static_cast<unsigned char>(c) >= 0x80) return false;
