@@ -14,8 +14,8 @@ namespace corvane {
 enum class MenuWrite { none, title, index, twoDigits, threeDigits };
 
 // How a reported value chooses the entry: by its title, or as the decimal index. Text is the call sign. The transceiver
-// reports some items that nothing here reads.
-enum class MenuRead { none, title, index, text };
+// reports some items that nothing here takes.
+enum class MenuTake { none, title, index, text };
 
 inline constexpr int menuTagBase = 2000000;  // what a control's tag is above the number of its item
 
@@ -31,8 +31,8 @@ struct MenuItemRow {
     std::string_view unit;   // "ms", or empty
     std::string_view entries;
     MenuWrite write;
-    MenuRead read;
-    int width;  // characters of the value on the line; 0 for an item that is not read
+    MenuTake take;
+    int width;  // characters of the value on the line; 0 for an item that is not taken
     // Of an item whose numbers are filled in at the start: the index of the entry that is marked, counted from the
     // number 0, and the number of the entry that is selected. They are the same entry where the step is 1.
     int defaultNumber = noDefault;
@@ -92,9 +92,9 @@ inline constexpr auto index = MenuWrite::index;
 inline constexpr auto twoDigits = MenuWrite::twoDigits;
 inline constexpr auto threeDigits = MenuWrite::threeDigits;
 inline constexpr auto shown = MenuWrite::none;
-inline constexpr auto byTitle = MenuRead::title;
-inline constexpr auto byIndex = MenuRead::index;
-inline constexpr auto notRead = MenuRead::none;
+inline constexpr auto byTitle = MenuTake::title;
+inline constexpr auto byIndex = MenuTake::index;
+inline constexpr auto notTaken = MenuTake::none;
 
 }  // namespace menu_table
 
@@ -223,20 +223,20 @@ inline constexpr std::array menuItems = [] {
         Row{10514, "Narrow width", "Hz", narrowWidths, twoDigits, byIndex, 2},
         Row{10515, "Mark frequency", "Hz", "-|1275|2125", index, byIndex, 1},
         Row{10516, "Shift frequency", "Hz", "170|200|425|850", index, byIndex, 1},
-        Row{10517, "TX polarity", "", "Normal|Reverse", index, notRead, 0},
+        Row{10517, "TX polarity", "", "Normal|Reverse", index, notTaken, 0},
         // PSK encoder and decoder
-        Row{10601, "PSK mode", "", "BPSK|QPSK", index, notRead, 0},
-        Row{10602, "Decoder AFC range", "Hz", "8|15|30", index, notRead, 0},
-        Row{10603, "QPSK polarity RX", "", "Normal|Reverse", index, notRead, 0},
-        Row{10604, "QPSK polarity TX", "", "Normal|Reverse", index, notRead, 0},
-        Row{10605, "PSK TX level", "", "000..100/1%3", title, notRead, 0, 70},
+        Row{10601, "PSK mode", "", "BPSK|QPSK", index, notTaken, 0},
+        Row{10602, "Decoder AFC range", "Hz", "8|15|30", index, notTaken, 0},
+        Row{10603, "QPSK polarity RX", "", "Normal|Reverse", index, notTaken, 0},
+        Row{10604, "QPSK polarity TX", "", "Normal|Reverse", index, notTaken, 0},
+        Row{10605, "PSK TX level", "", "000..100/1%3", title, notTaken, 0, 70},
         // RTTY encoder and decoder
-        Row{10701, "RX USOS", "", "Disable|Enable", index, notRead, 0},
-        Row{10702, "TX USOS", "", "Disable|Enable", index, notRead, 0},
-        Row{10703, "RX new line code", "", "CR or LF or CR+LF|CR, LF, CR+LF", index, notRead, 0},
-        Row{10704, "TX automatic CR+LF", "", "Disable|Enable", index, notRead, 0},
-        Row{10705, "TX diddle", "", "OFF|Blank|Letters", index, notRead, 0},
-        Row{10706, "Baudot code", "", "CCITT|US", index, notRead, 0},
+        Row{10701, "RX USOS", "", "Disable|Enable", index, notTaken, 0},
+        Row{10702, "TX USOS", "", "Disable|Enable", index, notTaken, 0},
+        Row{10703, "RX new line code", "", "CR or LF or CR+LF|CR, LF, CR+LF", index, notTaken, 0},
+        Row{10704, "TX automatic CR+LF", "", "Disable|Enable", index, notTaken, 0},
+        Row{10705, "TX diddle", "", "OFF|Blank|Letters", index, notTaken, 0},
+        Row{10706, "Baudot code", "", "CCITT|US", index, notTaken, 0},
         // CW
         Row{20101, "AF treble gain", "dB", "-20..+10/1%+2", title, byTitle, 3},
         Row{20102, "AF middle tone gain", "dB", "-20..+10/1%+2", title, byTitle, 3},
@@ -270,7 +270,7 @@ inline constexpr std::array menuItems = [] {
         Row{20209, "CW memory 4", "", "Text|Message", index, byIndex, 1},
         Row{20210, "CW memory 5", "", "Text|Message", index, byIndex, 1},
         Row{20211, "Repeat interval", "s", "01..60/1%2", title, byTitle, 2, 5},
-        Row{20212, "Keyer item 12", "", "01..60/1%2", title, notRead, 0},
+        Row{20212, "Keyer item 12", "", "01..60/1%2", title, notTaken, 0},
         // CW decoder
         Row{20301, "Decoder bandwidth", "Hz", "25|50|100|250", shown, byIndex, 1},
         // General
@@ -345,7 +345,7 @@ inline constexpr std::array menuItems = [] {
         Row{30506, "Main knob steps per turn", "", "50|100|200", index, byIndex, 1},
         Row{30507, "Outer knob steps per turn", "", "50|100|200", index, byIndex, 1},
         // Display
-        Row{40101, "My call", "", "", shown, MenuRead::text, 12},
+        Row{40101, "My call", "", "", shown, MenuTake::text, 12},
         Row{40102, "My call time", "s", "OFF|1|2|3|4|5", index, byIndex, 1},
         Row{40103, "Pop-up time", "", "Fast|Mid|Slow", index, byIndex, 1},
         Row{40104, "Screen saver", "min", "OFF|15|30|60", index, byIndex, 1},
@@ -371,13 +371,13 @@ static_assert(menuItems.size() == 220);
 static_assert(std::ranges::is_sorted(menuItems, std::ranges::less_equal{}, &MenuItemRow::number) &&
                   std::ranges::adjacent_find(menuItems, {}, &MenuItemRow::number) == menuItems.end(),
               "found by binary search");
-static_assert(std::ranges::count_if(menuItems, [](const MenuItemRow& row) { return row.read != MenuRead::none; }) ==
+static_assert(std::ranges::count_if(menuItems, [](const MenuItemRow& row) { return row.take != MenuTake::none; }) ==
               207);
 static_assert(std::ranges::count_if(menuItems, [](const MenuItemRow& row) { return row.write != MenuWrite::none; }) ==
               215);
 static_assert(std::ranges::all_of(menuItems,
                                   [](const MenuItemRow& row) {
-                                      return (row.width > 0) == (row.read != MenuRead::none) &&
+                                      return (row.width > 0) == (row.take != MenuTake::none) &&
                                              (row.width == 1 || row.write != MenuWrite::index || row.width == 0) &&
                                              (row.width == 2 || row.write != MenuWrite::twoDigits) &&
                                              (row.width == 3 || row.write != MenuWrite::threeDigits);

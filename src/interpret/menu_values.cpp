@@ -17,7 +17,7 @@ std::optional<MenuReport> menuReport(std::string_view response) {
     const MenuItemRow* row = menuItem(decimalOrZero(number));
     if (!row) return {};
     const std::string_view value = response.substr(nameLength + numberLength);
-    if (row->read == MenuRead::text) return MenuReport{row, value};
+    if (row->take == MenuTake::text) return MenuReport{row, value};
     const auto width = static_cast<std::size_t>(row->width);
     if (value.size() < width) return {};
     return MenuReport{row, value.substr(0, width)};

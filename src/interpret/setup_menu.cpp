@@ -45,11 +45,11 @@ void SetupMenu::takeMenuItem(std::string_view response) {
     const auto report = menuReport(response);
     if (!report) return;
     const auto& [row, value] = *report;
-    if (row->read == MenuRead::text) takeCallSign(value);
+    if (row->take == MenuTake::text) takeCallSign(value);
     if (PopUpButton* popUp = display_.menu.popUp(row->page(), row->tag())) {
-        if (row->read == MenuRead::title) popUp->selectItemWithTitle(value);
+        if (row->take == MenuTake::title) popUp->selectItemWithTitle(value);
         if (const auto index = decimal(value);
-            row->read == MenuRead::index && index && *index >= 0 && *index < popUp->titles().size())
+            row->take == MenuTake::index && index && *index >= 0 && *index < popUp->titles().size())
             popUp->selectItem(*index);
     }
     if (read_.takeAnswer(*row)) showReadProgress();

@@ -40,7 +40,7 @@ TEST(MenuSettingsTest, EveryEntryOfEveryItemIsSetReportedAndReadBack) {
                 ASSERT_EQ(held, title) << number;
             else
                 ASSERT_EQ(std::stoi(held), entry) << number;
-            if (row.read == MenuRead::none) continue;
+            if (row.take == MenuTake::none) continue;
             popUp.selectItem(PopUpButton::noSelection);
             bench.controller.sendCommand("EX" + number + ';');
             bench.settle();
@@ -182,7 +182,7 @@ TEST(MenuSettingsTest, ReadingAGroupTellsHowFarItIs) {
     EXPECT_FALSE(progress.visible());
     int unread = 0;
     bench.display.menu.forEachPopUp([&](const MenuItemRow& row, PopUpButton& popUp) {
-        if (row.page() != 0 || row.read == MenuRead::none) return;
+        if (row.page() != 0 || row.take == MenuTake::none) return;
         if (popUp.indexOfSelectedItem() == PopUpButton::noSelection) ++unread;
     });
     EXPECT_EQ(unread, 0);
