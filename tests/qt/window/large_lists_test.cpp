@@ -1,4 +1,4 @@
-// Answers of the size of the bound, and of servers that cannot be trusted, in the whole program.
+// Answers of the greatest size, and untrusted servers, in the whole program.
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
@@ -13,7 +13,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// The program at the services of one server, with all the time that a slow machine needs.
+// The program with one server for all services, and enough time for a slow machine.
 struct ListsStation : Station {
     static constexpr double slower = 0.05;  // 2 s take 40 s
 
@@ -25,7 +25,7 @@ struct ListsStation : Station {
     MainWindow listsWindow{lists};
 };
 
-// How late the event loop ever was for a beat every 10 ms.
+// The longest delay of the event loop, measured every 10 ms.
 class Heartbeat {
 public:
     Heartbeat() {
@@ -47,7 +47,7 @@ private:
     qint64 latest_ = 0;
 };
 
-// As many of the smallest records as fit.
+// As many of the smallest records as fit into the bound.
 struct LargeList {
     const char* path;
     const char* opening;

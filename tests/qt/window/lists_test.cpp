@@ -14,7 +14,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// The window at the services of one server.
+// The window with one server for all services.
 struct ListsStation : Station {
     static constexpr double slower = 5;  // leaves a server on this machine 400 ms of the 2 s
 
@@ -52,7 +52,7 @@ TEST(ListsTest, AreFilledFilteredAndTunedTo) {
     station.lists.awakeFromNib();
     QTableView* table = station.show(0, "potaTable");
     ASSERT_NE(table, nullptr);
-    // A machine that is busy otherwise may need a second try.
+    // A busy machine may need a second try.
     TextField& status = station.lists.display.potaStatusField;
     ASSERT_TRUE(eventually([&] {
         if (status.stringValue().ends_with("no answer within 2 s")) station.lists.fetchPotaSpots();
