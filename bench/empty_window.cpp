@@ -1,5 +1,5 @@
-// The floor under the program's start: an application with one empty window of the same size. Run it on the same screen
-// as CORVANE_STOP_AFTER_FIRST_PAINT=1 corvane.
+// The least that a start can cost: an application with one empty window of the same size. Run it on the same screen as
+// CORVANE_STOP_AFTER_FIRST_PAINT=1 corvane.
 #include <QApplication>
 #include <QTimer>
 #include <QWidget>

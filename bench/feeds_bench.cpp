@@ -1,4 +1,4 @@
-// How fast the bodies of the on-line lists are read, beside the bare parse of the same JSON.
+// How fast the bodies of the on-line lists are read, compared with a bare parse of the same JSON.
 #include <benchmark/benchmark.h>
 
 #include <nlohmann/json.hpp>

@@ -1,5 +1,5 @@
-// How many responses a second the program takes in, from the port's bytes to the controls, and what of that the
-// controls cost.
+// How many responses a second the program takes, from the port's bytes to the controls, with and without showing the
+// controls.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -49,7 +49,7 @@ Traffic spin() {
     return traffic;
 }
 
-// The answers to everything that the program asks for after a port has opened.
+// The answers to all read commands that the program sends after a port has opened.
 Traffic synchronisation() {
     Traffic traffic;
     for (const std::string_view answer : {"PS1;",
@@ -111,7 +111,7 @@ void receive(benchmark::State& state, const Traffic& traffic, Watching watching)
         sinceRefresh = 0;
         changes.refresh();
     });
-    constexpr std::size_t chunk = 64;  // bytes, as a serial driver hands them over
+    constexpr std::size_t chunk = 64;  // bytes, as from a serial driver
     for (auto unused : state) {
         for (std::size_t at = 0; at < traffic.bytes.size(); at += chunk)
             assembler.feed(std::string_view(traffic.bytes).substr(at, chunk));

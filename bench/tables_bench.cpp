@@ -1,5 +1,5 @@
-// How a list of ten thousand rows keeps up with hands: painting a screenful, scrolling by a page, a character in the
-// filter, and a new list. Prints milliseconds, the median and the longest of many; ends with 1 when an aim is missed.
+// How fast a list of ten thousand rows responds: painting a screenful, scrolling by a page, a character in the filter,
+// and a new list. Prints milliseconds, the median and the longest of many; exits with 1 when an aim is missed.
 #include <QAbstractItemModel>
 #include <QApplication>
 #include <QLineEdit>
@@ -25,8 +25,8 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int rows = 10'000;
 constexpr int samples = 60;
-constexpr double frame = 1000.0 / 60;  // what a hand does not notice
-constexpr double moment = 50;          // what it does not wait for
+constexpr double frame = 1000.0 / 60;  // too short to notice
+constexpr double moment = 50;          // too short to wait for
 
 FeedList manySpots() {
     FeedList list;

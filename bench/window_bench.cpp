@@ -1,11 +1,10 @@
-// How the whole program keeps up with a transceiver on a real serial line: the window, the port, the operator's input.
+// How fast the whole program is with a transceiver on a real serial line: the window, the port, the operator's input.
 //
-//   spin     8 s of a spun knob, about 110 reports a second: everything handled, input never late, processor time
-//   read     a whole read of 99 programmed memory channels, beside the least that the transceiver allows
+//   spin     8 s of a spinning knob, about 110 reports a second: all handled, input never late, processor time
+//   read     a whole read of 99 programmed memory channels, compared with the least time possible
 //   latency  from a frequency report entering the line to the end of the paint in which VFO A shows it
 //
-// The transceiver runs in a process of its own, so that it costs the program nothing. Ends with 1 when an aim is
-// missed.
+// The transceiver runs in its own process, so that it costs the program nothing. Exits with 1 when an aim is missed.
 #include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
@@ -44,7 +43,7 @@ namespace corvane {
 namespace {
 
 using namespace std::chrono_literals;
-using Clock = std::chrono::steady_clock;  // the same in every process of the machine
+using Clock = std::chrono::steady_clock;  // the same in all processes
 using Microseconds = std::chrono::microseconds;
 
 constexpr auto spinTime = 8s;
@@ -57,10 +56,10 @@ constexpr double longestLatencyAim = 15;
 
 double milliseconds(Clock::duration time) { return std::chrono::duration<double, std::milli>(time).count(); }
 
-// What both processes see.
+// Shared by both processes.
 struct Shared {
-    std::atomic<int> responses{0};  // whole answers and reports that the transceiver has put on the line
-    std::atomic<int> frequency{0};  // hertz, when the knob stood still again
+    std::atomic<int> responses{0};  // whole answers and reports that the transceiver has sent
+    std::atomic<int> frequency{0};  // hertz, when the knob has stopped
     std::atomic<bool> spinning{false};
     std::atomic<Clock::rep> sentAt{0};
 };
@@ -71,8 +70,8 @@ Shared& makeShared() {
     return *new (memory) Shared;
 }
 
-// The transceiver's process. A byte from the program is a wish: 's' to spin, 'p' to have all memory channels programmed
-// and be punctual, 'r' to rest again, 'f' for a frequency report, 'q' to end.
+// The transceiver's process. A byte from the program is a wish: 's' spin, 'p' program all memory channels and be
+// punctual, 'r' stop being punctual, 'f' send a frequency report, 'q' end.
 class FarEnd {
 public:
     FarEnd(simulator::PseudoTerminal& line, int wishes, Shared& shared)
@@ -101,7 +100,7 @@ public:
 private:
     simulator::Time now() const { return std::chrono::duration_cast<simulator::Time>(Clock::now() - start_); }
 
-    // A process that sleeps wakes up late by a fifth of a millisecond and more, which no transceiver does.
+    // A sleeping process wakes up 0.2 ms late or more, so a punctual one does not sleep.
     timespec wait() const {
         if (punctual_) return {};
         simulator::Time next = transceiver_.nextEvent().value_or(now() + 1s);
@@ -146,7 +145,7 @@ private:
     bool ended_ = false;
 };
 
-// A key press that knows when it was posted.
+// A key press with the time when it was posted.
 class StampedKey : public QKeyEvent {
 public:
     StampedKey() : QKeyEvent(QEvent::KeyPress, Qt::Key_F24, Qt::NoModifier) {}
@@ -154,7 +153,7 @@ public:
     const Clock::time_point posted = Clock::now();
 };
 
-// Sees the end of every event.
+// Notices the end of every event.
 class Application : public QApplication {
 public:
     using QApplication::QApplication;
@@ -174,7 +173,7 @@ public:
     std::vector<double> keyLateness;  // milliseconds
 };
 
-// Stands between the port and the controller and counts whole responses.
+// Sits between the port and the controller and counts whole responses.
 class CountingDelegate : public ORSSerialPortDelegate {
 public:
     explicit CountingDelegate(ORSSerialPortDelegate& next) : next_(next) {}
@@ -212,7 +211,7 @@ void runFor(Clock::duration time) {
 void runUntil(const std::function<bool()>& condition, Clock::duration patience) {
     const auto end = Clock::now() + patience;
     QTimer look;
-    look.start(50);  // what is awaited may come without an event
+    look.start(50);  // the condition may come true without an event
     while (!condition() && Clock::now() < end) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
@@ -233,8 +232,8 @@ bool aim(bool reached, const char* what) {
     return reached;
 }
 
-// The same 200 requests without the program: one thread that writes, waits and reads. Its time is what this machine
-// makes of the least.
+// The same 200 requests without the program: one thread that writes, waits and reads. Its time is the least that this
+// machine can reach.
 double bareRead(const std::string& path) {
     const int line = ::open(path.c_str(), O_RDWR | O_NOCTTY);
     if (line < 0) return 0;
@@ -266,12 +265,12 @@ public:
         controller_.link.serialPort()->setDelegate(&counting_);
         window_.show();
         application_.keysGoTo = &window_;
-        const StampedKey first;  // the keyboard it stands for is made on this thread
+        const StampedKey first;  // makes Qt's keyboard on this thread
         vfoA_ = window_.findChild<QAbstractButton*>("vqFreqAButton");
         application_.watched = vfoA_;
     }
 
-    // Opens the port and waits for the end of the session's steps; the radio page is in front then.
+    // Opens the port and waits for the end of the session's steps. Then the radio page is in front.
     bool open() {
         controller_.display.openCloseButton.performClick();
         runFor(3s);
@@ -331,8 +330,8 @@ public:
         return good;
     }
 
-    // The least is what the transceiver allows: its 10 ms for each answer, the answer's own 7.3 or 4.9 ms on the line
-    // being part of them. Of several reads the quickest is judged: what else the machine does only makes them longer.
+    // The transceiver needs at least 10 ms for each answer, including the answer's 7.3 or 4.9 ms on the line. The
+    // quickest of several reads counts: other work of the machine only makes reads longer.
     bool read() {
         constexpr int requests = 200, requestLength = 6, replyLength = 28, tagReplyLength = 19;
         constexpr int answered = requests / 2 * (replyLength + tagReplyLength);
@@ -388,7 +387,7 @@ public:
             };
             wish('f');
             runUntil([&] { return painted; }, 2s);
-            if (!painted) break;  // a window that is not seen is not painted
+            if (!painted) break;  // an invisible window is not painted
             runFor(Microseconds(pause(random)));
         }
         application_.onPainted = {};
@@ -410,7 +409,7 @@ private:
         made.dataPath = folder_.filePath("data");
         made.soundsFolder = folder_.path().toStdString();
         made.extraPorts = {std::move(port)};
-        made.schedulerSpeed = 10;  // the steps of the session are no part of this
+        made.schedulerSpeed = 10;  // the steps of the session are not measured
         made.simulatedPort = false;
         return made;
     }

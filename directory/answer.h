@@ -1,4 +1,4 @@
-// What a request gets back.
+// The answer to a request.
 #pragma once
 
 #include <functional>
@@ -12,7 +12,7 @@ inline constexpr std::string_view plainText = "text/plain; charset=utf-8";
 
 struct Answer {
     int status = 200;
-    std::shared_ptr<const std::string> body;  // shared by all who are sent the same
+    std::shared_ptr<const std::string> body;  // shared by all answers with the same body
     std::string_view contentType = plainText;
     std::string headerName{};  // one more header, if any
     std::string headerValue{};

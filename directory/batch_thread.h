@@ -1,4 +1,4 @@
-// A thread that works off what others hand it, as much at a time as has come in.
+// A thread that carries out submitted jobs in batches: each batch has all the jobs that are waiting.
 #pragma once
 
 #include <condition_variable>
@@ -15,10 +15,10 @@ class BatchThread {
 public:
     using Work = std::function<void(std::vector<Job>& batch)>;
 
-    // `makeWork` is called on the thread, and what it made ends there: connections belong to one thread.
+    // `makeWork` is called on the thread, and its result is destroyed there: connections belong to one thread.
     explicit BatchThread(std::function<Work()> makeWork)
         : thread_([this, make = std::move(makeWork)] { loop(make()); }) {}
-    // Everything that was submitted is done first.
+    // All submitted jobs are done first.
     ~BatchThread() {
         {
             const std::lock_guard lock(mutex_);

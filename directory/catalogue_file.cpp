@@ -30,7 +30,7 @@ bool isId(std::string_view text) {
     });
 }
 
-// Figures with a point at most: what the program keeps of a frequency.
+// Digits and at most one point: the program keeps only these of a frequency.
 template <int least, int most>
 bool isNumber(std::string_view text) {
     if (text.empty() || text.front() < '0' || text.front() > '9') return false;
@@ -55,7 +55,7 @@ struct Column {
 };
 
 constexpr std::array netColumns{
-    Column<Net>{"id", &Net::id, isId, "small letters, figures and -, at most 64"},
+    Column<Net>{"id", &Net::id, isId, "lower-case letters, digits and -, at most 64"},
     Column<Net>{"name", &Net::name, isWord, "1 to 200 bytes of text"},
     Column<Net>{"frequency_mhz", &Net::frequency, isNumber<0, 450>, "MHz like 3.940"},
     Column<Net>{"utc", &Net::utc, isTime, "a time like 17:00"},
@@ -88,7 +88,7 @@ template <class Entry, std::size_t size>
 CatalogueFile<Entry> read(std::string_view text, const std::array<Column<Entry>, size>& columns,
                           std::string (*identity)(const Entry& entry)) {
     CatalogueFile<Entry> file;
-    if (text.starts_with("\xef\xbb\xbf")) text.remove_prefix(3);  // spreadsheets like to begin with it
+    if (text.starts_with("\xef\xbb\xbf")) text.remove_prefix(3);  // the byte order mark of spreadsheets
     const CsvLines csv = readCsv(text);
     if (csv.lines.empty() || csv.lines.front().values != namesOf(columns)) {
         const std::string header = csvLine(namesOf(columns));

@@ -8,11 +8,11 @@
 
 namespace corvane::directory {
 
-// The form of the keys that the program makes: 32 hexadecimal figures, small letters.
+// Whether this is a key as the program makes them: 32 hexadecimal digits in lower case.
 bool isOperatorKey(std::string_view text);
 
-// Nothing for what is no JSON object, lacks a member, has a key of another form, a net that is no text, or an action
-// that is neither 1 (to confirm) nor 0 (to retract). Other members are passed over.
+// Nothing unless the body is a JSON object with all three members, a key of that form, a net that is a text, and the
+// action 1 (to confirm) or 0 (to retract). Other members are ignored.
 std::optional<CheckIn> checkInFrom(std::string_view body);
 
 }  // namespace corvane::directory

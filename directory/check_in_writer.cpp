@@ -6,7 +6,7 @@ namespace {
 
 constexpr std::chrono::days kept{7};
 
-// Net ids of that length and of these bytes exist nowhere, and a database may refuse them instead of not finding them.
+// No net has an id of that length or with these bytes, and a database may fail on one instead of finding no net.
 bool canBeNet(const std::string& id) { return id.size() <= 200 && id.find('\0') == std::string::npos; }
 
 }  // namespace
@@ -18,7 +18,7 @@ CheckInWriter::CheckInWriter(std::string location, Clock clock, std::atomic<long
           };
       }) {}
 
-// One transaction for all that have come in meanwhile: they share the wait for the disk.
+// One transaction for the whole batch, so that all share one sync to disk.
 void CheckInWriter::writeInOne(DirectoryStore& store, std::vector<Job>& batch) {
     std::vector<Answer> answers;
     Transaction transaction(store.database());
@@ -38,7 +38,7 @@ bool CheckInWriter::connect(Connection& connection) {
     }
 }
 
-// When a shared transaction fails, each goes by itself: one bad apple spoils no others.
+// When the shared transaction fails, each job gets its own, so that a bad one does not fail the others.
 void CheckInWriter::write(Connection& connection, std::vector<Job>& batch) {
     const auto refuse = [&batch] {
         for (const Job& job : batch) job.reply(textAnswer(503, "The database does not answer."));

@@ -1,4 +1,4 @@
-// Writes check-ins down, in a thread of its own, and answers each once it is safe on disk.
+// Stores check-ins on its own thread, and answers each once it is safe on disk.
 #pragma once
 
 #include <atomic>
@@ -14,19 +14,19 @@ using Clock = std::function<Seconds()>;
 
 class CheckInWriter {
 public:
-    // `changes` goes up with each commit.
+    // `changes` is incremented at each commit.
     CheckInWriter(std::string location, Clock clock, std::atomic<long long>& changes, Log& log);
 
     // From any thread. 200 once it is stored, 404 for a net that is not in the directory, 503 when the database fails.
     void record(CheckIn checkIn, Reply reply) { thread_.submit({std::move(checkIn), std::move(reply)}); }
-    // Sessions that ended days ago, with their confirmations.
+    // Deletes sessions that ended days ago, with their confirmations.
     void forgetOldSessions() {
         thread_.submit({{}, [](const Answer&) {}});
     }
 
 private:
     struct Job {
-        std::optional<CheckIn> checkIn;  // none: forget old sessions
+        std::optional<CheckIn> checkIn;  // none: delete old sessions
         Reply reply;
     };
     using Connection = std::unique_ptr<DirectoryStore>;

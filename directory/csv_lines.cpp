@@ -9,8 +9,8 @@ namespace {
 struct Reading {
     CsvLines file;
     std::vector<std::string> values;
-    int line = 1;   // the one that is being read
-    int start = 0;  // where the values begin, or 0 before the first
+    int line = 1;   // the line that is being read
+    int start = 0;  // the line where the values begin; 0 before it
 
     static void takeValue(void* value, std::size_t size, void* reading) {
         auto& self = *static_cast<Reading*>(reading);

@@ -1,4 +1,4 @@
-// Lines of comma-separated values.
+// Lines of CSV files.
 #pragma once
 
 #include <optional>
@@ -9,19 +9,19 @@
 namespace corvane::directory {
 
 struct CsvLine {
-    int number;  // of the line in the file where it begins, from 1
+    int number;  // the line of the file where it begins, from 1
     std::vector<std::string> values;
 };
 
-// Without empty lines. Blanks around a value that is not in double quotes are dropped. `badLine` is where the quotes
-// are wrong; nothing after it is read.
+// The lines of a text, without empty ones. Blanks around a value that is not in double quotes are dropped. `badLine` is
+// the line with a wrong quote; nothing after it is read.
 struct CsvLines {
     std::vector<CsvLine> lines;
     std::optional<int> badLine;
 };
 CsvLines readCsv(std::string_view text);
 
-// With every value in double quotes that needs them.
+// The values as a line, in double quotes where needed.
 std::string csvLine(const std::vector<std::string>& values);
 
 }  // namespace corvane::directory

@@ -14,11 +14,11 @@ namespace {
 [[noreturn]] void fail(const QSqlError& error) { throw DatabaseError(error.text().trimmed().toStdString()); }
 
 QString nextName() {
-    static std::atomic<int> number = 0;  // connections are told apart by name, in all threads
+    static std::atomic<int> number = 0;  // every connection of the process needs its own name
     return "directory" + QString::number(++number);
 }
 
-// Options of the URL's query, as the driver takes them: "options='-csearch_path=club';".
+// The options in the URL's query, in the driver's form: "options='-csearch_path=club';".
 QString postgresOptions(const QUrl& url) {
     QString options;
     for (const auto& [name, value] : QUrlQuery(url).queryItems(QUrl::FullyDecoded)) {
@@ -58,10 +58,10 @@ Database::Database(const std::string& location) : connection_(connectionTo(locat
         fail(error);
     }
     if (isPostgres()) {
-        run("SET client_min_messages TO warning");  // not that a table is there already
+        run("SET client_min_messages TO warning");  // no notices that a table exists already
         return;
     }
-    // What has been acknowledged survives a power cut, too: FULL waits for the disk at each commit.
+    // Acknowledged check-ins must survive a power cut: FULL syncs to disk at each commit.
     for (const char* pragma : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL", "PRAGMA foreign_keys=ON"})
         run(pragma);
 }
@@ -91,11 +91,11 @@ void Statement::execute() {
 bool Statement::next() {
     if (query_.next()) return true;
     if (query_.lastError().isValid()) fail(query_.lastError());
-    query_.finish();  // an open reader would hold on to what it saw
+    query_.finish();  // an open reader would keep an old view of the data
     return false;
 }
 
-// SQLite takes its lock at once: one that is wanted after reading could be refused without a wait.
+// IMMEDIATE: SQLite may refuse a write lock without waiting if the transaction has read first.
 Transaction::Transaction(Database& database) : database_(database) {
     database_.run(database_.isPostgres() ? "BEGIN" : "BEGIN IMMEDIATE");
 }
@@ -103,7 +103,7 @@ Transaction::Transaction(Database& database) : database_(database) {
 Transaction::~Transaction() {
     if (!open_) return;
     QSqlQuery query(database_.connection());
-    query.exec("ROLLBACK");  // when this fails, the connection has gone and the transaction with it
+    query.exec("ROLLBACK");  // if this fails, the connection is lost, and so is the transaction
 }
 
 void Transaction::commit() {

@@ -31,7 +31,7 @@ void DirectoryReader::answer(std::unique_ptr<Catalogue>& catalogue, std::vector<
         const Seconds now = clock_();
         const long long changes = changes_;
         std::vector<std::vector<Confirmation>> own;
-        // Before the counts, so that none counts less than the operator's own.
+        // Before the counts, so that a count always includes the operator's own confirmation.
         for (const Job& job : batch)
             own.push_back(job.operatorKey.empty() ? std::vector<Confirmation>{}
                                                   : catalogue->store.confirmationsOf(job.operatorKey, now));

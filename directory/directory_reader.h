@@ -1,4 +1,4 @@
-// Reads the lists, in a thread of its own.
+// Reads the lists on its own thread.
 #pragma once
 
 #include <atomic>
@@ -14,7 +14,7 @@ namespace corvane::directory {
 // Answers with 200, or with 503 when the database fails.
 class DirectoryReader {
 public:
-    // Lists are read anew when `changes` has changed, and each second for what other processes have written.
+    // Lists are read again when `changes` has changed, and every second for changes by other processes.
     DirectoryReader(std::string location, Clock clock, const std::atomic<long long>& changes, Log& log);
 
     // From any thread. The key is an operator's, or empty.
@@ -22,7 +22,7 @@ public:
         thread_.submit({List::nets, std::move(operatorKey), std::move(reply)});
     }
     void stations(Reply reply) { thread_.submit({List::stations, {}, std::move(reply)}); }
-    // Whether the database can be read, now.
+    // Whether the database can be read now.
     void health(Reply reply) { thread_.submit({List::none, {}, std::move(reply)}); }
 
 private:
@@ -32,7 +32,7 @@ private:
         std::string operatorKey;
         Reply reply;
     };
-    // What has been read, and the connection for more.
+    // The lists last read, and the connection.
     struct Catalogue {
         explicit Catalogue(const std::string& location) : store(location) {}
         void refresh(long long changesNow, Seconds now);

@@ -1,4 +1,4 @@
-// The whole service on one database: takes requests from its beginning to its end.
+// The whole service on one database. Takes requests while it exists.
 #pragma once
 
 #include "directory_site.h"
@@ -29,7 +29,7 @@ public:
     void forgetOldSessions() { writer_.forgetOldSessions(); }
 
 private:
-    // They end in the reverse order: first the server, then what its last requests wait for.
+    // Destroyed in reverse order: first the server, then what its last requests wait for.
     const Documents documents_;
     std::atomic<long long> changes_ = 0;
     CheckInWriter writer_;

@@ -27,7 +27,7 @@ const DirectorySite::Route* DirectorySite::routeOf(const std::string& path) {
                   if (checkIn)
                       site.writer_.record(std::move(*checkIn), std::move(reply));
                   else
-                      reply(textAnswer(400, "The body is no check-in."));
+                      reply(textAnswer(400, "The body is not a check-in."));
               }},
         Route{"/healthz", "GET",
               [](DirectorySite& site, const WebRequest&, Reply reply) { site.reader_.health(std::move(reply)); }},
@@ -48,13 +48,13 @@ std::optional<Answer> DirectorySite::answerAtOnce(const WebRequest& request) {
     if (!document && !route) return textAnswer(404, "There is nothing here.");
     const std::string_view method = document ? "GET" : route->method;
     if (request.method != method) {
-        Answer answer = textAnswer(405, "This is not how to ask for it.");
+        Answer answer = textAnswer(405, "This method is not allowed here.");
         answer.headerName = "Allow";
         answer.headerValue = method;
         return answer;
     }
     if (document) return *document;
-    if (!request.key.empty() && !isOperatorKey(request.key)) return textAnswer(400, "This is no operator's key.");
+    if (!request.key.empty() && !isOperatorKey(request.key)) return textAnswer(400, "This is not an operator's key.");
     return {};
 }
 

@@ -1,4 +1,4 @@
-// What is answered under which path.
+// Which path gives which answer.
 #pragma once
 
 #include "check_in_writer.h"
@@ -9,8 +9,8 @@
 
 namespace corvane::directory {
 
-// GET /nets.php?key=KEY, GET /mw.php, POST /netconf.php, GET /healthz, and the documents. 400 for a key or a body that
-// no program of ours makes, 404 for other paths, 405 for other methods, 429 for an address that asks too often.
+// GET /nets.php?key=KEY, GET /mw.php, POST /netconf.php, GET /healthz, and the documents. Answers 400 to a malformed
+// key or body, 404 to other paths, 405 to other methods, 429 to an address that asks too often.
 class DirectorySite : public WebSite {
 public:
     DirectorySite(CheckInWriter& writer, DirectoryReader& reader, const Documents& documents, int requestsAMinute)

@@ -1,4 +1,4 @@
-// What the directory keeps: nets, stations, and who has confirmed which session of a net.
+// The directory's data: nets, stations, and who has confirmed which session of a net.
 #pragma once
 
 #include <vector>
@@ -9,7 +9,7 @@
 
 namespace corvane::directory {
 
-// An operator's word on the next session of a net.
+// An operator confirms the next session of a net, or retracts.
 struct CheckIn {
     std::string operatorKey;
     std::string net;
@@ -37,16 +37,16 @@ public:
     // In the order of the import.
     std::vector<Net> nets();
     std::vector<Station> stations();
-    // Within a transaction. The list becomes this one. A net that keeps its id keeps its confirmations, too; one that
-    // goes takes them along.
+    // Within a transaction. Replaces the whole list. A net whose id stays keeps its confirmations; those of a removed
+    // net are deleted.
     void replace(const std::vector<Net>& nets);
     void replace(const std::vector<Station>& stations);
-    // 0 until the first replacement, another number after each.
+    // 0 until the first replacement, and a new number after each.
     long long revision();
 
-    // Within a transaction. False for a net that the directory does not have. To confirm or to retract twice is once.
+    // Within a transaction. False for an unknown net. Confirming or retracting twice has the effect of once.
     bool record(const CheckIn& checkIn, Seconds now);
-    // Of sessions that are on at `now` or come later.
+    // Of sessions that have not ended at `now`.
     std::vector<Confirmation> confirmationsOf(const std::string& operatorKey, Seconds now);
     std::vector<SessionCount> counts(Seconds now);
     void forgetSessionsBefore(Seconds time);

@@ -1,4 +1,4 @@
-// The pages about the program, read from a folder once.
+// The pages about the program, read once from a folder.
 #pragma once
 
 #include <filesystem>
@@ -8,15 +8,15 @@
 
 namespace corvane::directory {
 
-// "/corvane/" is help.html and "/v/corvane/" product.html; beside each of them stands everything else of the folder
-// that is a page, a style or a picture, so that they link to each other and to pictures as they do in the folder.
+// "/corvane/" is help.html and "/v/corvane/" product.html. All pages, styles and pictures of the folder are also served
+// beside each of the two, so that their relative links work as in the folder.
 class Documents {
 public:
-    // A folder that is not there gives no documents.
+    // A missing folder gives no documents.
     explicit Documents(const std::filesystem::path& folder);
 
     bool empty() const { return answers_.empty(); }
-    // nullptr for a path that is none of theirs.
+    // nullptr for a path without a document.
     const Answer* find(const std::string& path) const;
 
 private:

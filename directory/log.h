@@ -1,4 +1,4 @@
-// What the service tells whoever runs it: one line of JSON an event, on standard output.
+// The service's log: one line of JSON per event, on standard output.
 #pragma once
 
 #include <initializer_list>

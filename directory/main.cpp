@@ -107,7 +107,7 @@ int run(const Options& options) {
 
 int main(int argc, char** argv) {
     using namespace corvane::directory;
-    const QCoreApplication application(argc, argv);  // finds the database drivers
+    const QCoreApplication application(argc, argv);  // Qt needs it to find the database drivers
     try {
         return run(optionsFrom(argc, argv));
     } catch (const std::invalid_argument& error) {

@@ -1,13 +1,13 @@
-// What the directory lists.
+// The entries of the directory.
 #pragma once
 
 #include <string>
 
 namespace corvane::directory {
 
-// A net on the air at the same time of its days.
+// A net that meets at a fixed time on certain days.
 struct Net {
-    std::string id;         // figures, small letters and "-": "noon-net"; stays when all else changes
+    std::string id;         // digits, lower-case letters and "-": "noon-net"; never changes
     std::string name;       // "Noon Net"
     std::string frequency;  // MHz: "3.940"
     std::string utc;        // "17:00"

@@ -20,11 +20,10 @@ struct Schedule {
 // "Sat-Mon". Nothing when either cannot be read.
 std::optional<Schedule> scheduleOf(std::string_view utc, std::string_view days);
 
-// A session counts as the next one until it has lasted this long: who checks in while the net is on confirms that
-// session.
+// A session counts as the next one until it has lasted this long: a check-in while the net is on confirms that session.
 inline constexpr std::chrono::minutes sessionLength{60};
 
-// The start of the session that is on at `now`, or else of the first one after.
+// The start of the session that is on at `now`, or else of the first one after it.
 Seconds nextSession(const Schedule& schedule, Seconds now);
 
 }  // namespace corvane::directory

@@ -11,9 +11,9 @@
 namespace corvane::directory {
 
 void prepareDatabase(const std::string& location) {
-    umask(077);  // who has confirmed what is nobody else's business
+    umask(077);  // confirmations are private
     if (!location.starts_with("postgresql://")) {
-        std::error_code error;  // which opening the file will tell
+        std::error_code error;  // opening the file will report it
         std::filesystem::create_directories(std::filesystem::path(location).parent_path(), error);
     }
     {

@@ -5,8 +5,8 @@
 
 namespace corvane::directory {
 
-// Makes the folder and the file of SQLite when there are none, runs the migrations, and fills a database that was empty
-// with the starter set. Throws DatabaseError.
+// Makes the SQLite file and its folder if they are missing, runs the migrations, and fills an empty database with the
+// starter set. Throws DatabaseError.
 void prepareDatabase(const std::string& location);
 
 }  // namespace corvane::directory

@@ -1,4 +1,4 @@
-// Watches that no connection is held open by a client that does not get on.
+// Closes connections whose client takes too long.
 #pragma once
 
 #include <chrono>
@@ -16,11 +16,11 @@ public:
     static constexpr std::chrono::seconds patience{15};
 
     void opened(MHD_Connection* connection, int socket, Time now);
-    // A request has been answered: the time starts anew.
+    // A request has been answered: its time starts again.
     void answered(MHD_Connection* connection, Time now);
-    // Before its socket is closed.
+    // Called before the socket is closed.
     void closed(MHD_Connection* connection);
-    // Ends the line of each whose time is over; its server then closes it.
+    // Shuts down the socket of each connection whose time is over; the server then closes it.
     void closeLate(Time now);
 
 private:

@@ -1,4 +1,4 @@
-// What the command line asks for.
+// The command line.
 #pragma once
 
 #include <string>
@@ -15,7 +15,7 @@ struct Options {
     DirectoryService::Options service{{}, {}, 120, {.port = 8073}};
 };
 
-// Throws std::invalid_argument, with a sentence for the user, when there is something that it does not know.
+// Throws std::invalid_argument, with a sentence for the user, for a command line with an error.
 Options optionsFrom(int argc, char** argv);
 
 std::string helpText();

@@ -35,7 +35,7 @@ bool RateLimit::allows(std::string_view address, Time now) {
     return true;
 }
 
-// What is full needs no note. Should so many be short at once, all start anew rather than take the memory.
+// A full stock needs no entry. If too many are not full at once, all start again full, to bound the memory.
 void RateLimit::forgetFullStocks(Time now) {
     std::erase_if(stocks_, [&](const auto& entry) { return filled(entry.second, now) >= perMinute_; });
     if (stocks_.size() >= mostAddresses) stocks_.clear();

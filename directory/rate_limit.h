@@ -9,8 +9,8 @@
 
 namespace corvane::directory {
 
-// Each address has a stock of one minute's requests, which fills up again evenly over a minute. An IPv6 address stands
-// for its network of 64 bits, of which one household has a whole one.
+// Each address has a stock of one minute's requests, which refills evenly over a minute. All IPv6 addresses with the
+// same first 64 bits share a stock, because one household has at least that many.
 class RateLimit {
 public:
     using Time = std::chrono::steady_clock::time_point;
@@ -18,7 +18,7 @@ public:
     // 0 requests a minute: no limit.
     explicit RateLimit(int requestsAMinute) : perMinute_(requestsAMinute) {}
 
-    // From any thread. Takes one request out of the stock, or says false when there is none left.
+    // From any thread. Takes one request out of the stock; false if it is empty.
     bool allows(std::string_view address, Time now);
 
 private:

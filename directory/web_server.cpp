@@ -36,7 +36,7 @@ std::string peer(MHD_Connection* connection) {
     return text.data();
 }
 
-// The proxy's own entry; those before it are whatever the client wrote.
+// The proxy's own entry; the client can forge those before it.
 std::string lastForwarded(const std::string& addresses) {
     const std::size_t comma = addresses.rfind(',');
     const std::size_t start = addresses.find_first_not_of(' ', comma == std::string::npos ? 0 : comma + 1);
@@ -60,13 +60,13 @@ AddressList socketAddress(const std::string& address, int port) {
     wanted.ai_socktype = SOCK_STREAM;
     addrinfo* found = nullptr;
     if (getaddrinfo(address.c_str(), std::to_string(port).c_str(), &wanted, &found) != 0)
-        throw std::runtime_error("\"" + address + "\" is no address.");
+        throw std::runtime_error("\"" + address + "\" is not an address.");
     return {found, freeaddrinfo};
 }
 
 }  // namespace
 
-// One request on its way. `reply` is written before the connection is resumed, and read after.
+// A request in progress. `reply` is written before the connection is resumed, and read after.
 struct WebServer::Exchange {
     WebRequest request;
     SteadyClock::time_point start = SteadyClock::now();
@@ -124,7 +124,7 @@ WebServer::~WebServer() {
 
 int WebServer::port() const { return MHD_get_daemon_info(daemon_, MHD_DAEMON_INFO_BIND_PORT)->port; }
 
-// Called once with the head, then for each piece of the body, then for the answer, again after it has been waited for.
+// Called once with the head, then for each piece of the body, then for the answer, and again after each wait for it.
 int WebServer::take(MHD_Connection* connection, const char* path, const char* method, const char* data,
                     std::size_t* size, void** exchange) {
     if (!*exchange) {
@@ -172,7 +172,7 @@ int WebServer::finish(MHD_Connection* connection, Exchange& exchange) {
 int WebServer::send(MHD_Connection* connection, Exchange& exchange, const Answer& answer) const {
     static const auto nothing = std::make_shared<const std::string>();
     auto* const body = new std::shared_ptr<const std::string>(answer.body ? answer.body : nothing);
-    // The library does not write to what it is given; its parameter is older than its promise.
+    // The library promises not to write to the body, although its parameter is not const.
     MHD_Response* const response = MHD_create_response_from_buffer_with_free_callback_cls(
         (*body)->size(), const_cast<char*>((*body)->data()),
         [](void* shared) { delete static_cast<std::shared_ptr<const std::string>*>(shared); }, body);

@@ -1,4 +1,4 @@
-// Takes requests over HTTP, for a site that answers them.
+// Takes HTTP requests and lets a site answer them.
 #pragma once
 
 #include <atomic>
@@ -18,33 +18,33 @@ struct WebRequest {
     std::string method;   // "GET"; "HEAD" comes as "GET"
     std::string path;     // "/nets.php", decoded
     std::string key;      // the value of "key" in the query, or empty
-    std::string address;  // who asks: "192.0.2.1"
+    std::string address;  // of the client: "192.0.2.1"
     std::string body;
 };
 
 class WebSite {
 public:
     virtual ~WebSite() = default;
-    // For a request without its body: an answer that needs neither the body nor a wait. From several threads.
+    // Called with the head of a request, from several threads. Gives an answer that needs neither body nor wait.
     virtual std::optional<Answer> answerAtOnce(const WebRequest& request) = 0;
-    // For all others, once they are whole. Must not wait; `reply` is called when the answer is there.
+    // Called for all others, once they are complete. Must not wait; `reply` is called when the answer is ready.
     virtual void answer(const WebRequest& request, Reply reply) = 0;
 };
 
-// A body of more than 16 KiB is answered with 413. A connection on which no request becomes whole and answered within
-// 15 s is closed. Each request is logged, without its query and body.
+// A body of more than 16 KiB is answered with 413. A connection is closed when a request is not complete and answered
+// within 15 s. Each request is logged, without its query and body.
 class WebServer {
 public:
     struct Options {
         std::string address = "127.0.0.1";  // or an IPv6 address
         int port = 0;                       // 0: one that is free
-        bool behindProxy = false;           // who asks is told by the last entry of X-Forwarded-For
+        bool behindProxy = false;           // the last entry of X-Forwarded-For is the client's address
         unsigned connectionsAnAddress = 64;
     };
 
     // Throws std::runtime_error when the port is taken or may not be used.
     WebServer(const Options& options, WebSite& site, Log& log);
-    // Takes no more connections, and ends those there are once their requests have been answered; 5 s at most.
+    // Takes no more connections, and ends open ones when their requests have been answered, after 5 s at most.
     ~WebServer();
     WebServer(const WebServer&) = delete;
     WebServer& operator=(const WebServer&) = delete;

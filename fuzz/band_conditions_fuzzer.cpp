@@ -1,4 +1,4 @@
-// A body of the solar-data service, whatever it is.
+// Any body of the solar-data service.
 #include <cstdint>
 
 #include "feeds/band_conditions.h"

@@ -1,4 +1,4 @@
-// A file of memory channels, whatever it is; what is taken of it comes back from an export.
+// Any file of memory channels. The channels taken from it survive an export and another import.
 #include <bitset>
 #include <cstdint>
 

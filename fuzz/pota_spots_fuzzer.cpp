@@ -1,4 +1,4 @@
-// A body of the POTA spot service, whatever it is.
+// Any body of the POTA spot service.
 #include <algorithm>
 #include <cstdint>
 

@@ -1,4 +1,4 @@
-// Bytes from the line, cut anywhere: whole responses through the assembler, raw chunks straight to the program.
+// Any bytes from the line, cut anywhere: as responses from the assembler and as raw chunks.
 #include <cstdint>
 
 #include "radio/response_assembler.h"
@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         INVARIANT(!response.empty() && response.size() <= ResponseAssembler::limit);
         bench.receive(response);
     });
-    // A first byte says how long the next piece is, so that the input itself decides where it is cut.
+    // The first byte of each piece gives its length, so that the input decides where it is cut.
     for (std::string_view rest(reinterpret_cast<const char*>(data), size); !rest.empty();) {
         const std::string_view chunk = rest.substr(0, static_cast<unsigned char>(rest[0]) % 32U + 1U);
         rest.remove_prefix(chunk.size());

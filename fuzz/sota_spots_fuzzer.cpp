@@ -1,4 +1,4 @@
-// A body of the SOTA spot service, whatever it is.
+// Any body of the SOTA spot service.
 #include <cstdint>
 
 #include "feeds/feed_cells.h"

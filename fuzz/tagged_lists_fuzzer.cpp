@@ -1,4 +1,4 @@
-// A body of the NetLogger service, of the nets directory or of the list of stations, whatever it is.
+// Any body of the NetLogger service, of the nets directory or of the list of stations.
 #include <algorithm>
 #include <cstdint>
 

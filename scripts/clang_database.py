@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Writes a compile database for clang from one that g++ is used with: clang_database.py BUILD-FOLDER FOLDER.
+"""Writes a compile database for clang from that of a g++ build: clang_database.py BUILD-FOLDER FOLDER.
 
-The precompiled headers of g++ are nothing to clang. It makes its own here, one for a target, in half the time that
-reading the headers anew for every source takes.
+clang cannot use the precompiled headers of g++. It makes its own, one per target: that takes half the time of parsing
+the headers for every source.
 """
 
 import concurrent.futures
@@ -17,7 +17,7 @@ HEADER = re.compile(r" -Winvalid-pch -include (\S+/cmake_pch\.hxx)")
 
 
 def without_output(command):
-    """The command's options: without the compiler, the source and the object."""
+    """The command's options, without the compiler, the source and the object."""
     words = shlex.split(command)[1:]
     return words[: words.index("-o")]
 

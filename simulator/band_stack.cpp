@@ -22,7 +22,7 @@ constexpr std::array<Band, BandStack::bandCount> bands{{
     {24'890'000, 24'990'000, {24'940'000, '2'}},
     {28'000'000, 29'700'000, {28'400'000, '2'}},
     {50'000'000, 54'000'000, {50'150'000, '2'}},
-    {lowestFrequency, highestFrequency, {9'650'000, '5'}},  // takes what the bands before it leave
+    {lowestFrequency, highestFrequency, {9'650'000, '5'}},  // every frequency outside the bands above
 }};
 
 }  // namespace

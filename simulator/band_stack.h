@@ -7,15 +7,15 @@
 
 namespace simulator {
 
-// What each band key remembers. Bands are numbered as in "BS05;": 0 is 1.8 MHz, 5 is 14 MHz, 10 is 50 MHz and 11
-// general coverage, to which every frequency outside the others belongs.
+// The tuning that each band key remembers. Bands are numbered as in "BS05;": 0 is 1.8 MHz, 5 is 14 MHz, 10 is 50 MHz
+// and 11 is general coverage, all frequencies outside the other bands.
 class BandStack {
 public:
     static constexpr int bandCount = 12;
 
     BandStack();
 
-    // Notes where the operator is now, in the band that holds the frequency.
+    // Remembers the tuning in the band that holds its frequency.
     void remember(Tuning tuning);
 
     // The last tuning of a band; nothing for a number outside 0 to 11.

@@ -7,8 +7,7 @@
 namespace simulator {
 
 // Puts commands together from bytes that arrive in pieces: "FA0142" and "50000;MD" give "FA014250000" and leave "MD"
-// waiting. A command longer than any the transceiver knows is cut to 256 bytes, so that noise without a ";" takes no
-// more memory than that.
+// waiting. At most 256 bytes of a command are kept, so that noise without a ";" does not fill the memory.
 class CommandAssembler {
 public:
     static constexpr std::size_t longestCommand = 256;

@@ -194,14 +194,14 @@ struct TypedCommand {
     std::string (*execute)(Console& console, const Words& words);
 };
 
-/// Takes the rest of the line as its one argument, blanks and all.
+/// Its only argument is the rest of the line, with its blanks.
 constexpr std::size_t restOfLine = 1'000;
 
 constexpr std::array typedCommands{
     TypedCommand{"tune", "HERTZ", 1, 1, "tune the VFO in use", tune},
     TypedCommand{"step", "+HERTZ|-HERTZ", 1, 1, "tune it up or down", step},
     TypedCommand{"mode", "NAME", 1, 1, "choose a mode, such as USB or CW-U", mode},
-    TypedCommand{"signal", "LEVEL [HERTZ]", 1, 2, "make a signal heard, 0 to 255, beside the dial", signal},
+    TypedCommand{"signal", "LEVEL [HERTZ]", 1, 2, "put a signal on the air, 0 to 255, HERTZ off the dial", signal},
     TypedCommand{"spin", "SECONDS", 1, 1, "spin the knob: 110 reports a second", spin},
     TypedCommand{"gain", "LEVEL", 1, 1, "turn the AF gain, 0 to 255", gain},
     TypedCommand{"watts", "WATTS", 1, 1, "turn the power, 5 to 100", watts},
@@ -213,13 +213,13 @@ constexpr std::array typedCommands{
     TypedCommand{"cut", "on|off", 1, 1, "answers come in two pieces", switchFault<&Faults::cutAnswers>},
     TypedCommand{"noise", "on|off", 1, 1, "random bytes between the answers", switchFault<&Faults::noise>},
     TypedCommand{"late", "on|off", 1, 1, "answers come a second late", switchFault<&Faults::lateAnswers>},
-    TypedCommand{"unplug", "", 0, 0, "pull the plug: the port goes", plug<false>},
+    TypedCommand{"unplug", "", 0, 0, "pull the plug: the port disappears", plug<false>},
     TypedCommand{"plug", "", 0, 0, "plug it in again", plug<true>},
     TypedCommand{"state", "", 0, 0, "frequencies, modes and settings", state},
-    TypedCommand{"received", "", 0, 0, "what came in: seconds, command, counts", received},
-    TypedCommand{"clear", "", 0, 0, "forget what came in", clear},
+    TypedCommand{"received", "", 0, 0, "received commands: seconds, command, counts", received},
+    TypedCommand{"clear", "", 0, 0, "forget the received commands", clear},
     TypedCommand{"on-air", "", 0, 0, "the texts that were transmitted", onAir},
-    TypedCommand{"raw", "TEXT", 1, restOfLine, "send a text on the line as it is", raw},
+    TypedCommand{"raw", "TEXT", 1, restOfLine, "send a text unchanged on the line", raw},
     TypedCommand{"help", "", 0, 0, "this list", help},
     TypedCommand{"quit", "", 0, 0, "end", quit},
 };
@@ -228,7 +228,7 @@ std::string usage(const TypedCommand& command) {
     return std::string(command.name) + (command.arguments.empty() ? "" : " ") + std::string(command.arguments);
 }
 
-/// The line's text after its first word.
+/// The line after its first word.
 std::string afterFirstWord(std::string_view line) {
     line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
     line.remove_prefix(std::min(line.find_first_of(" \t"), line.size()));

@@ -8,13 +8,13 @@
 
 namespace simulator {
 
-// The typed commands that work a transceiver's knobs: "tune 14074000", "memory 5 7074000 USB \"FT8\"", "unplug".
+// The typed commands that operate a transceiver's knobs: "tune 14074000", "memory 5 7074000 USB \"FT8\"", "unplug".
 class Console {
 public:
     explicit Console(SimulatedTransceiver& transceiver) : transceiver_(transceiver) {}
 
-    // Carries out one line and returns what there is to say, "\n" at its end. Nothing is said to an empty line; one
-    // that is not understood, or that the transceiver refuses, is told what is wrong.
+    // Carries out one line and returns the text to print, with "\n" at its end; an empty text for an empty line. If the
+    // line is not understood or the transceiver refuses it, the text says why.
     std::string execute(std::string_view line);
 
     // True once "quit" was typed.
@@ -31,7 +31,7 @@ private:
     bool finished_ = false;
 };
 
-// The words of a line, separated by blanks. Double quotes hold a word with blanks together and may hold nothing: the
+// The words of a line, separated by blanks. Double quotes enclose a word with blanks, or an empty one: the
 // line `memory 5 7074000 USB "40 M"` has the words memory, 5, 7074000, USB and 40 M.
 std::vector<std::string> wordsOf(std::string_view line);
 

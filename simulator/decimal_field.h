@@ -8,7 +8,7 @@ namespace simulator {
 
 // The fixed-width fields of a command. "014250000" with width 9 is 14250000, "+00120" with width 6 and a sign is 120.
 
-// Exactly `width` digits, at most 9; nothing for any other text.
+// The number of exactly `width` digits, at most 9; nothing for any other text.
 std::optional<int> parseDecimal(std::string_view text, int width);
 
 // A sign and `width` - 1 digits.

@@ -30,7 +30,7 @@ std::optional<Time> KnobSpin::nextReport() const {
 }
 
 KnobSpin::Report KnobSpin::take() {
-    // Each kind earns its share and the richest one pays for the report: all kinds stay evenly mixed.
+    // Each kind earns its share; the kind with the most credit pays for the report. So all kinds are mixed evenly.
     for (std::size_t kind = 0; kind < shares.size(); ++kind) credit_[kind] += shares[kind];
     const auto richest = std::ranges::max_element(credit_);
     *richest -= reportsPerCycle;

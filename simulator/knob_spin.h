@@ -19,7 +19,7 @@ public:
     // When the next report goes out; nothing when the knob stands still.
     std::optional<Time> nextReport() const;
 
-    // What that report is; moves on to the one after it.
+    // The kind of that report; goes on to the next one.
     Report take();
 
 private:

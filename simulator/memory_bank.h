@@ -28,11 +28,11 @@ public:
     // The channel, or null when it is empty or does not exist.
     const MemoryChannel* find(int channel) const;
 
-    // Writes frequency and mode and keeps the tag. Refused outside 1 to 99, for a frequency that the transceiver does
-    // not cover and for an unknown mode.
+    // Writes frequency and mode; the tag stays. Refused outside 1 to 99, for a frequency that the transceiver does not
+    // cover and for an unknown mode.
     bool write(int channel, Tuning tuning);
 
-    // Gives a written channel its tag, cut to 12 characters, blanks at the end dropped. Refused for an empty channel.
+    // Sets a written channel's tag: cut to 12 characters, without blanks at the end. Refused for an empty channel.
     bool writeTag(int channel, std::string_view tag, bool shown = true);
 
     // Empties a channel, which may be empty already. Refused outside 1 to 99.

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t channelWidth = 3;
 constexpr std::size_t frequencyWidth = 9;
-constexpr std::size_t clarifierWidth = 7;  // with the two switches after it
+constexpr std::size_t clarifierWidth = 7;  // including the two switches after it
 constexpr std::size_t modePosition = channelWidth + frequencyWidth + clarifierWidth;
 constexpr std::size_t recordWidth = modePosition + 6;
 
@@ -62,7 +62,7 @@ Reply tag(RadioState& state, std::string_view parameters) {
 Reply writeChannel(RadioState& state, std::string_view parameters) {
     const auto number = parseDecimal(parameters.substr(0, channelWidth), channelWidth);
     if (!number || *number < 1 || *number > MemoryBank::lastChannel) return rejected();
-    // A channel alone carries nothing to write: it is taken without complaint and leaves the channel as it is.
+    // A command with nothing but a channel number is accepted and writes nothing.
     if (parameters.size() == channelWidth) return {};
     if (parameters.size() < recordWidth) return rejected();
     const auto frequency = parseDecimal(parameters.substr(channelWidth, frequencyWidth), frequencyWidth);

@@ -11,7 +11,7 @@ constexpr auto menuText = MenuForm::text;
 constexpr auto menuNumber = MenuForm::number;
 constexpr auto menuSigned = MenuForm::signedNumber;
 
-// number, form, width, lowest, highest, step, at the start. A choice from a list is its index.
+// number, form, width, lowest, highest, step, value at the start. A choice from a list is its index.
 // clang-format off
 constexpr std::array rows{
     MenuRow{"010101", menuSigned, 3, -20, 10, 1, 0},

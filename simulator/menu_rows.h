@@ -9,7 +9,7 @@ enum class MenuForm { number, signedNumber, text };
 
 // One item of the setup menu. `width` is the exact number of characters of its value on the line: item 010104 with
 // width 4 is answered "EX0101040300;", item 010101 with width 3 and a sign "EX010101+00;", the text item 040101 with
-// width 12 "EX040101N0CALL      ;". Lowest, highest and step are of no meaning for a text.
+// width 12 "EX040101N0CALL      ;". A text has no lowest, highest and step.
 struct MenuRow {
     std::string_view number;
     MenuForm form;

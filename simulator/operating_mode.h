@@ -5,8 +5,8 @@
 
 namespace simulator {
 
-// An operating mode: its code on the line ("MD02;" is code 2), its name, and what the automatic AGC makes of it: the
-// digit that "GT0;" is answered with (4 fast, 5 mid, 6 slow).
+// An operating mode: its code on the line ("MD02;" is code 2), its name, and the speed that the automatic AGC chooses
+// in it, as the digit answered to "GT0;" (4 fast, 5 mid, 6 slow).
 struct OperatingMode {
     char code;
     std::string_view name;
@@ -28,7 +28,7 @@ constexpr const OperatingMode* modeOfCode(char code) {
     return nullptr;
 }
 
-// The mode of a name, exactly as written in the table, or null.
+// The mode with exactly this name, or null.
 constexpr const OperatingMode* modeOfName(std::string_view name) {
     for (const OperatingMode& mode : operatingModes)
         if (mode.name == name) return &mode;

@@ -8,11 +8,11 @@
 
 namespace simulator {
 
-// A setting of the front panel that is nothing but a value: its command, how its value is written, what it may be.
+// A setting of the front panel that is just a value: its command, the form of its value, and the values allowed.
 //
 // number: `width` digits from `lowest` to `highest`, "AG0128;". code: one character of `codes`, "SF0D;". decibels:
 // "+10.5", from -30.0 to +30.0 by half a decibel, "SS04+10.5;". `suffix` follows the value in answers, "SS0570000;";
-// a set command may leave it out or write one zero more.
+// a set command may leave it out or add one zero.
 struct PanelRow {
     enum class Form { number, code, decibels };
 
@@ -26,10 +26,10 @@ struct PanelRow {
     std::string_view initial;
 };
 
-// All rows, no command of which is the beginning of another's.
+// All rows. No command is a prefix of another.
 std::span<const PanelRow> panelRows();
 
-// The values of these settings as they stand on the line.
+// The values of these settings as sent on the line.
 class PanelSettings {
 public:
     PanelSettings();
@@ -40,7 +40,7 @@ public:
     // "AG0128" for the row of AG0: the answer without its ";".
     std::string reading(std::size_t row) const;
 
-    // Stores a value as it stands after the command's name; refused unless the row allows it.
+    // Stores the value that follows the command's name; refused unless the row allows it.
     bool store(std::size_t row, std::string_view value);
 
 private:

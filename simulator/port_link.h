@@ -4,11 +4,11 @@
 
 namespace simulator {
 
-// A symbolic link of a fixed name to a pseudo-terminal, whose own name changes. Removed when it is destroyed, if it is
-// still the one that was made.
+// A symbolic link with a fixed name to a pseudo-terminal, whose own name changes. The destructor removes the link
+// unless it has been replaced.
 class PortLink {
 public:
-    // Replaces a symbolic link that stands there; throws std::filesystem::filesystem_error for anything else.
+    // Replaces an existing symbolic link; throws std::filesystem::filesystem_error for anything else.
     PortLink(std::filesystem::path link, std::filesystem::path target);
     ~PortLink();
     PortLink(const PortLink&) = delete;

@@ -11,7 +11,7 @@ struct ProgramOptions {
     bool instant = false;
     bool silent = false;
     bool help = false;
-    std::string fault = {};  ///< what is wrong with the command line, or empty
+    std::string fault = {};  ///< the error in the command line, or empty
 
     bool operator==(const ProgramOptions&) const = default;
 };

@@ -5,8 +5,8 @@
 
 namespace simulator {
 
-// A pseudo-terminal in raw mode, whose path another program opens like a serial port. Both ends are closed when it is
-// destroyed, which the other program sees as a port that was pulled out.
+// A pseudo-terminal in raw mode, whose path another program opens like a serial port. The destructor closes both ends;
+// the other program sees that as an unplugged port.
 class PseudoTerminal {
 public:
     // Throws std::system_error when the system gives none.
@@ -16,12 +16,12 @@ public:
     PseudoTerminal& operator=(const PseudoTerminal&) = delete;
 
     const std::string& path() const { return path_; }
-    // For poll(); readable when bytes have come in.
+    // For poll(): readable when bytes have arrived.
     int descriptor() const { return master_; }
 
-    // What has come in, empty when nothing has.
+    // The bytes that have arrived; may be empty. Does not wait.
     std::string read();
-    // Writes without waiting; what does not fit because nobody reads is lost, as on a line.
+    // Writes without waiting. Bytes that do not fit because nothing reads them are lost, as on a line.
     void write(std::string_view bytes);
 
 private:

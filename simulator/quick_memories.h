@@ -7,8 +7,8 @@
 
 namespace simulator {
 
-// The quick memories: the newest five or ten tunings that the operator put away. Recalling walks from the newest to
-// the oldest and starts again; putting one away makes it the next to be recalled.
+// The quick memories: the five or ten tunings that the operator stored last. Recalling goes from the newest to the
+// oldest and then starts again; a tuning just stored is recalled next.
 class QuickMemories {
 public:
     void put(Tuning tuning, std::size_t capacity) {

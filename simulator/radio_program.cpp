@@ -45,7 +45,7 @@ std::optional<timespec> RadioProgram::timeToNextEvent() const {
 }
 
 void RadioProgram::waitAndServe() {
-    // ppoll() passes over negative descriptors: a port that is unplugged, an input that has ended.
+    // ppoll() skips negative descriptors: an unplugged port, an input that has ended.
     std::array<pollfd, 3> watched{pollfd{stopSignals_.descriptor(), POLLIN, 0},
                                   pollfd{inputEnded_ ? -1 : STDIN_FILENO, POLLIN, 0},
                                   pollfd{terminal_ ? terminal_->descriptor() : -1, POLLIN, 0}};

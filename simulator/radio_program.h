@@ -22,8 +22,8 @@ class RadioProgram {
 public:
     explicit RadioProgram(const ProgramOptions& options);
 
-    // Runs until "quit", the end of a terminal's input or a signal. The end of input that is no terminal only ends the
-    // typed commands. Throws std::system_error when the system gives no port or the link cannot be made.
+    // Runs until "quit", a signal or, if standard input is a terminal, the end of input; another input may end before.
+    // Throws std::system_error when the system gives no port or the link cannot be made.
     void run();
 
 private:

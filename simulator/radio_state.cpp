@@ -15,7 +15,7 @@ constexpr std::size_t manyQuickMemories = 10;
 
 char letter(Side side) { return side == Side::a ? 'A' : 'B'; }
 
-/// From the channel to the shift: the part that IF, OI and MR share. No clarifier, no tone and no shift is ever set.
+/// From the channel to the shift: the part that IF, OI and MR share. Clarifier, tone and shift are never set.
 std::string record(int channel, Tuning tuning, bool isMemory) {
     return decimalField(channel, 3) + decimalField(tuning.frequency, 9) + "+000000" + tuning.mode +
            (isMemory ? '1' : '0') + "0000";
@@ -80,7 +80,7 @@ bool RadioState::recallQuickMemory() {
 
 bool RadioState::zeroIn() {
     const Tuning now = activeTuning();
-    if (!isCw(now.mode) || signalLevel == 0) return true;  // there is nothing to zero in on
+    if (!isCw(now.mode) || signalLevel == 0) return true;  // nothing to zero in on
     if (!tune(active, {now.frequency + signalOffset, now.mode})) return false;
     signalOffset = 0;
     return true;
@@ -122,7 +122,7 @@ std::string agcReading(const RadioState& state) {
 }
 
 std::string roofingFilterReading(const RadioState& state) {
-    // Read, the filters have codes of their own: 6, 7, 9 and A for those that are set by 1, 2, 4 and 5.
+    // Answers use other codes than set commands: 6, 7, 9 and A for the filters set by 1, 2, 4 and 5.
     static constexpr std::string_view set = "1245";
     static constexpr std::string_view read = "679A";
     return std::string("RF0") + read[set.find(state.roofingFilter)];

@@ -16,8 +16,8 @@ namespace simulator {
 
 enum class Side { a, b };
 
-// One of the two sides. On a memory channel it works with a copy of the channel, which can be tuned without changing
-// the channel; its VFO waits underneath.
+// One of the two sides. On a memory channel it uses a copy, so that tuning does not change the channel; its VFO keeps
+// its own tuning.
 struct VfoSide {
     Tuning vfo;
     int channel = 1;
@@ -26,15 +26,15 @@ struct VfoSide {
     const Tuning& tuning() const { return recalled ? *recalled : vfo; }
 };
 
-// Everything that the transceiver is set to. The operations are what its keys do; each returns false, and changes
-// nothing, where the transceiver would refuse.
+// All settings of the transceiver. Each operation does what a key does; it returns false and changes nothing if the
+// transceiver would refuse.
 struct RadioState {
     bool powered = true;
-    bool awake = false;  ///< while switched off: the link has been woken by a first "PS1;"
+    bool awake = false;  ///< while switched off: a first "PS1;" has woken the link
     bool autoInformation = false;
     bool transmitting = false;
-    int signalLevel = 0;   ///< 0 to 255, what the antenna gives
-    int signalOffset = 0;  ///< hertz by which the signal stands beside the dial
+    int signalLevel = 0;   ///< 0 to 255, from the antenna
+    int signalOffset = 0;  ///< hertz from the dial frequency to the signal
     char agc = '4';        ///< as set: 0 off, 1 fast, 2 mid, 3 slow, 4 automatic
     char roofingFilter = '2';
     bool tunerOn = false;
@@ -65,7 +65,7 @@ struct RadioState {
     int meter() const { return transmitting ? 0 : signalLevel; }
 };
 
-// The answer's text of a reading, without ";": "FA014250000".
+// The answers to read commands, without ";": "FA014250000".
 std::string frequencyReading(const RadioState& state, Side side);
 
 // "IF000014250000+000000200000" for side A and "OI..." for side B: channel, frequency, clarifier, mode, kind.

@@ -10,7 +10,7 @@
 
 namespace simulator {
 
-// A command as it came in, with its ";", and when.
+// A received command with its ";", and its time.
 struct ReceivedCommand {
     Time at;
     std::string text;
@@ -18,7 +18,7 @@ struct ReceivedCommand {
     bool operator==(const ReceivedCommand&) const = default;
 };
 
-// What the transceiver received: the last 10,000 commands, and counts since the last clear().
+// The commands that the transceiver received: the last 10,000, and counts since the last clear().
 class ReceivedLog {
 public:
     static constexpr std::size_t capacity = 10'000;
@@ -29,10 +29,10 @@ public:
     const std::deque<ReceivedCommand>& commands() const { return commands_; }
     std::size_t total() const { return total_; }
 
-    // How often a command of this two-letter name came, as a read or to set: "FA".
+    // How many read and set commands of this two-letter name have come: "FA".
     std::size_t count(std::string_view name) const;
 
-    // Counts by two-letter name; what has no such name is counted under "?".
+    // Counts by two-letter name; anything else is counted under "?".
     const std::map<std::string, std::size_t, std::less<>>& counts() const { return counts_; }
 
 private:

@@ -31,8 +31,8 @@ Reports::Reports(const RadioState& state) : known_(readings(state)) {}
 std::vector<std::string> Reports::takeChanges(const RadioState& state) {
     auto current = readings(state);
     std::vector<std::string> changes;
-    // Every text begins with its own name, so that one known from anywhere in the list is unchanged; the first, the
-    // record of the idle side, is only remembered.
+    // Every text begins with its name, so a text that is found anywhere in the old list is unchanged. The first one,
+    // the record of the idle side, is only remembered.
     for (auto reading = current.begin() + 1; reading != current.end(); ++reading)
         if (std::ranges::find(known_, *reading) == known_.end()) changes.push_back(*reading);
     known_ = std::move(current);

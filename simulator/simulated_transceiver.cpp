@@ -28,7 +28,7 @@ std::string_view withoutTerminator(std::string_view command) {
 
 }  // namespace
 
-/// Marks that the transceiver is at work, so that what a caller does from within `transmit` waits for its turn.
+/// Marks the transceiver as busy, so that calls from within `transmit` wait for their turn.
 class SimulatedTransceiver::Turn {
 public:
     explicit Turn(SimulatedTransceiver& transceiver) : transceiver_(transceiver) { transceiver_.busy_ = true; }
@@ -184,7 +184,7 @@ void SimulatedTransceiver::spinOn() {
             text = "FD000000000412";  // hertz a second
             break;
     }
-    reports_.takeChanges(state_);  // what has moved is told by the spin's own reports
+    reports_.takeChanges(state_);  // the spin sends its own reports instead
     if (state_.autoInformation) report(text, now_);
 }
 
@@ -232,7 +232,7 @@ bool SimulatedTransceiver::tune(int hertz) {
 }
 
 bool SimulatedTransceiver::tuneBy(int hertz) {
-    // Checked first, as the sum of any two numbers may not be one.
+    // Checked first: the sum of two large numbers would overflow.
     if (hertz < -highestFrequency || hertz > highestFrequency) return false;
     return tune(state_.activeTuning().frequency + hertz);
 }

@@ -18,8 +18,8 @@
 
 namespace simulator {
 
-// What is wrong with the link. Silent: neither answers nor reports. Cut: each in two pieces. Late: each a second late.
-// Noise: bursts of random bytes, never a ";", between what is sent. Unplugged: nothing goes either way.
+// Faults of the link. Silent: no answers and no reports. Cut: each in two pieces. Late: each a second late. Noise:
+// bursts of random bytes, never a ";", between messages. Unplugged: no bytes in either direction.
 struct Faults {
     bool silent = false;
     bool cutAnswers = false;
@@ -30,9 +30,9 @@ struct Faults {
     bool operator==(const Faults&) const = default;
 };
 
-// A transceiver on the other end of a serial line. Commands go in by receive(), answers and reports come out by
-// `transmit`. It has no clock of its own: times count from its start, never run back, and come in with receive() and
-// advanceTo(); whoever runs it calls advanceTo() at nextEvent(). Anything may be called from within `transmit`.
+// A transceiver on the other end of a serial line. Commands go in through receive(), answers and reports come out
+// through `transmit`. It has no clock: the owner passes the time, counted from the start, to receive() and advanceTo(),
+// and calls advanceTo() at nextEvent(). Times never go back. Anything may be called from within `transmit`.
 class SimulatedTransceiver {
 public:
     explicit SimulatedTransceiver(RadioState state);
@@ -43,7 +43,7 @@ public:
 
     // Takes bytes from the line, cut anywhere.
     void receive(std::string_view bytes, Time now);
-    // When advanceTo() has something to do; nothing while the transceiver only waits.
+    // The next time at which advanceTo() has something to do; nothing while the transceiver only waits for commands.
     std::optional<Time> nextEvent() const;
     void advanceTo(Time now);
 
@@ -53,34 +53,34 @@ public:
     const Faults& faults() const { return faults_; }
     void setFaults(const Faults& faults);
     void loseNextAnswer() { loseNextAnswer_ = true; }
-    // The series of random bytes that noise takes.
+    // The seed of the random bytes of noise.
     void seedNoise(unsigned seed) { random_.seed(seed); }
-    // Puts bytes on the line as they are.
+    // Sends bytes unchanged.
     void sendRaw(std::string_view bytes);
 
-    // A hand on the front panel, at the time last told. Changes are reported while auto information is on. What returns
-    // false was refused, as a switched-off transceiver refuses everything but its power key.
+    // The operator at the front panel, at the time last passed. Changes are reported while auto information is on.
+    // False means refused: a switched-off transceiver refuses everything but its power key.
     bool tune(int hertz);
     bool tuneBy(int hertz);
     bool setMode(char code);
     bool setPower(int watts);
     bool setAfGain(int gain);
-    // One or more commands, "NB01;PA02;", carried out as if by its own keys: not logged and not answered.
+    // Carries out one or more commands, "NB01;PA02;", as if by its own keys: not logged and not answered.
     bool operate(std::string_view commands);
-    // Makes a signal heard, level 0 to 255 (others are cut to that), so many hertz beside the dial.
+    // Puts a signal on the air: level clamped to 0 to 255, `offset` in hertz from the dial frequency.
     void hear(int level, int offset = 0);
     bool spin(Time duration);
     bool programChannel(int number, const MemoryChannel& channel);
     bool clearChannel(int number);
     void setPowered(bool powered);
 
-    // What a read would be answered: "AG0;" gives "AG0080;"; "?;" for what it does not know.
+    // The answer to a read command: "AG0;" gives "AG0080;"; an unknown command gives "?;".
     std::string ask(std::string_view command) const;
 
     const RadioState& state() const { return state_; }
     const ReceivedLog& received() const { return received_; }
     void clearReceived() { received_.clear(); }
-    // The texts that went over the air, oldest first, the last 1,000. One is listed when its sending begins.
+    // The last 1,000 texts sent over the air, oldest first. A text is listed when its sending begins.
     const std::deque<std::string>& textsOnAir() const { return textsOnAir_; }
 
 private:

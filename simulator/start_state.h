@@ -4,7 +4,7 @@
 
 namespace simulator {
 
-// The transceiver as it stands on the desk: VFO A on 14.250 MHz in USB, VFO B on 7.074 MHz, a dozen memory channels
+// The transceiver at the start: VFO A on 14.250 MHz in USB, VFO B on 7.074 MHz, a dozen memory channels
 // with tags, and texts of the station N0CALL in the text memories.
 RadioState startState();
 

@@ -121,7 +121,7 @@ Reply switchOff(RadioState& state) {
 
 Reply switchOn(RadioState& state) {
     if (!state.powered && !state.awake) {
-        state.awake = true;  // the first one only wakes the link
+        state.awake = true;  // the first "PS1;" only wakes the link
         return {};
     }
     state.powered = true;

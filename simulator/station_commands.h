@@ -6,7 +6,7 @@
 
 namespace simulator {
 
-// The commands of texts, menu, tuner, meter, power and reports.
+// The commands of texts, setup menu, tuner, meter, power and reports.
 std::span<const CommandRow> stationCommands();
 
 }  // namespace simulator

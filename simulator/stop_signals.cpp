@@ -33,7 +33,7 @@ StopSignals::StopSignals() {
     writeEnd_ = ends[1];
     wakeDescriptor = writeEnd_;
     for (const int number : caught) std::signal(number, wake);
-    std::signal(SIGPIPE, SIG_IGN);  // nobody reading what we print is no reason to leave the link behind
+    std::signal(SIGPIPE, SIG_IGN);  // a closed output must not end us before the link is removed
 }
 
 StopSignals::~StopSignals() {

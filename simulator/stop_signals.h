@@ -2,8 +2,8 @@
 
 namespace simulator {
 
-// Turns SIGINT, SIGTERM and SIGHUP into something that poll() sees, so that the program can clean up before it ends.
-// One at a time.
+// Makes SIGINT, SIGTERM and SIGHUP visible to poll(), so that the program can clean up before it ends. At most one
+// object may exist.
 class StopSignals {
 public:
     // Throws std::system_error when the system gives no pipe.

@@ -8,8 +8,8 @@ namespace simulator {
 
 enum class TextFamily { cw, rtty, psk };
 
-// The messages that the transceiver can send by itself: five each for CW ("KM1" to "KM5"), RTTY ("EM01" to "EM05") and
-// PSK ("EM11" to "EM15"), up to 50 printable characters long.
+// The texts that the transceiver can send from its memories: five each for CW ("KM1" to "KM5"), RTTY ("EM01" to "EM05")
+// and PSK ("EM11" to "EM15"), up to 50 printable characters long.
 class TextMemories {
 public:
     static constexpr int perFamily = 5;

@@ -5,10 +5,10 @@
 
 namespace simulator {
 
-// A time on the simulator's clock, since its start, or a span of it.
+// A time since the simulator's start, or a duration.
 using Time = std::chrono::microseconds;
 
-// What the transceiver sends over the air by itself: a text, or nothing while its tuner works.
+// What the transceiver sends over the air: a text, or an empty one while its tuner works.
 struct Transmission {
     std::string text;
     Time duration{};

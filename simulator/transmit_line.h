@@ -9,24 +9,24 @@
 
 namespace simulator {
 
-// The way out at 38400 baud: when each message has gone over the line. Messages never overtake one another. At most
-// 4,000 wait; what comes while the line is that far behind is lost, as in a transceiver whose buffer is full.
+// The outgoing line at 38400 baud: when each message arrives. Messages never overtake one another. At most 4,000 wait;
+// further ones are lost, as in a transceiver whose buffer is full.
 class TransmitLine {
 public:
-    // Everything at once, without waiting for the line. Late answers stay late.
+    // Sends everything at once, without waiting for the line. Late answers stay late.
     void setInstant(bool instant) { instant_ = instant; }
-    // Every message one second after its time.
+    // Delays every message by one second.
     void setLate(bool late) { late_ = late; }
-    // Every message of two characters or more in two pieces, 5 ms apart, cut at a place that varies.
+    // Sends every message of two characters or more in two pieces, 5 ms apart, cut at a random place.
     void setCut(bool cut) { cut_ = cut; }
 
-    // Puts a message on the line that is ready to go at `ready`; it has arrived when it is ready and the line has
-    // carried it, 3840 characters a second, after the ones before it.
+    // Queues a message that can be sent from `ready` on. It arrives once the line has carried it, after the messages
+    // before it, at 3840 characters a second.
     void queue(std::string message, Time now, Time ready);
 
     std::optional<Time> nextDue() const;
 
-    // The next piece that has arrived by `now`, in order, or nothing.
+    // The next piece, in order, if it has arrived by `now`.
     std::optional<std::string> takeDue(Time now);
 
     void clear() { waiting_.clear(); }

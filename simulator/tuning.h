@@ -7,7 +7,7 @@ inline constexpr int highestFrequency = 75'000'000;
 
 constexpr bool isInRange(int frequency) { return frequency >= lowestFrequency && frequency <= highestFrequency; }
 
-// What one can be tuned to: a frequency in hertz and the code of an operating mode.
+// A frequency in hertz and the code of an operating mode.
 struct Tuning {
     int frequency = lowestFrequency;
     char mode = '2';

@@ -24,14 +24,14 @@ int main(int argc, char** argv) {
     corvane::MainWindow window(controller);
     corvane::reportStart(window);
     corvane::AppDelegate(controller.display).applicationDidFinishLaunching();
-    // The list of ports and the icon cost some 20 ms that the first paint need not wait for.
+    // The list of ports and the icon take about 20 ms; the first paint must not wait for them.
     QObject::connect(&window, &corvane::MainWindow::firstPainted, &window, [&window, &controller] {
         controller.awakeFromNib();
         window.setWindowIcon(QIcon::fromTheme("corvane", QIcon(":/icons/corvane.svg")));
     });
     window.show();
     const int result = QApplication::exec();
-    // The transceiver must not go on reporting to nobody.
+    // Otherwise the transceiver would keep sending reports.
     if (controller.link.isOpen()) controller.display.openCloseButton.performClick();
     return result;
 }

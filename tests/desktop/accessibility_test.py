@@ -18,12 +18,12 @@ PATIENCE = 30  # seconds; the synchronisation alone takes nine
 
 
 def until(what, condition, patience=PATIENCE):
-    """Runs the condition until it gives something, and gives that."""
+    """Runs the condition until its result is true, and returns it."""
     end = time.monotonic() + patience
     while time.monotonic() < end:
         try:
             found = condition()
-        except GLib.GError:  # the program is busy, or the object has gone meanwhile
+        except GLib.GError:  # the program is busy, or the object no longer exists
             found = None
         if found:
             return found
@@ -60,7 +60,7 @@ def control(root, name, roles=(Atspi.Role.PUSH_BUTTON, Atspi.Role.CHECK_BOX, Ats
 
 
 def labelled(root, label, role):
-    """What the label stands in front of: the name of a combo box is its value, and a reader takes the label."""
+    """The control that a label is for: the name of a combo box is its value, and a screen reader uses the label."""
     return find(
         root,
         lambda each: each.get_role() == role
@@ -73,7 +73,7 @@ def labelled(root, label, role):
 
 
 def action_name(button, index):
-    with warnings.catch_warnings():  # the name that replaces it hides behind the accessible's own get_name
+    with warnings.catch_warnings():  # its replacement is hidden by Accessible.get_name
         warnings.simplefilter("ignore", DeprecationWarning)
         return button.get_action_name(index)
 
@@ -109,7 +109,7 @@ def showing(root, name, role):
 def keys(*symbols):
     for symbol in symbols:
         Atspi.generate_keyboard_event(symbol, None, Atspi.KeySynthType.SYM)
-        time.sleep(0.1)  # the events carry no answer to wait for
+        time.sleep(0.1)  # there is no answer to wait for
 
 
 TAB, ENTER, HOME, END, DOWN = 0xFF09, 0xFF0D, 0xFF50, 0xFF57, 0xFF54
@@ -127,7 +127,7 @@ def current_name(accessible):
 
 
 def read_channels(root):
-    # A whole read is over sooner than a search through the window.
+    # A whole read takes less time than a search through the window.
     field = until(
         "how far the read is",
         lambda: find(

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Runs the accessibility test on a desktop of its own: screen, session bus, accessibility bus, settings.
+# Runs the accessibility test on its own desktop: screen, session bus, accessibility bus, settings.
 # Usage: run_accessibility_test.sh PATH-OF-CORVANE
 set -eu
 
@@ -8,7 +8,7 @@ here=$(dirname "$0")
 work=$(mktemp -d)
 started=""
 
-# Everything that was started here is ended by its process id, the last one first.
+# Ends every process started here by its id, the last one first.
 clean_up() {
     status=$?
     trap - EXIT
@@ -21,7 +21,7 @@ clean_up() {
 trap clean_up EXIT
 trap 'exit 1' INT TERM
 
-# Waits up to ten seconds for a file that has something in it.
+# Waits up to ten seconds for a file that is not empty.
 await() {
     tries=0
     until [ -s "$1" ]; do
@@ -34,7 +34,7 @@ await() {
 export XDG_CONFIG_HOME="$work/config" XDG_CACHE_HOME="$work/cache" XDG_DATA_HOME="$work/data"
 export XDG_RUNTIME_DIR="$work/run"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
-# Whatever hangs on this machine, the port to begin with is the simulated one.
+# The chosen port is the simulated one, whatever devices this machine has.
 mkdir -p "$XDG_CONFIG_HOME/corvane"
 printf '[General]\ndefaultPort=Simulated transceiver\n' >"$XDG_CONFIG_HOME/corvane/corvane.conf"
 # No sound server or speech service outside may answer.
@@ -47,7 +47,7 @@ await "$work/display" "screen"
 DISPLAY=":$(cat "$work/display")"
 export DISPLAY
 
-# The keyboard goes to the window that a window manager makes active.
+# Only a window manager gives the window the focus.
 openbox >"$work/openbox.log" 2>&1 &
 started="$! $started"
 

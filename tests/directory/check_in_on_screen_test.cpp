@@ -1,4 +1,4 @@
-// The real program against the real service: a check-in, seen in the window.
+// The real program with the real service: a check-in, seen in the window.
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModel>
@@ -26,7 +26,7 @@ protected:
     }
     QTableView& table() { return *window->findChild<QTableView*>("netsTable"); }
     QString text(int row, int column) { return table().model()->index(row, column).data().toString(); }
-    // Asks for the list again when a busy machine has let the refresh's time pass.
+    // Refreshes the list again if the refresh timed out on a busy machine.
     bool comesToShow(const std::function<bool()>& shown) {
         return eventually(
             [&] {
@@ -45,7 +45,7 @@ protected:
     static constexpr int confirmedColumn = 5;
     const directory::TestDatabase database{"SQLite"};
     std::optional<directory::RunningService> service;
-    ServiceHosts hosts = ServiceHosts::from("http://127.0.0.1:1");  // nobody there
+    ServiceHosts hosts = ServiceHosts::from("http://127.0.0.1:1");  // no server there
     Station station{5};                                             // 2 s pass in 400 ms
     std::optional<SerialPortDemoController> lists;
     std::optional<MainWindow> window;
@@ -53,7 +53,7 @@ protected:
 
 TEST_F(CheckInOnScreen, ConfirmAndRetractChangeTheRow) {
     ASSERT_TRUE(eventually([&] {
-        lists->display.listsTab.selectItem(netsPage);  // its tabs are made when they are first shown, with page 0
+        lists->display.listsTab.selectItem(netsPage);  // tabs are made when they are first shown, with page 0
         const auto* view = window->findChild<QTableView*>("netsTable");
         return view && view->isVisible();
     }));

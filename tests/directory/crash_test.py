@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Kills the directory service under load, again and again, and looks for every check-in it had acknowledged.
+"""Kills the directory service under load, again and again, and checks that every acknowledged check-in is stored.
 
 crash_test.py CORVANE-DIRECTORY [ROUNDS]
 """
@@ -19,7 +19,7 @@ CHECK_INS_A_ROUND = 400  # acknowledged ones, before the kill
 
 
 class Service:
-    """The service at a free port, until it is killed."""
+    """The service on a free port, until it is killed."""
 
     def __init__(self, program, database):
         self.process = subprocess.Popen(
@@ -35,7 +35,7 @@ class Service:
                 break
         if self.port is None:
             sys.exit("crash: FAILED: the service did not start")
-        # What it logs has to go somewhere, or it would wait for a reader.
+        # Its log needs a reader, or the service would wait for one.
         threading.Thread(target=lambda: [None for _ in self.process.stdout], daemon=True).start()
 
     def kill(self):
@@ -44,7 +44,7 @@ class Service:
 
 
 class Load:
-    """Operators who check in to nets, each with a key of its own, until the service is gone."""
+    """Operators who check in to nets, each with their own key, until the service is gone."""
 
     def __init__(self, port, nets):
         self.port = port

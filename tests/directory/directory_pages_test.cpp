@@ -1,4 +1,4 @@
-// What the service writes, as the program reads it.
+// The service's lists, read by the program's decoders.
 #include "directory_pages.h"
 
 #include <gmock/gmock.h>

@@ -15,7 +15,7 @@ using testing::Not;
 const std::vector<Net> twoNets{{"noon", "Noon Net", "3.940", "12:00", "daily", "LSB", ""},
                                {"tuesday", "Tuesday's", "7.2", "10:00", "Tue", "LSB", ""}};
 
-// The same on both kinds of database.
+// Each test runs on both kinds of database.
 class DirectoryServiceTest : public testing::TestWithParam<const char*> {
 protected:
     void SetUp() override {
@@ -85,7 +85,7 @@ TEST_P(DirectoryServiceTest, ConfirmsAndRetractsForOneSession) {
     EXPECT_EQ(rows("confirmations"), 2);
     running.now = running.now.load() + 10 * 24h;
     running.service->forgetOldSessions();
-    EXPECT_EQ(running.confirm(alice, "tuesday"), 200);  // and so what was asked before has been done
+    EXPECT_EQ(running.confirm(alice, "tuesday"), 200);  // so the request before has been carried out
     EXPECT_EQ(rows("confirmations"), 1);
 }
 

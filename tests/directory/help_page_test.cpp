@@ -1,4 +1,4 @@
-// The help page tells of what the window has.
+// The help page lists what the window has.
 #include <gtest/gtest.h>
 
 #include <fstream>

@@ -1,4 +1,4 @@
-// What no program of ours sends.
+// Requests that our program never sends.
 #include <gmock/gmock.h>
 
 #include <thread>
@@ -73,7 +73,7 @@ TEST_F(HostileRequests, TheLogHasNoKeysAndOneLineEach) {
     running.nets(alice);
     ask(running.port(), "GET", "/nets.php?key=" + alice.substr(1));
     ask(running.port(), "GET", "/x%0a%22forged%22%ff?" + alice);
-    Client(running.port()).send("GET /nets.php?key=" + alice + " HTTP/1.1\r\n");  // and has gone
+    Client(running.port()).send("GET /nets.php?key=" + alice + " HTTP/1.1\r\n");  // and disconnects
     const std::string log = running.logged();
     EXPECT_THAT(log, Not(HasSubstr(alice.substr(1))));
     std::istringstream lines(log);
@@ -94,7 +94,7 @@ TEST_F(HostileRequests, OneAddressMayAskOnlySoOften) {
     EXPECT_THAT(refused.head, HasSubstr("Retry-After: "));
 }
 
-// The last entry is the proxy's; those before it are whatever the client claims.
+// The last entry is the proxy's; the client can forge those before it.
 TEST_F(HostileRequests, BehindAProxyTheAddressIsTheOneItNames) {
     const RunningService running(database.location(), 1, true);
     const auto status = [&](const std::string& addresses) {
@@ -123,7 +123,7 @@ TEST(RateLimit, FillsUpAgainOverAMinuteForEachHousehold) {
 }
 
 // The others are served while many hold their connections and send nothing, or half a request.
-TEST_F(HostileRequests, SlowClientsHoldUpNobodyAndAreCutOff) {
+TEST_F(HostileRequests, SlowClientsDelayNoOthersAndAreCutOff) {
     RunningService running(database.location());
     std::vector<std::unique_ptr<Client>> slow;
     for (int i = 0; i < 60; ++i) {
@@ -146,7 +146,7 @@ TEST_F(HostileRequests, SlowClientsHoldUpNobodyAndAreCutOff) {
     watched.closeLate(start + 30s);
     EXPECT_EQ(recv(ends[1], &byte, 1, MSG_DONTWAIT), -1);
     watched.closeLate(start + 31s);
-    EXPECT_EQ(recv(ends[1], &byte, 1, MSG_DONTWAIT), 0);  // the end of the line
+    EXPECT_EQ(recv(ends[1], &byte, 1, MSG_DONTWAIT), 0);  // closed
     watched.closed(connection);
     for (const int end : ends) close(end);
     watched.closeLate(start + 99s);

@@ -49,7 +49,7 @@ TEST(NetSchedule, TheNextSessionIsTheOneThatIsOnOrTheFirstAfter) {
         {{0b1111111, 17h}, monday + 18h, monday + 41h},
         {{workdays, 1h}, monday - 2 * 24h, monday + 1h},
         {{0b0000010, 1h}, monday + 2h, monday + 7 * 24h + 1h},
-        // A session of yesterday is still on after midnight.
+        // Yesterday's session is still on after midnight.
         {{0b0000001, 23h + 30min}, monday + 15min, monday - 30min},
     };
     for (const auto& row : rows) EXPECT_EQ(nextSession(row.schedule, row.now), row.next) << (row.now - monday).count();

@@ -1,4 +1,4 @@
-// A service on a database of its own, at a free port, and a client that sends it bytes.
+// A service on its own database and a free port, and a client that sends it bytes.
 #pragma once
 
 #include <arpa/inet.h>
@@ -15,7 +15,7 @@
 
 namespace corvane::directory {
 
-// A database that goes with the test: a file, or a schema at the server that the environment names.
+// A database that is removed after the test: a file, or a schema on the server that the environment names.
 class TestDatabase {
 public:
     explicit TestDatabase(const std::string& kind) {
@@ -64,7 +64,7 @@ public:
 
     bool connected() const { return connected_; }
     void send(const std::string& bytes) const { ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL); }
-    // Everything until the server closes the connection.
+    // All bytes until the server closes the connection.
     std::string receive() const {
         std::string all;
         char piece[4096];
@@ -116,7 +116,7 @@ struct RunningService {
     }
 
     std::atomic<Seconds> now = Seconds(std::chrono::sys_days(std::chrono::year(2026) / 11 / 23));  // a Monday
-    // Stops it, and gives what it has logged.
+    // Stops it and returns its log.
     std::string logged() {
         service.reset();
         return lines.str();

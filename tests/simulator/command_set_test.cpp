@@ -7,7 +7,7 @@
 namespace simulator {
 namespace {
 
-/// Sets at the panel what is before the "|" and reads with the command behind it.
+/// Carries out the commands before the "|" at the panel, then the read command after it.
 struct Case {
     std::string_view commands;
     std::string_view read;
@@ -134,7 +134,7 @@ TEST(CommandSet, WhatItCannotDoIsRejectedAndChangesNothing) {
     EXPECT_EQ(before, radio.ask("IF;") + radio.ask("OI;") + radio.ask("AG0;") + radio.ask("SS03;"));
 }
 
-/// What a program on the other end says in a day: none of it may meet a "?;".
+/// The commands of everyday use: none may be answered "?;".
 TEST(CommandSet, NothingInEverydayUseIsRejected) {
     constexpr std::string_view everyday =
         "PS;AI1;AI;AG0;VS1;VS0;IF;OI;VS;SV;MD0;NB0;NR0;PC;FA;FB;VS0;BC0;BI;PA0;BP00;CO00;GT0;RA0;RF0;SF0;SF1;SS00;SS01;"

@@ -36,7 +36,7 @@ TEST(PseudoTerminal, CarriesBytesUnchangedBothWaysAndHangsUpWhenItGoes) {
         std::string back(64, '\0');
         back.resize(static_cast<std::size_t>(read(other, back.data(), back.size())));
         EXPECT_EQ(back, bytes);
-        terminal.write(std::string(1'000'000, 'x'));  // nobody reads: must not wait
+        terminal.write(std::string(1'000'000, 'x'));  // nothing reads: must not wait
     }
     pollfd watched{other, 0, 0};
     EXPECT_EQ(poll(&watched, 1, patience), 1);

@@ -20,7 +20,7 @@ public:
         };
     }
 
-    /// Lets the time pass, event by event.
+    /// Advances the clock, event by event.
     void pass(Time duration) {
         const Time end = now + duration;
         for (auto event = radio.nextEvent(); event && *event <= end; event = radio.nextEvent()) {
@@ -31,7 +31,7 @@ public:
         radio.advanceTo(now);
     }
 
-    /// What comes back within a fifth of a second.
+    /// The bytes that come back within 200 ms.
     std::string exchange(std::string_view commands, Time wait = std::chrono::milliseconds(200)) {
         sent.clear();
         pieces.clear();

@@ -71,7 +71,7 @@ TEST(TransceiverFaults, UnpluggedNothingGoesEitherWay) {
     line.radio.sendRaw("FA000000000;");
     line.radio.setFaults({});
     line.pass(1s);
-    EXPECT_EQ(line.sent, "") << "what happened meanwhile is not told later";
+    EXPECT_EQ(line.sent, "") << "changes while unplugged are not reported later";
     EXPECT_EQ(line.exchange("FA;FB;AI;"), "FA007200000;FB007074000;AI1;") << "and the half command is forgotten";
 }
 

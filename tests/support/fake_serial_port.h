@@ -1,4 +1,4 @@
-// A port that keeps what is written to it and reports as a real one does, at once.
+// A port that keeps all writes and calls its delegate like a real one, but at once.
 #pragma once
 
 #include <functional>
@@ -60,7 +60,7 @@ public:
         delegate_ = delegate;
     }
 
-    // What befalls a port.
+    // Events from the device.
     void receive(std::string_view bytes) {
         if (open_ && delegate_) delegate_->serialPortDidReceiveData(*this, bytes);
     }
@@ -74,8 +74,8 @@ public:
 
     Line line;
     std::vector<std::string> written;               // one entry per write
-    std::function<void(std::string_view)> onWrite;  // what hangs on the other end
-    std::optional<SerialPortError> openFailure;     // what open() comes to
+    std::function<void(std::string_view)> onWrite;  // the device at the other end
+    std::optional<SerialPortError> openFailure;     // makes open() fail
 
 private:
     void note(std::string_view what) {
@@ -84,7 +84,7 @@ private:
 
     const std::string name_;
     const std::string details_;
-    std::vector<std::string>* const journal_;  // every call in order, several ports together
+    std::vector<std::string>* const journal_;  // all calls in order; ports may share one
     bool open_ = false;
     ORSSerialPortDelegate* delegate_ = nullptr;
 };

@@ -29,7 +29,7 @@ public:
 
 private:
     Duration now_{0};
-    std::multimap<Duration, std::function<void()>> tasks_;  // equal times stay in the order given
+    std::multimap<Duration, std::function<void()>> tasks_;  // equal times keep the order given
 };
 
 }  // namespace corvane

@@ -1,4 +1,4 @@
-// The test bench with the simulated transceiver on its port, synchronised and reporting by itself.
+// The test bench with the simulated transceiver on its port, synchronised, with auto information on.
 #pragma once
 
 #include "simulator/simulated_transceiver.h"
@@ -18,8 +18,7 @@ public:
         forgetWhatHappened();
     }
 
-    // Hands the program what the transceiver has said, one response at a time as a port does, until both have nothing
-    // more to say.
+    // Hands the transceiver's responses to the program, one at a time as a port does, until neither sends more.
     void settle() {
         while (!answers_.empty()) {
             const std::string response = answers_.substr(0, answers_.find(';') + 1);

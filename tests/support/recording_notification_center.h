@@ -1,4 +1,4 @@
-// Notices that stand at once and are counted from 1.
+// Notices that are delivered at once, with ids from 1.
 #pragma once
 
 #include <vector>

@@ -1,4 +1,4 @@
-// What is said, heard, opened and logged, each as a list of texts.
+// Speech, sounds, web pages and log lines, each recorded as a list of texts.
 #pragma once
 
 #include <map>
@@ -33,7 +33,7 @@ struct RecordingWebBrowser final : WebBrowser {
     std::vector<std::string> opened;
 };
 
-// Boxes, each answered at once: questions with their verb while `agree` is set.
+// Alerts. Each question is confirmed at once while `agree` is set.
 struct RecordingAlerts final : Alerts {
     void warn(std::string_view text) override { shown.emplace_back(text); }
     void confirm(std::string_view text, std::string_view verb, std::function<void()> confirmed) override {
@@ -49,14 +49,14 @@ private:
     std::function<void()> last_;  // the question that has no answer yet
 };
 
-// Requests as they were made; a test answers them one by one.
+// Requests in the order sent; a test answers them one by one.
 struct RecordingHttpClient final : HttpClient {
     Cancel send(const HttpRequest& request, Completed completed) override {
         requests.push_back(request);
         pending.push_back(std::move(completed));
         return [this, index = pending.size() - 1] { cancelled.push_back(index); };
     }
-    // Answers the n-th request, also one that nobody waits for any more.
+    // Answers the n-th request, even if it has been cancelled.
     void answer(std::size_t index, HttpResponse response) {
         if (const Rest rest = pending.at(index)(std::move(response))) rest();
     }
@@ -73,10 +73,10 @@ struct RecordingDataFolder final : DataFolder {
     }
     std::string path() const override { return "/data"; }
     std::map<std::string, std::string> files;  // contents by path
-    std::string failure;                       // what every save comes to
+    std::string failure;                       // if set, the error of every save
 };
 
-// Files by path; the operator chooses the one that is named in `choice`, or none.
+// Files by path; the operator chooses the one named in `choice`, or none.
 struct RecordingFileChooser final : FileChooser {
     void chooseNew(std::string_view, std::string_view, std::string_view, Chosen chosen) override { choose(chosen); }
     void chooseExisting(std::string_view, std::string_view, Chosen chosen) override { choose(chosen); }
@@ -91,7 +91,7 @@ struct RecordingFileChooser final : FileChooser {
     }
     std::string choice;
     std::map<std::string, std::string> files;
-    std::string failure;  // what every write comes to
+    std::string failure;  // if set, the error of every write
 
 private:
     void choose(const Chosen& chosen) const {

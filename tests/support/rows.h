@@ -1,4 +1,4 @@
-// Rows of the tables, put there without the ways that an operator has.
+// Puts rows directly into the tables, without an operator's action.
 #pragma once
 
 #include <string_view>

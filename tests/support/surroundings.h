@@ -1,4 +1,4 @@
-// Everything that the program expects of its platform, faked.
+// Fakes of all platform interfaces.
 #pragma once
 
 #include "platform/platform.h"

@@ -1,4 +1,4 @@
-// The program on a test bench: the controller among fakes, its window made, connected to a port that is open.
+// The program on a test bench: a controller with fake surroundings, awake and connected to an open port.
 #pragma once
 
 #include <memory>
@@ -32,22 +32,22 @@ public:
     }
 
     void receive(std::string_view bytes) { port->receive(bytes); }
-    // Presses the key that had this tag at first.
+    // Presses the key whose first tag this is.
     void press(int firstTag) { display.key(firstTag).performClick(); }
-    // The preference with this key in the settings is as if the operator had chosen this value.
+    // Sets the preference with this settings key, as if the operator had chosen the value.
     void switchTo(std::string_view key, std::string_view value) {
         around.settings.setText(key, value);
         controller.preferences.restore();
     }
     void advance(Scheduler::Duration time) { around.scheduler.advance(time); }
 
-    // Lets the steps after the opening pass, as if nothing had answered.
+    // Lets the steps after the opening run without any answer.
     void outlastOpening() {
         advance(std::chrono::seconds(13));
         forgetWhatHappened();
     }
 
-    // Each gives what has happened since it was asked last.
+    // Each gives what has happened since its last call.
     Writes takeWrites() { return std::exchange(port->written, {}); }
     std::vector<std::string> takeSpoken() { return std::exchange(around.speech.spoken, {}); }
     std::vector<std::string> takeSounds() { return std::exchange(around.sounds.played, {}); }
@@ -68,7 +68,7 @@ public:
         return hosts;
     }
 
-    // The band keys that are marked; one unless something is wrong.
+    // The band keys that are lit: at most one is right.
     std::vector<int> markedBands() const {
         std::vector<int> tags;
         for (const Button* button : display.bandButtons)

@@ -22,7 +22,7 @@ struct BackgroundWorker::Shared {
 
 namespace {
 
-// A service that dies while we write to it must not take the program along.
+// A service that dies while we write to it must not end the program.
 void ignoreBrokenPipes() {
     sigset_t blocked;
     sigemptyset(&blocked);
@@ -59,7 +59,7 @@ BackgroundWorker::~BackgroundWorker() {
         const std::lock_guard lock(shared_->mutex);
         dropped.swap(shared_->tasks);
     }
-    // Outside the lock: what the running task does on a stop runs right here.
+    // Outside the lock: the running task's stop callbacks run in this call.
     shared_->stop.request_stop();
     std::unique_lock lock(shared_->mutex);
     shared_->changed.notify_all();

@@ -1,4 +1,4 @@
-// Work that may block, done in order on a thread of its own.
+// Runs blocking work in order on its own thread.
 #pragma once
 
 #include <chrono>
@@ -10,12 +10,12 @@
 
 namespace corvane {
 
-// Runs tasks one after the other, away from the caller. At most `capacity` tasks wait; what comes on top is dropped.
-// The thread starts with the first task.
+// Runs tasks one after the other on its thread. At most `capacity` tasks wait; further ones are dropped. The thread
+// starts with the first task.
 //
-// At its end the worker drops what waits, asks the running task to stop through its token and waits `farewell` for it.
-// A task that hangs longer is left behind with its thread, so a task may use only what it owns or shares, never its
-// poster.
+// The destructor drops waiting tasks, asks the running one to stop through its token and waits up to `farewell` for it.
+// A task that hangs longer is left running on its thread. So a task may use only what it owns or shares, never the
+// object that posted it.
 class BackgroundWorker {
 public:
     using Task = std::function<void(std::stop_token stop)>;

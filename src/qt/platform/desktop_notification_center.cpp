@@ -13,7 +13,7 @@ namespace corvane {
 
 namespace {
 
-constexpr int serviceDecides = -1;  // how long a notice stands
+constexpr int serviceDecides = -1;  // how long a notice is shown
 
 QDBusMessage call(const char* method) {
     const QString service = QStringLiteral("org.freedesktop.Notifications");

@@ -7,15 +7,15 @@
 
 namespace corvane {
 
-// Speaks to org.freedesktop.Notifications on the session bus without ever waiting for it. Without a bus or a service
-// nothing is shown and `delivered` is never called; nor is it called after the end of the centre.
+// Sends notices to org.freedesktop.Notifications on the session bus and never waits for an answer. Without a bus or a
+// service nothing is shown and `delivered` is not called. It is not called after the object's end either.
 class DesktopNotificationCenter final : public NotificationCenter {
 public:
     void deliver(const UserNotification& notification, std::function<void(NotificationId)> delivered) override;
     void removeDelivered(NotificationId id) override;
 
 private:
-    QObject context_;  // answers that come after its end go nowhere
+    QObject context_;  // ends with us: later answers are ignored
 };
 
 }  // namespace corvane

@@ -14,7 +14,7 @@ namespace {
 
 QString text(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
-// Deletes itself when it is answered, or with the window.
+// Deletes itself when it is answered or the window is deleted.
 QFileDialog* fileDialog(std::string_view title, std::string_view kind, FileChooser::Chosen chosen) {
     auto* dialog = new QFileDialog(parentWindow(), text(title));
     dialog->setNameFilters({text(kind), "All files (*)"});

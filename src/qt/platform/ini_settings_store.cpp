@@ -14,7 +14,7 @@ namespace {
 
 QString fromText(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
-// A file edited by hand may hold a bare `a, b`, which reads as a list.
+// QSettings reads an unquoted `a, b` in a file edited by hand as a list.
 QString asText(const QVariant& value) {
     if (value.typeId() == QMetaType::QStringList) return value.toStringList().join(QLatin1String(", "));
     return value.toString();
@@ -27,8 +27,7 @@ bool isSettingsLine(const QByteArray& line) {
            text.startsWith(';') || text.startsWith('#');
 }
 
-// What is wrong with a settings file, or nothing. Every line of it ends with a line end, so that a file that was cut
-// off is known.
+// What is wrong with a settings file, or nothing. A good file ends with a line end; one without has been cut off.
 QString faultIn(const QString& path) {
     QFile file(path);
     if (!file.exists()) return {};
@@ -49,7 +48,7 @@ QString freeName(const QString& path) {
     return name;
 }
 
-// Moves a file that is no settings file out of the way; says so in one line.
+// Moves a bad settings file out of the way and returns the message about it, or nothing.
 std::string setAsideIfBad(const QString& path) {
     const QString fault = faultIn(path);
     if (fault.isEmpty()) return {};
@@ -84,7 +83,7 @@ std::optional<std::string> IniSettingsStore::text(std::string_view key) const {
 
 int IniSettingsStore::integer(std::string_view key) const { return asText(settings_.value(fromText(key))).toInt(); }
 
-// A full disk is told of once; the next change tries again.
+// A write failure is reported once; every change tries again.
 void IniSettingsStore::write() {
     settings_.sync();
     const bool failed = settings_.status() == QSettings::AccessError;

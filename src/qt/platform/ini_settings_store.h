@@ -9,11 +9,11 @@
 
 namespace corvane {
 
-// Keeps the settings in an ini file, one line a key: `defaultPort=ttyUSB0`. Text comes back as it was given, leading
-// zeros, commas, umlauts and empty text included. A change is on disk by the next turn of the event loop, at the latest
-// when the store ends; a file is replaced as a whole, or stays as it was. One that cannot be written keeps the changes
-// for this run only. A file that cannot be read, was cut off or holds something else is set aside as "corvane.conf.bad"
-// (".bad2" if there is one) and the settings begin empty. problem() tells of both.
+// Keeps the settings in an ini file, one line per key: `defaultPort=ttyUSB0`. Text is read back unchanged, with leading
+// zeros, commas and umlauts, also if empty. A change is on disk by the next turn of the event loop, or when the store
+// ends if that is sooner. The file is replaced as a whole or not at all; if it cannot be written, changes last for this
+// run only. A file that cannot be read, was cut off or is not a settings file is set aside as "corvane.conf.bad"
+// (".bad2" if there is one) and the settings begin empty. problem() reports both cases.
 class IniSettingsStore final : public SettingsStore {
 public:
     explicit IniSettingsStore(const QString& path = defaultPath());

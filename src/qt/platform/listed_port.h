@@ -21,8 +21,8 @@ struct LineSettings {
     bool operator==(const LineSettings&) const = default;
 };
 
-// Keeps the names, the line settings and the delegate, and makes whole responses of the bytes that come. From inside
-// any report the delegate may close the port, open it again, change the delegate or let the port go.
+// Keeps the names, the line settings and the delegate, and assembles received bytes into whole responses. From inside
+// any callback the delegate may close the port, open it again, change the delegate or release the port.
 class ListedPort : public ORSSerialPort, public std::enable_shared_from_this<ListedPort> {
 public:
     ListedPort(std::string name, std::string details);
@@ -38,12 +38,12 @@ public:
     void setUsesRTSCTSFlowControl(bool uses) override;
     void setDelegate(ORSSerialPortDelegate* delegate) override { delegate_ = delegate; }
 
-    // The device behind the port has gone from the system: an open port is closed and says so, once.
+    // Called when the device has left the system: an open port closes and reports its removal, once.
     virtual void deviceLeft() = 0;
 
 protected:
-    // Lets the port live until the event loop runs again, should its last owner let go during a report. Every handler
-    // that ends in a report begins with one.
+    // Keeps the port alive until the event loop runs again, in case its last owner releases it during a callback.
+    // Every handler that calls the delegate begins with one.
     class KeepAlive {
     public:
         explicit KeepAlive(ListedPort& port) : port_(port.weak_from_this().lock()) {}
@@ -58,8 +58,8 @@ protected:
     const LineSettings& settings() const { return settings_; }
     virtual void settingsChanged() {}
 
-    // Bytes from the line, cut anywhere. Whole responses go to the delegate at once, a tail once nothing has come for
-    // the assembler's patience. Responses are dropped as soon as the port is not open.
+    // Takes bytes from the line, cut anywhere. Whole responses go to the delegate at once; an unfinished one when
+    // nothing has come for the assembler's patience. Once the port is closed, responses are dropped.
     void receive(std::string_view bytes);
     void forgetTail();
 

@@ -11,7 +11,7 @@ namespace corvane {
 
 namespace {
 
-// Deletes itself when it is answered, or with the window.
+// Deletes itself when it is answered or the window is deleted.
 QMessageBox* box(QMessageBox::Icon icon, std::string_view text) {
     auto* box = new QMessageBox(icon, QApplication::applicationDisplayName(),
                                 QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),

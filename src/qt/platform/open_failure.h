@@ -1,4 +1,4 @@
-// Why a device would not open, in terms that help the operator.
+// Why a device could not be opened, in terms that help the operator.
 #pragma once
 
 #include <QSerialPort>
@@ -9,9 +9,9 @@
 
 namespace corvane {
 
-// Qt calls both "held by somebody else" and "not allowed" a PermissionError; the device itself tells them apart.
-// `words` are Qt's own and stand in the result where the system has no better ones. E.g. a device of group dialout that
-// the user may not open gives {permission, "Permission denied", "/dev/ttyUSB0", "dialout"}.
+// Qt reports both "in use by another program" and "not allowed" as a PermissionError; the device file tells which.
+// `words` are Qt's, used where the system has no better ones. E.g. a device of group dialout that the user may not open
+// gives {permission, "Permission denied", "/dev/ttyUSB0", "dialout"}.
 SerialPortError openFailure(QSerialPort::SerialPortError error, const std::string& path, const std::string& words);
 
 }  // namespace corvane

@@ -1,12 +1,12 @@
-// The window that a box or a dialog opens over.
+// The window that an alert or a dialog opens over.
 #pragma once
 
 #include <QWidget>
 
 namespace corvane {
 
-// The active window; without one of the program's windows in front, its main window: a box without a parent would hold
-// up nothing.
+// The active window, or the main window when none of the program's windows is active: an alert without a parent would
+// not block the window.
 QWidget* parentWindow();
 
 }  // namespace corvane

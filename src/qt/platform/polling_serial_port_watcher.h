@@ -1,4 +1,4 @@
-// Looks for serial devices now and then, where nobody tells.
+// Looks for serial devices at intervals, for systems without a device manager.
 #pragma once
 
 #include <QTimer>
@@ -12,8 +12,8 @@
 
 namespace corvane {
 
-// The names of the terminals that a device stands behind, e.g. {"ttyS0", "ttyUSB0"}, in no order. A small part of the
-// cost of asking for everything that is known of them.
+// The names of the terminals that have a device, e.g. {"ttyS0", "ttyUSB0"}, in no order. Much cheaper than
+// attachedSerialDevices().
 std::vector<std::string> attachedTerminals();
 
 class PollingSerialPortWatcher final : public SerialPortWatcher {
@@ -23,7 +23,7 @@ public:
     explicit PollingSerialPortWatcher(std::chrono::milliseconds interval = std::chrono::seconds(2),
                                       std::function<Names()> attached = attachedTerminals);
 
-    // Calls `changed` after a look that found other names than the look before.
+    // Calls `changed` when a look finds other names than the one before.
     void watch(std::function<void()> changed) override;
 
 private:

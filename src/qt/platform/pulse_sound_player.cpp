@@ -18,7 +18,7 @@ namespace {
 constexpr std::chrono::milliseconds farewell{150};
 constexpr std::uint32_t unset = 0xFFFFFFFF;  // the server chooses
 constexpr int mostChannels = PA_CHANNELS_MAX;
-constexpr sf_count_t longestSound = 30;  // seconds; what is longer is cut
+constexpr sf_count_t longestSound = 30;  // seconds; longer ones are cut
 
 struct Sound {
     pa_sample_spec format{};
@@ -45,12 +45,12 @@ struct CloseStream {
 void playSound(const std::string& name, const Sound& sound, const std::stop_token& stop) {
     if (sound.samples.empty()) return;
     const std::uint32_t second = sound.format.rate * sound.format.channels * sizeof(std::int16_t);
-    // The server's own choice of two seconds would hold up the sound, and the next one even longer.
+    // The server's default buffer of two seconds would delay this sound, and the next one even longer.
     const pa_buffer_attr buffer{unset, second / 10, unset, unset, unset};
     const std::unique_ptr<pa_simple, CloseStream> stream(pa_simple_new(
         nullptr, "Corvane", PA_STREAM_PLAYBACK, nullptr, name.c_str(), &sound.format, nullptr, &buffer, nullptr));
     if (!stream) return;
-    // In pieces of a tenth of a second, so that the end of the program needs not wait for the end of the sound.
+    // In pieces of a tenth of a second, so that the program can end before the sound does.
     const std::size_t piece = std::max<std::size_t>(1, std::size_t{sound.format.rate} * sound.format.channels / 10);
     for (std::size_t at = 0; at < sound.samples.size(); at += piece) {
         const std::size_t count = std::min(piece, sound.samples.size() - at);

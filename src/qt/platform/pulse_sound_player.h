@@ -10,9 +10,9 @@
 
 namespace corvane {
 
-// Plays AIFF files of the folder given, alerts from its folder "alerts": "Tink" plays alerts/Tink.aiff. Sounds asked
-// for in quick succession play one after the other; more than `queueLength` in waiting are dropped. A name that leaves
-// the folder, such as "../x", plays nothing.
+// Plays AIFF files from `folder`, alerts from its subfolder "alerts": "Tink" plays alerts/Tink.aiff. Sounds play one
+// after the other; while `queueLength` are waiting, further ones are dropped. A name that leaves the folder, such as
+// "../x", plays nothing.
 class PulseSoundPlayer final : public SoundPlayer {
 public:
     static constexpr std::size_t queueLength = 8;
@@ -29,7 +29,7 @@ private:
     BackgroundWorker worker_;
 };
 
-// The sound's file: ("/s", "Funk") is "/s/Funk.aiff"; empty for a name that is empty or no plain file name.
+// The sound's file: ("/s", "Funk") is "/s/Funk.aiff"; empty for a name that is empty or not a plain file name.
 std::filesystem::path soundFile(const std::filesystem::path& folder, std::string_view name);
 
 }  // namespace corvane

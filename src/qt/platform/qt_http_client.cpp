@@ -23,7 +23,7 @@ struct CertificateFault {
     const char* text;
 };
 
-// The faults that the operator or the service can mend, the one that counts most first.
+// The faults that the operator or the service can mend, the most important first.
 constexpr std::array certificateFaults{
     CertificateFault{QSslError::CertificateNotYetValid, "the server's certificate is not valid yet: check the clock"},
     CertificateFault{QSslError::CertificateExpired, "the server's certificate has expired"},
@@ -39,7 +39,7 @@ std::string problemOf(const QList<QSslError>& errors) {
     return fault == certificateFaults.end() ? "the server's certificate is not trusted" : fault->text;
 }
 
-// Why a reply is none, in words for the operator.
+// Why a reply failed, in words for the operator; empty for a good one.
 std::string problemOf(const QNetworkReply& reply, const QList<QSslError>& sslErrors) {
     const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     switch (reply.error()) {
@@ -77,7 +77,7 @@ public:
         connect(reply, &QNetworkReply::finished, this, [this] { end(problemOf(*reply_, sslErrors_)); });
         connect(reply, &QNetworkReply::sslErrors, this,
                 [this](const QList<QSslError>& errors) { sslErrors_ = errors; });
-        // The transfer time-out of Qt starts anew with every byte, which a trickle outlives.
+        // Qt's transfer time-out restarts with every byte, so a slow trickle would never end.
         deadline_.setSingleShot(true);
         connect(&deadline_, &QTimer::timeout, this, [this] { end("no answer in time"); });
         deadline_.start(timeout);
@@ -150,13 +150,13 @@ void QtHttpClient::handOver(HttpResponse response, Completed completed, Wanted w
         [this, response = std::move(response), completed = std::move(completed), wanted = std::move(wanted)]() mutable {
             if (!*wanted) return;
             const bool large = response.body.size() > largeBody;
-            // Held by one hand: what was made of a large answer is not to be copied.
+            // Shared, so that the rows of a large answer are not copied with the functor below.
             auto rest = std::make_shared<Rest>(completed(std::move(response)));
             const auto run = [rest = std::move(rest), wanted = std::move(wanted)] {
                 if (*wanted && *rest) (*rest)();
             };
             QMetaObject::invokeMethod(&eventLoop_, run, Qt::QueuedConnection);
-            // The allocator would keep what reading took, many times the body, for a thread that hardly ever needs it.
+            // Reading takes many times the body's memory; the allocator would keep it for a thread that rarely runs.
             if (large) malloc_trim(0);
         });
 }

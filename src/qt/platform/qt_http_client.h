@@ -10,8 +10,8 @@
 
 namespace corvane {
 
-// Lives on the thread of the application object. Connections stay open between requests; exchanges under way end with
-// the client, without a call.
+// Lives on the thread of the application object. Connections stay open between requests. Exchanges still pending when
+// the client is destroyed end without a call.
 class QtHttpClient final : public HttpClient {
 public:
     QtHttpClient();
@@ -25,7 +25,7 @@ private:
     QNetworkAccessManager& manager();
     void handOver(HttpResponse response, Completed completed, Wanted wanted);
 
-    QObject eventLoop_;  // what is left of an exchange is called through it
+    QObject eventLoop_;  // runs the rest of an exchange on this thread
     std::unique_ptr<QNetworkAccessManager>
         manager_;          // made for the first request: it is not needed for the first paint
     QThreadPool readers_;  // ends first

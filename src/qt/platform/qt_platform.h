@@ -1,4 +1,4 @@
-// The program's surroundings, all in one.
+// The real forms of all platform interfaces, in one object.
 #pragma once
 
 #include <QString>
@@ -14,9 +14,9 @@ namespace corvane {
 
 struct QtPlatformOptions {
     QString settingsPath;                 // the ini file
-    QString dataPath;                     // the folder of what is kept for people to read
+    QString dataPath;                     // the folder for files that people read, such as backups
     std::filesystem::path soundsFolder;   // holds Seatbelts.aiff, Funk.aiff and alerts/
-    std::vector<std::string> extraPorts;  // paths of devices to list besides the system's own
+    std::vector<std::string> extraPorts;  // paths of devices to list in addition to the system's
     double schedulerSpeed = 1;            // 100 lets 5 s pass in 50 ms
     bool simulatedPort = true;            // end the list of ports with "Simulated transceiver"
 };
@@ -26,7 +26,7 @@ struct QtPlatformOptions {
 // application object.
 QtPlatformOptions defaultOptions();
 
-// Lives on the thread of the application object, and no longer than it.
+// Lives on the thread of the application object, which outlives it.
 class QtPlatform {
 public:
     explicit QtPlatform(const QtPlatformOptions& options = defaultOptions());

@@ -11,9 +11,8 @@
 
 namespace corvane {
 
-// Runs one task per turn of the event loop, in the order of their due times, which tasks given in the same breath with
-// the same delay keep among themselves. A `speed` of 100 lets 5 s pass in 50 ms, for trials. Tasks not yet run at the
-// end of the scheduler are dropped.
+// Runs one task per turn of the event loop, in the order of their due times; tasks due at the same time run in the
+// order given. A `speed` of 100 lets 5 s pass in 50 ms, for trials. The destructor drops pending tasks.
 class QtScheduler final : public Scheduler {
 public:
     explicit QtScheduler(double speed = 1);

@@ -16,8 +16,8 @@ namespace corvane {
 
 namespace {
 
-constexpr std::chrono::milliseconds lastBytes{100};  // how long closing waits for a device to take the next byte
-constexpr std::chrono::seconds longestDrain{2};      // for all of them: memory channels written just before take 1.2 s
+constexpr std::chrono::milliseconds lastBytes{100};  // closing waits this long for the device to take a byte
+constexpr std::chrono::seconds longestDrain{2};      // in all: a write of the memory channels takes 1.2 s
 
 QSerialPort::Parity qtParity(Parity parity) {
     switch (parity) {
@@ -31,7 +31,7 @@ QSerialPort::Parity qtParity(Parity parity) {
     return QSerialPort::NoParity;
 }
 
-// Bytes that the driver has taken but the wire has not.
+// Bytes that the driver has taken but not sent.
 int unsentBytes(int descriptor) {
     int count = 0;
     return ::ioctl(descriptor, TIOCOUTQ, &count) == 0 ? count : 0;
@@ -70,7 +70,7 @@ void QtSerialPort::open() {
 void QtSerialPort::close() {
     if (!open_) return;
     const KeepAlive alive(*this);
-    open_ = false;  // first: errors and bytes that turn up while draining are nobody's business
+    open_ = false;  // first: errors and bytes that come while draining are ignored
     drain();
     shut();
     tellClosed();
@@ -109,7 +109,7 @@ void QtSerialPort::readAll() {
     receive({bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
-// A line that has hung up repeats its error as fast as the machine can, until it is closed.
+// A line that has hung up repeats its error in a busy loop until it is closed.
 void QtSerialPort::failed(QSerialPort::SerialPortError error) {
     if (!open_ || error == QSerialPort::NoError || error == QSerialPort::TimeoutError) return;
     const KeepAlive alive(*this);
@@ -134,8 +134,8 @@ bool QtSerialPort::hungUp() const {
     return dead || ::access(location_.c_str(), F_OK) != 0;
 }
 
-// Waits for the wire as well as for our own buffer, as long as the device goes on taking bytes. What a deaf device has
-// not taken is thrown away: the system would hold up the closing for half a minute.
+// Waits for the driver's bytes as well as for our own buffer, as long as the device keeps taking bytes. The rest is
+// thrown away: the system would delay closing for half a minute.
 void QtSerialPort::drain() {
     const int descriptor = static_cast<int>(line_.handle());
     const auto left = [&] { return line_.bytesToWrite() + unsentBytes(descriptor); };

@@ -9,10 +9,10 @@
 
 namespace corvane {
 
-// The device at `location`, e.g. "/dev/ttyUSB0", a symbolic link or a pseudo-terminal, listed as `name`. Opening ends
-// at once; so does closing, which waits up to 100 ms for what was sent before to go out. A device that hangs up is
-// reported as removed, once, with the port closed already. Another failure to read is reported as an error and closes
-// the port.
+// The device at `location`, e.g. "/dev/ttyUSB0", a symbolic link or a pseudo-terminal, listed as `name`. Opening does
+// not wait. Closing waits until the bytes written before have gone out, 2 s at most; it gives up sooner when the device
+// takes no byte for 100 ms. A device that hangs up is reported as removed, once; the port is closed by then. Another
+// read failure is reported as an error and closes the port.
 class QtSerialPort final : public ListedPort {
 public:
     QtSerialPort(std::string name, std::string details, std::string location);
@@ -37,7 +37,7 @@ private:
 
     std::string location_;
     QSerialPort line_;
-    bool open_ = false;  // what the program knows; line_ may still be busy going down
+    bool open_ = false;  // as the delegate knows it; line_ may still be draining
 };
 
 }  // namespace corvane

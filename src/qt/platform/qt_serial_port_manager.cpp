@@ -16,7 +16,7 @@ QtSerialPortManager::QtSerialPortManager(SerialPortSources sources) : sources_(s
     QObject::connect(&extraTimer_, &QTimer::timeout, &extraTimer_, [this] { lookAtExtras(); });
 }
 
-// Asking the system costs more than the window's first paint can wait for: it is done when the list is first wanted.
+// Asking the system takes too long for the window's first paint, so it is done when the list is first wanted.
 const SerialPorts& QtSerialPortManager::availablePorts() {
     if (!listed_) {
         listed_ = true;
@@ -52,12 +52,12 @@ std::vector<SerialDevice> QtSerialPortManager::presentDevices() const {
     return devices;
 }
 
-// Makes the devices the list, with their ports of before where they have one; gives the ports that are new.
+// Makes the list from the devices. A device listed before keeps its port; returns the new ports.
 SerialPorts QtSerialPortManager::take(const std::vector<SerialDevice>& devices) {
     std::vector<Entry> entries;
     SerialPorts fresh;
     for (const SerialDevice& device : devices) {
-        // What the system says of a device may grow while it settles in; it is the same device all the same.
+        // The system's details of a device may grow just after it appears; name and location stay.
         const auto known = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
             return entry.device.name == device.name && entry.device.location == device.location;
         });
@@ -94,7 +94,7 @@ void QtSerialPortManager::refresh() {
     for (const Entry& entry : before) {
         if (std::find(ports_.begin(), ports_.end(), entry.port) == ports_.end()) disconnected.push_back(entry.port);
     }
-    // The list stands before anybody hears of it.
+    // The list is complete before anyone is told.
     for (const Entry& entry : before) {
         if (std::find(disconnected.begin(), disconnected.end(), entry.port) != disconnected.end()) {
             entry.port->deviceLeft();

@@ -20,11 +20,11 @@ namespace corvane {
 // Where the ports come from.
 struct SerialPortSources {
     std::function<std::vector<SerialDevice>()> devices = attachedSerialDevices;
-    std::vector<std::string> extraPaths;         // listed under the path as written, for as long as something is there
+    std::vector<std::string> extraPaths;         // listed under the path as written, while it exists
     std::unique_ptr<SerialPortWatcher> watcher;  // none: the list of devices is read once
-    std::shared_ptr<ListedPort> lastPort;        // always there, at the end of the list; none is fine
+    std::shared_ptr<ListedPort> lastPort;        // always the last of the list; may be null
 
-    std::chrono::milliseconds settle{200};          // quiet time after a change, so that a burst gives one notice
+    std::chrono::milliseconds settle{200};          // quiet time after a change: a burst gives one notice
     std::chrono::milliseconds extraInterval{1000};  // between two looks at the extra paths
 };
 
@@ -50,7 +50,7 @@ private:
     void startWatching();
 
     SerialPortSources sources_;
-    bool listed_ = false;  // nobody is told of ports before somebody has asked for the list
+    bool listed_ = false;  // ports are announced only after the list was asked for
     std::vector<Entry> entries_;
     std::vector<SerialDevice> extras_;  // present at the last look
     SerialPorts ports_;

@@ -9,8 +9,8 @@ namespace corvane {
 struct SerialDevice {
     std::string name;      // e.g. "ttyUSB0"
     std::string location;  // e.g. "/dev/ttyUSB0"
-    std::string details;   // for the eye, e.g. "CP210x UART Bridge, /dev/ttyUSB0"
-    bool usb = false;      // an adapter on USB, as transceivers are
+    std::string details;   // for the operator, e.g. "CP210x UART Bridge, /dev/ttyUSB0"
+    bool usb = false;      // on USB, as transceivers are
 
     bool operator==(const SerialDevice&) const = default;
 };

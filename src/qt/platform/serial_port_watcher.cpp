@@ -8,7 +8,7 @@
 namespace corvane {
 
 std::unique_ptr<SerialPortWatcher> makeSerialPortWatcher() {
-    // Without its daemon a monitor opens all the same, and stays silent for ever.
+    // Without the daemon a monitor opens as well, but never reports anything.
     if (QFileInfo::exists(QStringLiteral("/run/udev/control"))) {
         auto watcher = std::make_unique<UdevSerialPortWatcher>(UdevSerialPortWatcher::Source::udev);
         if (watcher->works()) return watcher;

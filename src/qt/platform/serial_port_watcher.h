@@ -1,4 +1,4 @@
-// Word that serial devices may have come or gone.
+// Tells when serial devices may have come or gone.
 #pragma once
 
 #include <functional>
@@ -6,7 +6,7 @@
 
 namespace corvane {
 
-// Calls `changed` from the event loop whenever the list of devices may have changed; calls too many do no harm.
+// Calls `changed` from the event loop whenever the list of devices may have changed, sometimes without need.
 class SerialPortWatcher {
 public:
     virtual ~SerialPortWatcher() = default;
@@ -15,7 +15,7 @@ public:
     virtual void watch(std::function<void()> changed) = 0;
 };
 
-// Word from the system's device manager where one runs; elsewhere a call every two seconds.
+// Listens to the system's device manager if one runs, otherwise looks every two seconds.
 std::unique_ptr<SerialPortWatcher> makeSerialPortWatcher();
 
 }  // namespace corvane

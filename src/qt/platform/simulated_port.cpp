@@ -32,7 +32,7 @@ SimulatedPort::~SimulatedPort() = default;
 void SimulatedPort::open() {
     if (open_ || opening_.isActive()) return;
     makeTransceiver();
-    transceiver_->advanceTo(now());  // what it would have said meanwhile is lost, as on an unplugged line
+    transceiver_->advanceTo(now());  // its reports since then are lost, as on an unplugged line
     arm();
     opening_.start();
 }
@@ -80,7 +80,7 @@ void SimulatedPort::makeTransceiver() {
     };
 }
 
-// Never from inside a write: an answer must not come in between two commands of one action.
+// Never called from inside a write: an answer must not come between two commands of one action.
 void SimulatedPort::deliver() {
     const std::string bytes = std::exchange(arrived_, {});
     if (!bytes.empty()) receive(bytes);

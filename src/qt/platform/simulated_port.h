@@ -1,4 +1,4 @@
-// A port with a transceiver behind it that is not there.
+// A port with a simulated transceiver.
 #pragma once
 
 #include <QTimer>
@@ -15,8 +15,8 @@ class SimulatedTransceiver;
 
 namespace corvane {
 
-// "Simulated transceiver": a port like any other, which opens on the next turn of the event loop. The transceiver comes
-// to be with the first opening and keeps its state from one opening to the next; its time is real time.
+// "Simulated transceiver": a port like any other, which opens on the next turn of the event loop. The transceiver is
+// made at the first opening and keeps its state from one opening to the next; it runs in real time.
 class SimulatedPort final : public ListedPort {
 public:
     SimulatedPort();
@@ -28,7 +28,7 @@ public:
     void sendData(std::string_view bytes) override;
     void deviceLeft() override;
 
-    // A hand on the transceiver's own knobs, e.g. to tune it; what it reports of that comes over the line.
+    // Turns the transceiver's own knobs, e.g. to tune it; its reports come over the line.
     void operate(const std::function<void(simulator::SimulatedTransceiver&)>& action);
 
 private:
@@ -43,7 +43,7 @@ private:
     QTimer opening_;
     QTimer next_;
     bool open_ = false;
-    std::string arrived_;  // what the transceiver has said and the program not yet heard
+    std::string arrived_;  // bytes from the transceiver, not delivered yet
 };
 
 }  // namespace corvane

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::chrono::milliseconds farewell{150};
 
-// The service is started where it does not run yet, unless somebody named the address of one that he runs himself.
+// Starts the service if it does not run, unless SPEECHD_ADDRESS names one that the user runs.
 SPDConnection* openConnection() {
     const int start = std::getenv("SPEECHD_ADDRESS") == nullptr ? 1 : 0;
     char* reason = nullptr;
@@ -31,7 +31,7 @@ public:
     Line(std::chrono::milliseconds retry, std::string language) : retry_(retry), language_(std::move(language)) {}
 
     void say(const std::string& text, const std::string& voice) {
-        // A service that was restarted answers a second time.
+        // After a restart of the service the first attempt fails and the second works.
         if (open(voice) && !send(text) && open(voice)) send(text);
     }
 
@@ -44,7 +44,7 @@ private:
 
     bool open(const std::string& voice) {
         if (connection_ && voice == voice_) return true;
-        // Nothing but a fresh connection goes back to the default voice.
+        // Only a new connection goes back to the default voice.
         if (!connection_ && lastFailure_ && Clock::now() - *lastFailure_ < retry_) return false;
         connection_.reset();
         connection_.reset(openConnection());
@@ -54,13 +54,13 @@ private:
         }
         lastFailure_.reset();
         voice_ = voice;
-        // The service's own default is not the user's: it speaks the language that it is told.
+        // The service's default language is not the user's, so it must be set.
         spd_set_language(connection_.get(), language_.c_str());
         if (!voice_.empty()) spd_set_synthesis_voice(connection_.get(), voice_.c_str());
         return true;
     }
 
-    // Texts of this priority wait for each other; plain "text" would cut off the one before.
+    // Texts of this priority wait for each other; priority "text" would cut off the one before.
     bool send(const std::string& text) {
         if (spd_say(connection_.get(), SPD_MESSAGE, text.c_str()) >= 0) return true;
         connection_.reset();

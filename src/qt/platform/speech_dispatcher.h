@@ -1,4 +1,4 @@
-// Spoken words through the desktop's speech service.
+// Speech through the desktop's speech service.
 #pragma once
 
 #include <chrono>
@@ -10,9 +10,9 @@
 
 namespace corvane {
 
-// Opens the service with the first text, on a thread of its own. Texts queue at the service and are spoken one after
-// the other. While there is no service they are dropped, and looked for again with a later text, at most once every
-// `retry`. A service that hangs drops texts beyond `queueLength` and delays the end of the program by 150 ms at most.
+// Connects to the service at the first text, on its own thread. The service queues texts and speaks them one after the
+// other. Without a service texts are dropped; a later text tries to connect again, at most once every `retry`. If the
+// service hangs, texts beyond `queueLength` are dropped, and the end of the program is delayed by 150 ms at most.
 class SpeechDispatcher final : public SpeechSynthesizer {
 public:
     static constexpr std::size_t queueLength = 32;
@@ -26,7 +26,7 @@ public:
 private:
     class Line;
 
-    std::shared_ptr<Line> line_;  // shared with the tasks, which may outlive us when the service hangs
+    std::shared_ptr<Line> line_;  // shared with the tasks, which outlive us if the service hangs
     BackgroundWorker worker_;
 };
 

@@ -5,7 +5,7 @@
 
 namespace corvane {
 
-// Every line is out when `line` returns, so that the last ones before a crash can be read.
+// Every line is flushed when `line` returns, so that the last lines before a crash can be read.
 class StandardLog final : public Log {
 public:
     void line(std::string_view text) override;

@@ -1,4 +1,4 @@
-// Word of serial devices from the system's device manager.
+// Changes of serial devices, from the system's device manager.
 #pragma once
 
 #include <QSocketNotifier>
@@ -14,7 +14,7 @@ namespace corvane {
 
 class UdevSerialPortWatcher final : public SerialPortWatcher {
 public:
-    // `udev` speaks when a device is ready for use, `kernel` as soon as it is there, also where no daemon runs.
+    // `udev` reports a device when it is ready for use; `kernel` as soon as it exists, also without the daemon.
     enum class Source { udev, kernel };
 
     explicit UdevSerialPortWatcher(Source source);

@@ -7,7 +7,7 @@
 
 namespace corvane {
 
-// Writes a file in a folder that exists; one of that name is replaced. The error is the system's own sentence.
+// Writes a file in an existing folder; a file of that name is replaced. The error is the system's own sentence.
 SavedFile writeWhole(const QString& path, std::string_view contents);
 
 }  // namespace corvane

@@ -10,7 +10,7 @@ using testing::Pair;
 
 using Values = MapSettingsStore::Values;
 
-// A switch as it is held, shown and tagged.
+// A switch: its state, its tick and its tag.
 struct Switch {
     std::string value;
     bool checked;
@@ -30,7 +30,7 @@ std::vector<Switch> switches(const SerialPortDemoController& controller) {
             {values.vqMemoryIPO, ipo.checked(), ipo.tag()}};
 }
 
-// A program whose window has been made, among ports that are all closed.
+// A program with its window made and all ports closed.
 struct Launched {
     explicit Launched(Values stored, const std::vector<std::string>& ports = {}) {
         around.settings.values = std::move(stored);

@@ -11,7 +11,7 @@ using testing::IsEmpty;
 const std::string tooLow = "Frequency must be in MHz and greater than 0.03\n\nExample: 0.860";
 const std::string tooHigh = "Frequency must be in MHz and less than 75.0\n\nExample: 14.235";
 
-// Both VFOs reported, the one named last is active.
+// Both VFOs have been reported; `active` is the active one.
 struct TunedBench : TestBench {
     explicit TunedBench(char active = 'A') {
         receive(active == 'A' ? "FB007100500;FA014250000;" : "FA014250000;FB007100500;");
@@ -48,7 +48,7 @@ TEST(FrequencyEntry, ATypedFrequencyIsSentInOneWrite) {
     }
 }
 
-// Every hertz that six decimals can say is what is sent.
+// Six decimals are sent exactly, for every hertz.
 TEST(FrequencyEntry, NoTypedHertzIsLost) {
     TunedBench bench;
     for (int hertz = 30'000; hertz <= 75'000'000; hertz += 99'991) {
@@ -83,7 +83,7 @@ TEST(FrequencyEntry, ReportsDoNotOverwriteWhatIsBeingTyped) {
     bench.receive("FA014260000;");
     EXPECT_EQ(field.stringValue(), "14.0");
     field.cancelEditing();
-    EXPECT_EQ(field.stringValue(), "14.260") << "the report that came meanwhile";
+    EXPECT_EQ(field.stringValue(), "14.260") << "the report that came while it was typed";
     field.edit("7");
     bench.display.tuneButton.performClick();
     EXPECT_EQ(bench.takeWrites().back(), "MD01;FA007000000;SS0670000;");
@@ -91,7 +91,7 @@ TEST(FrequencyEntry, ReportsDoNotOverwriteWhatIsBeingTyped) {
     EXPECT_EQ(field.stringValue(), "7.000");
 }
 
-TEST(CallSign, IsSentInTwelveCapitals) {
+TEST(CallSign, IsSentInTwelveUpperCaseCharacters) {
     const struct {
         std::string_view typed, sent, shown;
     } cases[] = {

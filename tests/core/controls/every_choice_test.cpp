@@ -1,5 +1,5 @@
-// Every preset and every entry of every pop-up, chosen as the operator does, leaves the transceiver in the state that
-// the title says.
+// Every preset and every entry of every pop-up, chosen by the operator, puts the transceiver into the state that its
+// title names.
 #include <gmock/gmock.h>
 
 #include <array>
@@ -12,14 +12,14 @@
 namespace corvane {
 namespace {
 
-// What the transceiver answers once an entry has been chosen: after "OFF" "NR0;" is answered "NR00;".
+// The transceiver's answer after an entry was chosen: after "OFF", "NR0;" is answered "NR00;".
 struct Choice {
     std::string title;
     std::string request;
     std::string answer;
 };
 
-// The titles of a pop-up in order, each with what stands behind the command's name in the answer.
+// The titles of a pop-up in order, each with the answer's text after the command's name.
 std::vector<Choice> choices(std::string_view command, std::initializer_list<std::pair<const char*, const char*>> rows) {
     std::vector<Choice> list;
     for (const auto& [title, value] : rows)
@@ -54,7 +54,7 @@ std::vector<Choice> scopeLevels() {
     return list;
 }
 
-// The first color asks for nothing: the transceiver stays on the one it has, number 2.
+// The first color sends nothing: the transceiver keeps its color, number 2.
 std::vector<Choice> scopeColors() {
     std::vector<Choice> list = numbered("SS03", "Color %d", "%X0000", 1, 11);
     for (std::size_t i = list.size(); i-- > 1;) list[i].answer = list[i - 1].answer;
@@ -77,7 +77,7 @@ std::vector<PopUpRow> popUps() {
     using D = Display;
     return {
         {&D::modesPopUpButton, modes()},
-        // Automatic is slow in the mode that the transceiver starts in.
+        // Automatic means slow in the transceiver's first mode.
         {&D::AGCPopUpButton, choices("GT0", {{"OFF", "0"}, {"FAST", "1"}, {"MID", "2"}, {"SLOW", "3"}, {"AUTO", "6"}})},
         {&D::ATTPopUpButton, choices("RA0", {{"OFF", "0"}, {"6 dB", "1"}, {"12 dB", "2"}, {"18 dB", "3"}})},
         {&D::ampPopUpButton, choices("PA0", {{"IPO", "0"}, {"AMP 1", "1"}, {"AMP 2", "2"}})},
@@ -157,7 +157,7 @@ TEST(EveryChoice, OfAPopUpReachesTheTransceiverAndComesBack) {
             bench.settle();
             EXPECT_EQ(bench.transceiver.ask(choice.request), choice.answer)
                 << popUp.objectName() << ' ' << choice.title;
-            // The mode pop-up knows the modes with a figure as their code only; the first color asks for nothing.
+            // The mode pop-up has only the modes whose code is a digit; the first color sends nothing.
             const bool follows = row.popUp == &Display::modesPopUpButton   ? index < 9
                                  : row.popUp == &Display::colorPopUpButton ? index > 0
                                                                            : true;
@@ -198,7 +198,7 @@ TEST(EveryChoice, OfAMemoryChannelRecallsIt) {
     }
 }
 
-// What the title of a preset promises: "Phone - 40m", "60m - Chan 3", "Shortwave - 49m".
+// The tuning that the title of a preset names: "Phone - 40m", "60m - Chan 3", "Shortwave - 49m".
 struct Promise {
     int lowest;  // hertz
     int highest;

@@ -27,14 +27,14 @@ std::string menuRequests(std::initializer_list<std::pair<int, int>> subMenus) {
     return text;
 }
 
-// What pressing a key does: `first` goes out before the command buffer, which is `cmd` afterwards.
+// The effect of pressing a key: `first` is sent before the command buffer, which is `cmd` afterwards.
 struct Press {
     int tag;
     std::string cmd;
     std::string announcement = {};
     Color color = Color::none;
     std::string first = {};
-    int offset = 0;  // from the tag before the press to the one after it
+    int offset = 0;  // the tag after the press minus the one before
 };
 
 std::vector<Press> pressedOnce() {
@@ -91,7 +91,7 @@ struct TunedBench : TestBench {
     }
 };
 
-// Presses a key by its action, whether or not the window would let anyone.
+// Runs a key's action, even if the key is disabled.
 void expectPress(TestBench& bench, Button& key, const Press& press) {
     const int tag = key.tag();
     bench.controller.go(key);

@@ -129,7 +129,7 @@ TEST(GainSliders, AreNotPulledBackByReportsOfTheirOwnWay) {
     bench.advance(40ms);
     EXPECT_EQ(slider.integerValue(), 200);
     slider.drag(210);
-    bench.receive("RG0180;");  // a hand on the transceiver's own knob, the same moment
+    bench.receive("RG0180;");  // the transceiver's own knob is turned at the same moment
     bench.advance(50ms);
     EXPECT_EQ(slider.integerValue(), 180);
     bench.receive("RG0170;");
@@ -160,7 +160,7 @@ TEST(AutomaticPowerOff, SwitchesOffAfterHalfHoursUnlessTakenBack) {
     bench.advance(2h);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
 
-    // Every choice plans a switch-off of its own; the first to fall due while armed does it.
+    // Every choice schedules its own switch-off; the first one that is due while armed switches off.
     powerOff.choose(2);
     powerOff.choose(0);
     powerOff.choose(4);

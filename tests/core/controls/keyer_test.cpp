@@ -34,7 +34,7 @@ TEST(Keyer, ATypedTextGoesThroughMemoryFiveInPieces) {
         {"MD07;", "KM5TEST;", first, {"KM5" + first + "};", "KYA;", "KM5};", "KYA;", "KM5TEST};"}},
         {"MD0E;", "", "73", {"EM1573};", "EN15;", "EM15};"}},
         {"MD03;", "KM5TEST;", "", {"KM5};", "KYA;", "KM5TEST};"}},
-        // All memories have been read: another mode group's fifth was reported last.
+        // All memories have been read: memory 5 of another mode group was reported last.
         {"MD09;", "KM5CW;EM05RTTY;EM15PSK;", "RYRY", {"EM05RYRY};", "EN05;", "EM05RTTY};"}},
     };
     for (const auto& message : cases) {
@@ -75,7 +75,7 @@ TEST(Keyer, TextThatTheTransceiverCannotHoldIsRefusedAndKept) {
         EXPECT_EQ(bench.display.cwMemoryField.stringValue(), text);
         EXPECT_NE(bench.display.memoryTextNoticeField.stringValue(), "");
         bench.display.textMemoryField.edit("CQ");
-        EXPECT_EQ(bench.display.textMemoryNoticeField.stringValue(), "") << "mended while it is typed";
+        EXPECT_EQ(bench.display.textMemoryNoticeField.stringValue(), "") << "corrected while typing";
     }
 }
 

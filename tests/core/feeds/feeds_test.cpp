@@ -24,7 +24,7 @@ const std::string nets =
 struct FeedBench : TestBench {
     FeedBench() {
         receive("VS0;");
-        advance(2s);  // the refreshes of the start
+        advance(2s);  // the refreshes at the start end
         forgetWhatHappened();
         around.http.requests.clear();
         around.http.pending.clear();
@@ -121,7 +121,7 @@ TEST(Feeds, LongTextsAreCutWhereTheyAreShownAndSpoken) {
     for (const ListFeed& feed : listFeeds) {
         FeedBench bench;
         TableView& table = bench.display.*feed.table;
-        // All texts but the frequency, which is the second or the third, then that one, too.
+        // First all texts but the frequency (the second or the third), then the frequency, too.
         for (std::size_t frequency = 1; frequency < 4; ++frequency) {
             FeedRow row{std::vector<std::string>(10, longText)};
             if (frequency < 3) row.fields[frequency] = "7.1";
@@ -297,7 +297,7 @@ TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
     EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php?key=" + key);
     bench.http.answer(1, {nets, ""});
 
-    // Another refresh of the list does not swallow what is to be said.
+    // Another refresh of the list does not lose the announcement.
     table.pressCell(0, 7);
     post.body = R"({"action":0,"key":")" + key + R"(","net_id":"7"})";
     EXPECT_EQ(bench.http.requests.at(2), post);
@@ -308,7 +308,7 @@ TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
     bench.http.answer(4, {nets, ""});
     EXPECT_THAT(bench.takeSpoken(), ElementsAre("your confirmation of this net has been retracted"));
 
-    // A key that somebody has written into the settings by hand goes into no address.
+    // A malformed key, written into the settings by hand, is put into no address.
     bench.around.settings.values["operator"] = "me&all=1";
     bench.controller.fetchNets();
     EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php");

@@ -12,7 +12,7 @@ using testing::IsEmpty;
 
 using Texts = std::vector<std::string>;
 
-// What a frequency report leaves of its side: stored, title, entry field, spoken form, active VFO, operator class.
+// What a frequency report changes on its side: stored, title, entry field, spoken form, active VFO, operator class.
 Texts shown(const TestBench& bench, char side) {
     const RadioState& radio = bench.radio;
     const Display& display = bench.display;

@@ -13,7 +13,7 @@ using Texts = std::vector<std::string>;
 
 std::string numberOf(const MenuItemRow& row) { return zeroPadded(row.number, 6); }
 
-// What the transceiver holds, without what is before the value on the line.
+// The transceiver's value of an item, without the text before it on the line.
 std::string heldBy(const RadioBench& bench, const MenuItemRow& row) {
     return bench.transceiver.state().menu.value(numberOf(row)).value_or("none");
 }
@@ -50,7 +50,7 @@ TEST(MenuSettingsTest, EveryEntryOfEveryItemIsSetReportedAndReadBack) {
     EXPECT_EQ(written, 215);
 }
 
-// What the operator turns on the transceiver itself.
+// Items that the operator changes on the transceiver itself.
 TEST(MenuSettingsTest, ItemsThatAreOnlyShownFollowTheTransceiver) {
     RadioBench bench;
     for (const auto& [report, title] : {std::pair{"EX0203012;", "100"}, std::pair{"EX0302011;", "Wide"}}) {
@@ -151,7 +151,7 @@ TEST(MenuSettingsTest, AReportThatSaysNothingChangesNothing) {
           "EX0101089;", "EX010108;", "EX010120000;", "EX990101000;", "EX+1010400;", "EX0106011;", "EX01010\xc3\xa9;"})
         bench.receive(report);
     EXPECT_EQ(shown(), before);
-    bench.receive("EX01010403609;");  // what follows the value is ignored
+    bench.receive("EX01010403609;");  // characters after the value are ignored
     EXPECT_EQ(bench.display.menu.popUp(0, 2010104)->titleOfSelectedItem(), "0360");
 }
 
@@ -187,7 +187,7 @@ TEST(MenuSettingsTest, ReadingAGroupTellsHowFarItIs) {
     });
     EXPECT_EQ(unread, 0);
 
-    // A transceiver without some sub-menus, one that falls silent, and a link that is closed.
+    // A transceiver without some sub-menus, one that stops answering, and a link that is closed.
     bench.port->onWrite = nullptr;
     bench.display.key(2040100).performClick();
     for (const int item :
@@ -211,7 +211,7 @@ TEST(MenuSettingsTest, ReadingAGroupTellsHowFarItIs) {
     bench.display.openCloseButton.performClick();
     EXPECT_THAT(bench.display.menu.readField(1).stringValue(), ::testing::HasSubstr("stopped, the link is closed"));
     bench.display.key(2020100).performClick();
-    EXPECT_FALSE(bench.display.menu.readProgress(1).visible()) << "nobody is asked";
+    EXPECT_FALSE(bench.display.menu.readProgress(1).visible()) << "no read is under way";
 }
 
 TEST(MenuSettingsTest, ASearchFindsItemsByTheWordsOfTheirLabels) {

@@ -8,7 +8,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr int before = 1;  // the entry that stands when a report comes
+constexpr int before = 1;  // the selected entry before the report
 constexpr int none = PopUpButton::noSelection;
 
 TEST(OperatingStateResponses, APopUpSelectsTheReportedValue) {
@@ -93,7 +93,7 @@ TEST(OperatingStateResponses, AFGainBelowFiveCountsAsMuted) {
         EXPECT_TRUE((Volume{bench.display.afGainSlider.integerValue(), bench.radio.vqAFLevel, bench.radio.vqMuted,
                             mute.image(), mute.bezelColor()}) == volume)
             << response;
-        EXPECT_EQ(mute.tag(), 610) << "the tag belongs to the operator";
+        EXPECT_EQ(mute.tag(), 610) << "only a press changes the tag";
     }
 }
 

@@ -17,7 +17,7 @@ const std::string titles =
     "Location,Name,Frequency,Duplex,Offset,Tone,rToneFreq,cToneFreq,DtcsCode,DtcsPolarity,Mode,TStep,Skip,Comment,"
     "URCALL,RPT1CALL,RPT2CALL,DVCODE\r\n";
 
-// A channel in every mode, with names that need care.
+// A channel in every mode, with names that are hard to quote.
 MemoryTable everyMode() {
     MemoryTable table;
     for (std::size_t i = 0; i < operatingModes.size(); ++i)
@@ -96,7 +96,7 @@ TEST(MemoryCsv, TakesWhatItCanAndSaysWhyNotTheRest) {
         {"Location;Frequency\n", {"Its first line has no column \"Location\".", {}, {}}},
         {"location\n", {"Its first line has no column \"Frequency\".", {}, {}}},
         {"Location,Frequency\n", {}},
-        // other order, other columns, small letters, no Name; the usual side band where there is no mode
+        // another order, other columns, lower case, no Name; the usual side band if there is no mode
         {"\xef\xbb\xbf"
          "FREQUENCY ,Power,location\r\n7.1,5W, 09 \r\n14,5W,10\r\n",
          {"",
@@ -223,7 +223,7 @@ TEST(MemoryImport, ChangesTheTableAsAnEditDoes) {
     bench.import();
     bench.takeAll();
     EXPECT_EQ(bench.table, expected);
-    EXPECT_EQ(bench.controller.memories.read().asRead, before) << "what the transceiver holds has not changed";
+    EXPECT_EQ(bench.controller.memories.read().asRead, before) << "the channels last read have not changed";
     EXPECT_GT(bench.display.memoriesTable.version(), version);
     EXPECT_EQ(bench.display.memoryReadField.stringValue(), "1 channel imported, not written to the transceiver yet");
     EXPECT_THAT(bench.takeWrites(), IsEmpty());

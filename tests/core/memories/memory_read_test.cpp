@@ -12,7 +12,7 @@ using testing::IsEmpty;
 
 const MemoryChannel unread;
 
-// The 200 requests of a whole read: of both kinds the first channel twice, then every other one.
+// The 200 requests of a whole read: for each kind the first channel twice, then all others.
 Writes wholeRead() {
     Writes requests;
     for (const char* name : {"MR", "MT"}) {
@@ -115,18 +115,18 @@ TEST(MemoryRead, StartsAfreshWhereverTheLastOneStopped) {
     EXPECT_THAT(bench.controller.memories.vqMemArray(), Each(unread));
 }
 
-// A request that was under way when a read was begun anew, and an error answer to another command, leave the chain one
-// reply ahead: its last one comes after the tags have begun.
+// A request that was under way when a read was started again, or an error response to another command, adds one reply.
+// Then the reply for the last channel comes after the tags have begun.
 TEST(MemoryRead, LosesNoChannelWhenTheChainRunsAhead) {
     simulator::RadioState state = simulator::startState();
     for (int channel = 1; channel <= memoryChannels; ++channel) {
         state.memories.write(channel, {7'000'000 + channel, '1'});
         state.memories.writeTag(channel, "TAG " + std::to_string(channel), true);
     }
-    for (const bool begunAnew : {true, false}) {
+    for (const bool startedAgain : {true, false}) {
         RadioBench bench(state);
         bench.display.readMemoriesButton.performClick();
-        if (begunAnew) {
+        if (startedAgain) {
             bench.display.readMemoriesButton.performClick();
         } else {
             bench.receive("?;");
@@ -139,7 +139,7 @@ TEST(MemoryRead, LosesNoChannelWhenTheChainRunsAhead) {
             EXPECT_THAT(channel.tag, testing::StartsWith("TAG " + std::to_string(row + 1))) << row;
             EXPECT_EQ(bench.controller.memories.read().asRead[static_cast<std::size_t>(row)].row, channel) << row;
         }
-        EXPECT_EQ(bench.radio.vqMemATag, "") << "it is no channel in use";
+        EXPECT_EQ(bench.radio.vqMemATag, "") << "the channel in use is another one";
     }
 }
 

@@ -29,7 +29,7 @@ struct TableBench : TestBench {
     const MemoryTable& rows = controller.memories.vqMemArray();
     const MemoryChannel& row(int index) const { return rows[static_cast<std::size_t>(index)]; }
     void put(std::size_t index, const MemoryChannel& channel) { putChannel(controller.memories, index, channel); }
-    // The tags of the first rows, each with its channel in front.
+    // The tags of the first rows, each after its channel.
     Writes shown(int count) {
         Writes all;
         for (int index = 0; index < count; ++index) all.push_back(table.cell(index, 1) + ' ' + table.cell(index, 4));
@@ -84,11 +84,11 @@ TEST(MemoryTable, ATagKeepsTwelvePlainCharacters) {
         {"", ""},
         {"  two  ", "  two  "},
         {"Caf\u00e9 Nationwide 40m", "Caf Nationwi"},
-        {"e\u0301cole", "cole"},        // an accent that stands by itself takes its letter along
-        {"7\ufe0f\u20e3 net", " net"},  // a figure that became a sign
+        {"e\u0301cole", "cole"},        // a combining accent removes its letter, too
+        {"7\ufe0f\u20e3 net", " net"},  // a digit that combines to an emoji
         {"\u4f60\u597d 73", " 73"},     //
         {"a\u05b0b\u0e33c", "c"},       // marks of other scripts
-        {"\u06001 2", " 2"},            // a mark that belongs to the figure behind it
+        {"\u06001 2", " 2"},            // a mark that combines with the digit after it
         {"a\r\nbcdefghijklmno", "a\r\nbcdefghijk"},
         {"A;TX1;", "ATX1"},
         {"\xff", ""},
@@ -114,7 +114,7 @@ TEST(MemoryTable, AChosenModeIsStoredAsItsCode) {
     }
     for (const int entry : {-1, 16}) bench.table.chooseInCell(7, modeColumn, entry);
     EXPECT_EQ(bench.row(7).mode, "F");
-    EXPECT_EQ(bench.table.version(), version) << "the table is not loaded anew";
+    EXPECT_EQ(bench.table.version(), version) << "the table is not reloaded";
     EXPECT_EQ(memoryModeEntry("10"), 10);
     for (const char* field : {" ", "", "X", "2B", "b"}) EXPECT_EQ(memoryModeEntry(field), 0) << field;
 
@@ -160,7 +160,7 @@ TEST(MemoryTable, AMovedRowTakesTheChannelOfItsPlace) {
     EXPECT_EQ(bench.display.autoMemTable.drop("0", 1), std::nullopt);
 }
 
-// The tags in the order after so many presses of a header.
+// Presses a header and gives the tags in their new order.
 Writes sortedTags(TableBench& bench, int column) {
     bench.table.pressHeader(column);
     Writes tags;
@@ -221,7 +221,7 @@ TEST(MemoryTable, AnEditOrAReadForgetsThatItWasSortedByFrequency) {
     table.editCell(5, frequencyColumn, "7.1");
     EXPECT_EQ(directions(), none);
     table.pressHeader(frequencyColumn);
-    EXPECT_EQ(directions().first, SortDirection::ascending) << "it begins anew";
+    EXPECT_EQ(directions().first, SortDirection::ascending) << "the first press sorts ascending again";
     bench.display.readMemoriesButton.performClick();
     bench.settle();
     EXPECT_EQ(directions(), none);
@@ -262,7 +262,7 @@ TEST(MemoryTable, SortingIsStableWhateverTheRowsHold) {
     }
 }
 
-// Replies name channels: were rows moved meanwhile, a tag would come to stand beside another channel's frequency.
+// Replies name channels: if a row were moved during a read, it would get another channel's tag.
 TEST(MemoryTable, RowsStayInPlaceWhileAReadIsUnderWay) {
     RadioBench bench;
     TableView& table = bench.display.memoriesTable;
@@ -282,11 +282,10 @@ TEST(MemoryTable, RowsStayInPlaceWhileAReadIsUnderWay) {
     bench.display.readMemoriesButton.performClick();
     EXPECT_EQ(moves(), std::pair(false, false));
     bench.advance(20s);
-    EXPECT_EQ(moves(), std::pair(true, true)) << "a read that has stopped holds up nothing";
+    EXPECT_EQ(moves(), std::pair(true, true)) << "a read that has stopped blocks nothing";
 }
 
-// What is saved before a write is what the transceiver held, not what was typed while it was read.
-// What a halted read still brings names channels; by then the rows may be others.
+// Late replies of a stopped read name channels, and their rows may have moved.
 TEST(MemoryTable, AMoveEndsAHaltedRead) {
     TableBench bench;
     bench.outlastOpening();
@@ -306,6 +305,7 @@ TEST(MemoryTable, AMoveEndsAHaltedRead) {
     EXPECT_FALSE(bench.controller.memories.read().whole);
 }
 
+// Before a write the channels are saved as the transceiver reported them.
 TEST(MemoryTable, AnEditDuringAReadIsNoPartOfWhatWasRead) {
     RadioBench bench;
     bench.display.readMemoriesButton.performClick();

@@ -57,7 +57,7 @@ TEST(MemoryWrite, WaitsBeforeItsLastCommandAndKeepsTheWindowAlive) {
     bench.advance(1ms);
     EXPECT_THAT(bench.takeWrites(), ElementsAre("VS0;", "MC001;"));
 
-    // What is left of a write does not reach a link that was opened afterwards.
+    // The rest of a write is not sent to a link that was opened later.
     bench.controller.writeMemoriesToRadio(bench.display.writeMemoriesButton);
     bench.display.openCloseButton.performClick();
     bench.display.openCloseButton.performClick();
@@ -109,7 +109,7 @@ TEST(MemoryWrite, SavesWhatWasReadBeforeItIsWrittenOver) {
                                     "2,\"CW \"\"QRP\"\", 40\",7.030500,CW-U,+000000310000\n"));
     EXPECT_EQ(bench.display.memoryBackupField.stringValue(), "The channels as they were are saved in " + path);
 
-    // What was written by this program need not be saved; what is read afterwards is.
+    // A second write saves nothing: the channels were written by this program. After another read it saves again.
     bench.display.writeMemoriesButton.performClick();
     EXPECT_EQ(files.size(), 1U);
     bench.display.readMemoriesButton.performClick();

@@ -25,7 +25,7 @@ LinkButtons linkButtons(const Display& display) {
             display.readMemoriesButton.enabled()};
 }
 
-// A program with ports to choose from, none of them open, and every call of a port written down.
+// A program with several closed ports and a journal of their calls.
 struct SerialPortsTest : testing::Test {
     Texts calls;
     const std::shared_ptr<FakeSerialPort> first = std::make_shared<FakeSerialPort>("ttyUSB0", &calls);
@@ -89,7 +89,7 @@ TEST_F(SerialPortsTest, BeginsWithTheSuggestedPortUnlessOneIsRemembered) {
     start({first, second});
     EXPECT_EQ(display.PortPopUpButton.indexOfSelectedItem(), PopUpButton::noSelection);
     EXPECT_EQ(controller.link.serialPort(), nullptr);
-    // A remembered port that is not there is not replaced by another one.
+    // A remembered port that is missing is not replaced by another one.
     for (const auto& [remembered, chosen] : {std::pair{"", second}, {"ttyUSB9", nullptr}, {"ttyUSB0", first}}) {
         Surroundings other;
         other.portManager.ports = {first, second};

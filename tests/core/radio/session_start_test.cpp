@@ -13,7 +13,7 @@ const std::string synchronisation =
     "PS;AI1;AI;AG0;VS1;VS0;IF;OI;VS;SV;MD0;NB0;NR0;PC;FA;FB;VS0;BC0;BI;PA0;BP00;CO00;GT0;RA0;RF0;SF0;SF1;"
     "SS00;SS01;SS02;SS03;SS04;SS05;SS06;MS;EX040101;SV;";
 
-// What stands at a moment: the writes since the last look, the page in front and the settings pages asked for.
+// The state at a moment: the writes since the last look, the page in front and the settings pages requested.
 struct Moment {
     Writes writes;
     int page;

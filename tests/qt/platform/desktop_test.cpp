@@ -1,4 +1,4 @@
-// The small ones: browser, log, and the worker behind speech and sounds.
+// Browser, data folder, log, and the worker behind speech and sounds.
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
@@ -45,7 +45,7 @@ TEST(HomeDataFolderTest, SavesWholeFilesAndSaysWhyItCannot) {
         EXPECT_EQ(saved.path, home.filePath("data/memory-channels/a.csv").toStdString());
         EXPECT_EQ(contents(saved.path), text);
     }
-    const SavedFile refused = folder.save("memory-channels/a.csv/b.csv", "x");  // a file stands where a folder should
+    const SavedFile refused = folder.save("memory-channels/a.csv/b.csv", "x");  // a file is in the folder's place
     EXPECT_NE(refused.error, "");
     EXPECT_EQ(contents(home.filePath("data/memory-channels/a.csv").toStdString()), "second, longer\n");
 }

@@ -107,7 +107,7 @@ TEST_F(IniSettingsStoreTest, AFullDiskLeavesTheOldFileWholeAndIsTold) {
     struct rlimit limits;
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limits), 0);
     const auto ignored = std::signal(SIGXFSZ, SIG_IGN);
-    const struct rlimit nothing { 4, limits.rlim_max };  // bytes a file may have
+    const struct rlimit nothing { 4, limits.rlim_max };  // greatest size of a file in bytes
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &nothing), 0);
     store.setText("call", "N1CALL");
     const bool known = eventually([&] { return told > 0; });
@@ -130,7 +130,7 @@ TEST_F(IniSettingsStoreTest, AFullDiskIsToldOfAlsoAfterABadFile) {
     IniSettingsStore store(path);
     ASSERT_FALSE(store.problem().empty());
     QFile(path).remove();
-    ASSERT_TRUE(QDir().mkdir(path));  // nothing can be written there
+    ASSERT_TRUE(QDir().mkdir(path));  // a folder cannot be written as a file
     int told = 0;
     store.onProblem = [&] { ++told; };
     store.setText("call", "N0CALL");

@@ -1,4 +1,4 @@
-// A web server on this machine that answers as a test says.
+// A web server on this machine that gives the answers of a test.
 #pragma once
 
 #include <QSslConfiguration>
@@ -14,8 +14,8 @@ namespace corvane {
 
 class LocalServer {
 public:
-    // What to answer a request, its bytes on the line; called once its head and body have come. Without an answer the
-    // connection stays silent.
+    // Called with the bytes of a request once its head and body have come; answers it, or lets the connection stay
+    // silent.
     using Answer = std::function<void(QTcpSocket& client, const std::string& request)>;
 
     // With `tls` the server speaks https.

@@ -1,4 +1,4 @@
-// Runs the tests with a Qt application around them, on no screen.
+// Runs the tests in a Qt application without a screen.
 #include <gtest/gtest.h>
 
 #include <QApplication>

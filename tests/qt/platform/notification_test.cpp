@@ -20,7 +20,7 @@ namespace {
 
 constexpr const char* serviceName = "org.freedesktop.Notifications";
 
-// A bus of our own, with nothing on it and nothing that starts by itself.
+// Our own bus, without services and without automatic starts.
 class PrivateBus {
 public:
     PrivateBus() {
@@ -45,7 +45,7 @@ private:
     QByteArray address_;
 };
 
-// A notification service that numbers its notices from 7 and writes down the calls.
+// A notification service that numbers its notices from 7 and records the calls.
 class FakeService : public QDBusVirtualObject {
 public:
     std::vector<QDBusMessage> calls;

@@ -1,4 +1,4 @@
-// Both ends of a serial line that is not there.
+// A simulated serial line: a pseudo-terminal.
 #pragma once
 
 #include <fcntl.h>
@@ -13,7 +13,7 @@
 
 namespace corvane {
 
-// The far end in hand; the near end can be opened under `path()` like a serial device. `unplug` takes it away.
+// Holds the far end; the near end can be opened under `path()` like a serial device. `unplug` removes it.
 class PseudoTerminal {
 public:
     PseudoTerminal() : master_(::posix_openpt(O_RDWR | O_NOCTTY)) {
@@ -39,7 +39,7 @@ public:
         return ::write(master_, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
     }
 
-    // What has come and not been taken yet.
+    // The bytes that have arrived since the last call.
     std::string taken() const {
         std::string bytes;
         pollfd line{master_, POLLIN, 0};

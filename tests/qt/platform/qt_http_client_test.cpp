@@ -17,7 +17,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// What an exchange comes to.
+// The outcome of an exchange.
 std::optional<HttpResponse> fetched(const HttpRequest& request, std::chrono::milliseconds patience = 5s) {
     QtHttpClient client;
     std::optional<HttpResponse> answer;
@@ -85,7 +85,7 @@ TEST(QtHttpClientTest, SaysInAFewWordsWhyThereIsNoGoodAnswer) {
     EXPECT_EQ(problem("http://127.0.0.1:1/"), "the server does not answer");
     EXPECT_NE(problem("not a url"), "");
     EXPECT_EQ(fetched(get(server.url("/there")))->body, "here");
-    HttpRequest unsafe = get("https" + server.url().substr(4));  // a plain server speaks no TLS
+    HttpRequest unsafe = get("https" + server.url().substr(4));  // the server does not use TLS
     unsafe.timeout = 300ms;
     EXPECT_NE(fetched(unsafe)->problem, "");
     HttpRequest silent = get(server.url("/silent"));
@@ -165,7 +165,7 @@ TEST(QtHttpClientTest, AnAnswerIsReadBesideTheEventLoop) {
     EXPECT_EQ(answered, 1) << "neither what was cancelled nor what outlives the client";
 }
 
-// What a server of its own for each certificate gets, and what the client says of it.
+// For each certificate: the requests that its server gets, and the client's problem.
 TEST(QtHttpClientTest, OnlyAServerThatIsWhoItSaysIsTrusted) {
     const auto here = [](QTcpSocket& client, const std::string&) { client.write(LocalServer::ok("here").c_str()); };
     const struct {

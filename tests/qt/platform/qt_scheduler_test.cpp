@@ -20,7 +20,7 @@ TEST(QtSchedulerTest, RunsInTheOrderOfDueTimesAndEqualOnesAsGiven) {
     scheduler.after(milliseconds(20), note(4));
     for (const int number : {1, 2, 3}) scheduler.after(milliseconds(10), note(number));
     scheduler.after(milliseconds(0), note(0));
-    EXPECT_TRUE(order.empty());  // nothing from inside the call
+    EXPECT_TRUE(order.empty());  // no task runs inside the call
     EXPECT_TRUE(eventually([&] { return order.size() == 5; }));
     EXPECT_EQ(order, (Order{0, 1, 2, 3, 4}));
 }

@@ -54,7 +54,7 @@ TEST_F(QtSerialPortTest, OpensWithTheLineSettingsAndSendsInOrder) {
     std::string sent;
     EXPECT_TRUE(eventually([&] { return (sent += line.taken()).size() >= 7; }));
     EXPECT_EQ(sent, "FA;MD0;");
-    port->open();  // stays as it is
+    port->open();  // has no effect
     EXPECT_EQ(delegate.reports, Reports{"opened"});
 }
 
@@ -178,7 +178,7 @@ TEST_F(QtSerialPortTest, TheDelegateMayLetGoOfAPortThatWasRemoved) {
     EXPECT_EQ(delegate.reports, (Reports{"opened", "removed"}));
 }
 
-// The superuser may open everything; for a moment this test is nobody.
+// The superuser may open everything, so this test runs as the user "nobody" for a moment.
 class AsNobody {
 public:
     AsNobody() { changed_ = ::geteuid() == 0 && ::setresuid(65534, 65534, 0) == 0; }

@@ -1,4 +1,4 @@
-// Writes down what a port reports.
+// Records a port's callbacks.
 #pragma once
 
 #include <functional>

@@ -1,9 +1,9 @@
-// Read by the sanitizers where the tests are built with them; nobody calls these otherwise.
+// Options that the sanitizers read when the tests are built with them.
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the names are the sanitizers' own.
 
-// The speech library loses a few bytes of its own each time it finds no service. Only the slow way of walking the stack
-// sees who asked for them.
+// The speech library leaks a few bytes each time it finds no service. Only slow unwinding finds the library in the
+// stack.
 extern "C" const char* __lsan_default_suppressions() { return "leak:spd_open2\n"; }
 extern "C" const char* __asan_default_options() { return "fast_unwind_on_malloc=0"; }
 

@@ -23,7 +23,7 @@ TEST(SoundFileTest, NamesThatLeaveTheFolderGiveNothing) {
     EXPECT_EQ(soundFile("/s", std::string("a\0b", 3)), "");
 }
 
-TEST(PulseSoundPlayerTest, WithoutAServerOrAFileNothingHappensAndNobodyWaits) {
+TEST(PulseSoundPlayerTest, WithoutAServerOrAFileNothingPlaysAndNothingWaits) {
     qputenv("PULSE_SERVER", "unix:/no/such/socket");
     QElapsedTimer clock;
     clock.start();
@@ -37,7 +37,7 @@ TEST(PulseSoundPlayerTest, WithoutAServerOrAFileNothingHappensAndNobodyWaits) {
     EXPECT_LT(clock.elapsed(), 500);
 }
 
-// Each sound is short, mono, of moderate level, begins and ends softly, and is none of the others.
+// Each sound is short, mono and of moderate level, begins and ends softly, and differs from the others.
 TEST(SoundsTest, AreShortSoftAndDistinct) {
     std::set<std::vector<std::int16_t>> all;
     const std::vector<std::string> names = {"Seatbelts",   "Funk",          "alerts/Tink", "alerts/Basso",

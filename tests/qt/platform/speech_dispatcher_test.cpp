@@ -21,8 +21,7 @@
 namespace corvane {
 namespace {
 
-// Speaks the service's side of its protocol on a socket of our own, and writes down what it is told, texts marked with
-// "> ".
+// A service on our own socket. Records the commands and, after "> ", the texts that it gets.
 class FakeSpeechService {
 public:
     enum class Manner { answers, hangs };
@@ -103,7 +102,7 @@ private:
             if (line != "." && !speak) lines_.push_back((speaking_ ? "> " : "") + line);
         }
         speaking_ = speak || (speaking_ && line != ".");
-        ::send(socket, reply.data(), reply.size(), MSG_NOSIGNAL);  // a client that has gone need not be told
+        ::send(socket, reply.data(), reply.size(), MSG_NOSIGNAL);  // a client that has closed gets no reply
     }
 
     Manner manner_;
@@ -175,7 +174,7 @@ TEST_F(SpeechDispatcherTest, ARestartedServiceIsFoundAtOnce) {
     EXPECT_TRUE(eventually([&] { return service.texts() == std::vector<std::string>{"> after"}; }));
 }
 
-TEST_F(SpeechDispatcherTest, AServiceThatHangsHoldsUpNobody) {
+TEST_F(SpeechDispatcherTest, AServiceThatHangsDelaysNothing) {
     const FakeSpeechService service(path, FakeSpeechService::Manner::hangs);
     QElapsedTimer clock;
     clock.start();

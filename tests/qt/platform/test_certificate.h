@@ -1,4 +1,4 @@
-// A certificate that is made for one test and nobody but the test trusts.
+// A certificate that is made for one test and trusted only by it.
 #pragma once
 
 #include <QProcess>
@@ -11,7 +11,7 @@ namespace corvane {
 
 class TestCertificate {
 public:
-    // `name` is whom it is for: "IP:127.0.0.1" or "DNS:elsewhere.example"; valid from now for `days`, -1: until
+    // `name` is the server's: "IP:127.0.0.1" or "DNS:elsewhere.example". Valid for `days` from now; -1: until
     // yesterday.
     explicit TestCertificate(const QString& name, int days = 1) {
         run("req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -keyout key.pem -out first.pem "

@@ -1,4 +1,4 @@
-// Answers of the size of the bound, and of servers that cannot be trusted, in the whole program.
+// Answers of the greatest size, and untrusted servers, in the whole program.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 constexpr double slower = 0.05;  // 2 s take 40 s: all the time that a slow machine needs
 
-// As many of the smallest records as fit.
+// As many of the smallest records as fit into the bound.
 struct LargeList {
     const char* path;
     const char* opening;

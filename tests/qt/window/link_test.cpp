@@ -22,7 +22,7 @@ using namespace std::chrono_literals;
 TEST(LinkTest, ASilentTransceiverGetsThreeTextsAtTheirTimesAndNothingElse) {
     Station station;
     station.radio.operate([](auto& radio) { radio.setFaults({.silent = true}); });
-    // The marks stand on the clock of the session itself, so that a slow machine delays both alike.
+    // The marks use the session's own clock, so that a slow machine delays both equally.
     constexpr std::array marks{4500ms, 6000ms, 7500ms, 8700ms, 13000ms, 25000ms};
     std::vector<std::string> received;
     for (const auto mark : marks)
@@ -37,7 +37,7 @@ TEST(LinkTest, ASilentTransceiverGetsThreeTextsAtTheirTimesAndNothingElse) {
     EXPECT_TRUE(station.find<QLabel>("linkStatusField")->text().endsWith("waiting for the transceiver"));
 }
 
-// What the window shows of the frequency of VFO A.
+// All that the window shows of VFO A's frequency.
 struct Shown {
     std::string title;
     bool bandLit;
@@ -114,7 +114,7 @@ TEST(LinkTest, KeysOfTheWindowOperateTheTransceiver) {
     EXPECT_TRUE(becomes("AG0;", "AG0080;"));
     EXPECT_TRUE(eventually([&] { return !station.find("muteButton")->isChecked(); }));
 
-    // The mute key has switched break-in on, as every key does; the radio reports it.
+    // The mute key has switched break-in on, as every key does; the transceiver reports it.
     EXPECT_TRUE(eventually([&] { return station.find("bkinButton")->isChecked(); }));
     station.click("bkinButton");
     EXPECT_TRUE(becomes("BI;", "BI0;"));
@@ -150,11 +150,11 @@ TEST(LinkTest, PullingThePlugIsSaidAndShown) {
     EXPECT_EQ(station.find<QLabel>("linkStatusField")->text(), "Not connected");
     EXPECT_EQ(station.find("openCloseButton")->text(), "Connect");
     EXPECT_FALSE(station.display.readMemoriesButton.enabled());
-    station.click("m20Button");  // goes nowhere, and does no harm
+    station.click("m20Button");  // has no effect
     EXPECT_EQ(station.controller.link.serialPort(), nullptr);
 }
 
-// Name and contents of every key, pop-up and field that stands in the window.
+// Name and contents of every key, pop-up and field in the window.
 std::map<std::string, std::string> snapshot(Station& station) {
     std::map<std::string, std::string> shown;
     for (auto* key : station.window.findChildren<QAbstractButton*>())
@@ -182,7 +182,7 @@ TEST(LinkTest, AnswersCutInTwoAreStillWholeResponses) {
 }
 
 #ifdef __SANITIZE_ADDRESS__
-constexpr bool freedMemoryStays = true;  // for a while, so that a late use of it is seen
+constexpr bool freedMemoryStays = true;  // sanitizers keep it, to find a late use
 #else
 constexpr bool freedMemoryStays = false;
 #endif

@@ -43,7 +43,7 @@ TEST(ListsTest, AreFilledFilteredAndTunedTo) {
     station.lists.awakeFromNib();
     QTableView* table = showPotaTable(station);
     ASSERT_NE(table, nullptr);
-    // A machine that is busy otherwise may need a second try.
+    // A busy machine may need a second try.
     TextField& status = station.lists.display.potaStatusField;
     ASSERT_TRUE(eventually([&] {
         if (status.stringValue().ends_with("no answer within 2 s")) station.lists.fetchPotaSpots();

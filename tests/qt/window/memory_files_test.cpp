@@ -1,4 +1,4 @@
-// Memory channels to a file and from one, in the real window.
+// Export and import of memory channels, in the real window.
 #include <gtest/gtest.h>
 
 #include <QFileDialog>
@@ -16,7 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// The window over a folder of its own, with three programmed channels.
+// The window with its own folder and three programmed channels.
 struct FilesStation : Station {
     FilesStation() {
         synchronise();

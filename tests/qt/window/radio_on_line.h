@@ -29,21 +29,21 @@ public:
         connect();
     }
 
-    // A hand on the transceiver, now.
+    // Operates the transceiver, now.
     void operate(const std::function<void(simulator::SimulatedTransceiver&)>& action) {
         transceiver.advanceTo(now());
         action(transceiver);
         arm();
     }
 
-    // Takes what the program has written so far.
+    // Handles the bytes that the program has written so far.
     void serve() {
         for (std::string bytes = terminal->read(); !bytes.empty(); bytes = terminal->read())
             transceiver.receive(bytes, now());
         arm();
     }
 
-    // Where the program finds the line, whichever terminal is behind it.
+    // The path under which the program finds the line, for any terminal.
     std::string path() const { return folder_.filePath("radio").toStdString(); }
     void unplug() {
         arrival_.reset();
@@ -55,7 +55,7 @@ public:
         connect();
     }
 
-    // What came in since this was asked last, the bytes as one text.
+    // The bytes received since the last call, as one text.
     std::string takeReceived() {
         if (terminal) serve();
         std::string text;

@@ -14,7 +14,7 @@ namespace {
 
 struct MenuStation : Station {
     QComboBox* popUp(int tag) { return find<QComboBox>(("tag" + std::to_string(tag)).c_str()); }
-    // What the transceiver holds in an item of its menu.
+    // The transceiver's value of a setup menu item.
     std::string held(const char* item) { return radio.transceiver.state().menu.value(item).value_or("none"); }
 };
 

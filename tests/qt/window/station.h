@@ -1,5 +1,4 @@
-// The whole program on no screen: its real platform and window, wired to the simulated transceiver by a real serial
-// port.
+// The whole program without a screen: real platform and window, and the simulated transceiver on a real serial port.
 #pragma once
 
 #include <QAbstractButton>
@@ -76,7 +75,7 @@ public:
         click("openCloseButton");
         ASSERT_TRUE(controller.link.serialPort() && controller.link.serialPort()->isOpen());
     }
-    // Opens the port and waits until everything that was asked has been answered and the line is quiet.
+    // Opens the port and waits until all requests have been answered and the line is quiet.
     void synchronise() {
         open();
         ASSERT_TRUE(eventually([this] { return radio.transceiver.received().count("EX") > 0; }));
@@ -98,7 +97,7 @@ public:
     const QTemporaryDir folder;
     QtPlatform owner{options("corvane.conf")};
     Platform platform = owner.platform();
-    SerialPortDemoController controller{platform, ServiceHosts::from("http://127.0.0.1:1")};  // nobody there
+    SerialPortDemoController controller{platform, ServiceHosts::from("http://127.0.0.1:1")};  // no server there
     Display& display = controller.display;
     MainWindow window{controller};
 };

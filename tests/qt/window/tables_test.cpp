@@ -1,4 +1,4 @@
-// Hands in the tables: edits, menus, drags, keys and links in the real window, with the transceiver behind them.
+// Edits, menus, drags, keys and links of the tables in the real window, with the transceiver connected.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
@@ -31,7 +31,7 @@ constexpr int tagColumn = 4;
 // The page of the memories after a read of all channels.
 struct Memories : Station {
     Memories() {
-        display.autoMemSquelchSlider.drag(15);  // nothing is recorded by itself
+        display.autoMemSquelchSlider.drag(15);  // no auto memory is recorded
         synchronise();
         show(Display::memoriesPage);
         read();
@@ -53,7 +53,7 @@ struct Memories : Station {
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
     }
     using Station::click;
-    // The field that is open in a cell after Enter.
+    // The editor that Enter opens in a cell.
     QLineEdit* edit(QTableView& view, const QModelIndex& index) {
         EXPECT_TRUE(eventually([&] { return isClosed(view); }));
         view.setFocus();
@@ -61,7 +61,7 @@ struct Memories : Station {
         QTest::keyClick(&view, Qt::Key_Return);
         return editor(view);
     }
-    // Types over what stands in a memory cell.
+    // Replaces the text of a memory cell by typing.
     void type(int row, int column, const char* typed) {
         QLineEdit* field = edit(table(), cell(row, column));
         ASSERT_NE(field, nullptr);
@@ -73,14 +73,14 @@ struct Memories : Station {
         QTest::keyClick(field, Qt::Key_Return);
         ASSERT_TRUE(eventually([&] { return isClosed(table()); }));
     }
-    // The field that is open in some cell.
+    // The open editor, or null.
     static QLineEdit* editor(QTableView& view) {
         const auto fields = view.viewport()->findChildren<QLineEdit*>();
         const auto open = std::ranges::find_if(fields, &QWidget::isVisible);
         return open == fields.end() ? nullptr : *open;
     }
     static bool isClosed(QTableView& view) { return editor(view) == nullptr; }
-    // An entry of the menu that is open.
+    // Chooses an entry of the open menu.
     void choose(const char* menuName, const QString& entry) {
         QMenu* menu = nullptr;
         ASSERT_TRUE(eventually([&] { return (menu = find<QMenu>(menuName)) && menu->isVisible(); }));
@@ -92,7 +92,7 @@ struct Memories : Station {
         QTest::keyClick(menu, Qt::Key_Return);
         ASSERT_TRUE(eventually([&] { return find<QMenu>(menuName) == nullptr; }));
     }
-    // Drags a row, or any text, to the edge above a row; says whether it was taken.
+    // Drops a row, or any text, on the gap above a row; returns whether the table accepted it.
     bool drag(QMimeData* data, int gap) {
         const std::unique_ptr<QMimeData> deletes(data);
         const QRect below = table().visualRect(cell(std::min(gap, 98), tagColumn));
@@ -237,7 +237,7 @@ TEST(TablesTest, KeysMoveSortAndTune) {
     EXPECT_TRUE(eventually([&] { return station.radio.transceiver.state().activeTuning().frequency == 7'031'000; }));
 }
 
-// What is being typed belongs to its row: it follows the row, and comes to nothing when the row is gone.
+// An edit belongs to its row: it follows the row, and is dropped when the row no longer exists.
 TEST(TablesTest, AnOpenEditorNeverWritesIntoAnotherRow) {
     Memories station;
     const AutoMemoryState& kept = station.controller.autoMemories.state();
@@ -260,7 +260,7 @@ TEST(TablesTest, AnOpenEditorNeverWritesIntoAnotherRow) {
     EXPECT_TRUE(eventually([&] { return kept.vqAutoNotesArray == noted; }));
     EXPECT_EQ(notes.currentIndex().row(), 2);
 
-    // Gone before the window has shown it, and after.
+    // The row is removed before the window has shown it, and after.
     for (const bool shown : {false, true}) {
         note = station.edit(notes, notes.model()->index(1, 4));
         ASSERT_NE(note, nullptr);

@@ -1,4 +1,4 @@
-// The operator's tools in the real window, on a real serial line: what hands and keys do to the transceiver.
+// The operator's tools in the real window, on a real serial line: what mouse and keys send to the transceiver.
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -73,7 +73,7 @@ TEST(ToolsTest, ATypedFrequencyStaysWhileTheKnobTurnsAndTunesOnReturn) {
     EXPECT_EQ(station.box()->text(), "Frequency must be in MHz and greater than 0.03\n\nExample: 0.860");
     EXPECT_TRUE(station.box()->isModal());
     station.radio.operate([](auto& radio) { radio.tune(7'031'000); });
-    EXPECT_TRUE(eventually([&] { return field->text() == "7.031"; })) << "the window lives on behind the box";
+    EXPECT_TRUE(eventually([&] { return field->text() == "7.031"; })) << "the window keeps updating behind the alert";
     QTest::keyClick(station.box(), Qt::Key_Return);
     EXPECT_TRUE(eventually([&] { return station.box() == nullptr; }));
 }
@@ -141,7 +141,7 @@ TEST(ToolsTest, AWholeReadAsksForEveryChannelInOrder) {
     EXPECT_EQ(table->model()->index(4, 3).data(Qt::AccessibleTextRole).toString(), "Mode, CW-U, pop-up menu");
 }
 
-// Silence, a storm of errors, and a plug pulled in the middle: the next read works.
+// After silence, many error responses, or an unplugged port, the next read works.
 TEST(ToolsTest, AnInterruptedReadLeavesTheProgramUsable) {
     Tools station;
     ASSERT_TRUE(station.memoriesRead());
@@ -210,7 +210,7 @@ TEST(ToolsTest, WritingAsksAndIsTakenBackByEscape) {
 
 TEST(ToolsTest, AutoMemoriesAreTunedToAndClearedInTheirTable) {
     Tools station;
-    station.display.autoMemSquelchSlider.drag(15);  // nothing is recorded by itself meanwhile
+    station.display.autoMemSquelchSlider.drag(15);  // no auto memory is recorded
     station.show(Display::memoriesPage);
     station.click("tag815");
     for (const int hertz : {7'030'000, 7'040'000, 7'050'000}) {

@@ -1,4 +1,4 @@
-// The window itself: names, focus, shortcuts, pages, repainting and room.
+// The window itself: names, focus, shortcuts, pages, repainting and size.
 #include <gtest/gtest.h>
 
 #include <QAction>
@@ -46,7 +46,7 @@ void forEachPage(Station& station, Visit visit) {
     }
 }
 
-// What can be operated or is read by name, as far as it is in sight.
+// The visible widgets that can be operated or have a name for screen readers.
 std::vector<QWidget*> controlsInSight(Station& station) {
     std::vector<QWidget*> controls;
     for (auto* widget : station.window.findChildren<QWidget*>()) {
@@ -75,7 +75,7 @@ TEST(WindowTest, EveryControlHasItsOwnNameAndExplainsItself) {
             EXPECT_FALSE(control->objectName().isEmpty()) << describe(control);
             EXPECT_FALSE(control->accessibleName().isEmpty()) << describe(control);
             EXPECT_FALSE(control->toolTip().isEmpty()) << describe(control);
-            // A control may be shown in two places; it then says the same of itself in both.
+            // A control may be shown in two places, with the same name in both.
             const QWidget* other = byName.try_emplace(control->objectName(), control).first->second;
             EXPECT_EQ(other->toolTip(), control->toolTip()) << describe(control);
             EXPECT_EQ(other->accessibleName(), control->accessibleName()) << describe(control);
@@ -212,7 +212,7 @@ TEST(WindowTest, PagesAreMadeWhenTheyAreFirstShownOrAskedFor) {
     EXPECT_TRUE(eventually([&] { return station.find("m20Button") != nullptr; }));
     QWidget* const made = station.find("m20Button");
 
-    station.display.settingsTab.requestView(2);  // before there is a page of settings at all
+    station.display.settingsTab.requestView(2);  // before the settings page is made
     station.display.mainTab.selectItem(Display::settingsPage);
     EXPECT_TRUE(eventually([&] { return station.find("tag2030100") != nullptr; }));
     EXPECT_EQ(station.find("tag2040100"), nullptr);
