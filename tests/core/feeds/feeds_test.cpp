@@ -181,96 +181,45 @@ TEST(Feeds, BandConditionsAreShownInTheirColors) {
 }
 
 TEST(TuneCommand, FollowsTheRowsWordsAndUnits) {
+    using enum Feed;
     const struct {
-        int column;  // of the table's tune button
-        TableView Display::*table;
         Feed list;
         FeedRow row;
         std::string sent;
-        std::string spoken;
+        std::string spoken = {};
     } cases[] = {
-        {0,
-         &Display::potaTable,
-         Feed::pota,
-         {{"", "14074", "FT8", "", "Park"}},
-         "MD02;SF1E;FA014074000;SS0640000;",
-         "Park"},
-        {0,
-         &Display::potaTable,
-         Feed::pota,
-         {{"", "7185.5", "SSB", "", "Park"}},
-         "MD01;SF1E;FA007185500;SS0640000;",
-         "Park"},
-        {0,
-         &Display::potaTable,
-         Feed::pota,
-         {{"", "10100", "CW", "", "Park"}},
-         "MD03;SF1H;FA010100000;SS0640000;",
-         "Park"},
-        {0,
-         &Display::potaTable,
-         Feed::pota,
-         {{"", "9999.9", "CW", "", "Park"}},
-         "MD07;SF1H;FA009999900;SS0640000;",
-         "Park"},
-        {0, &Display::potaTable, Feed::pota, {{"", "14286", "AM", "", "Park"}}, "FA014286000;SS0640000;", "Park"},
-        {0, &Display::potaTable, Feed::pota, {{"", "14286", "ssb", "", "Park"}}, "FA014286000;SS0640000;", "Park"},
-        {0, &Display::potaTable, Feed::pota, {{"", "7.074.5", "SSB", "", "Park"}}, "", ""},
-        {0, &Display::potaTable, Feed::pota, {{"", "14074"}}, "", ""},
-        {0,
-         &Display::sotaTable,
-         Feed::sota,
-         {{"", "", "14.062", "CW", "", "", "Hill"}},
-         "MD03;SF1H;FA014062000;SS0640000;",
-         "Hill"},
-        {0,
-         &Display::sotaTable,
-         Feed::sota,
-         {{"", "", "2.001", "SSB", "", "", "Hill"}},
-         "MD01;SF1E;FA002000999;SS0640000;",
-         "Hill"},
-        {0, &Display::netsTable, Feed::nets, {{"Net", "3.940", "", "LSB"}}, "MD01;FA003940000;SS0640000;", "Net"},
-        {0, &Display::netsTable, Feed::nets, {{"Net", "3.940", "", "SSB"}}, "FA003940000;SS0640000;", "Net"},
-        {0,
-         &Display::netLoggerTable,
-         Feed::netLogger,
-         {{"Net", "14300"}},
-         "MD02;FA014300000;SS0640000;SS0560000;",
-         "Net"},
-        {0,
-         &Display::netLoggerTable,
-         Feed::netLogger,
-         {{"Net", "3.9155"}},
-         "MD01;FA003915500;SS0640000;SS0560000;",
-         "Net"},
-        {0,
-         &Display::netLoggerTable,
-         Feed::netLogger,
-         {{"Net", "10.0"}},
-         "MD01;FA001000000;SS0640000;SS0560000;",
-         "Net"},
-        {0,
-         &Display::netLoggerTable,
-         Feed::netLogger,
-         {{"Net", "7.0.7"}},
-         "MD01;FA000000000;SS0640000;SS0560000;",
-         "Net"},
-        {0, &Display::mwTable, Feed::mediumWave, {{"WAAA", "1000"}}, "MD05;FA001000000;SS0640000;", "WAAA"},
-        {0, &Display::mwTable, Feed::mediumWave, {{"WAAA", "540"}}, "MD05;FA000540000;SS0640000;", "WAAA"},
-        {0, &Display::mwTable, Feed::mediumWave, {{"WAAA", ""}}, "", ""},
+        {pota, {{"", "14074", "FT8", "", "Park"}}, "MD02;SF1E;FA014074000;SS0640000;", "Park"},
+        {pota, {{"", "7185.5", "SSB", "", "Park"}}, "MD01;SF1E;FA007185500;SS0640000;", "Park"},
+        {pota, {{"", "10100", "CW", "", "Park"}}, "MD03;SF1H;FA010100000;SS0640000;", "Park"},
+        {pota, {{"", "9999.9", "CW", "", "Park"}}, "MD07;SF1H;FA009999900;SS0640000;", "Park"},
+        {pota, {{"", "14286", "AM", "", "Park"}}, "FA014286000;SS0640000;", "Park"},
+        {pota, {{"", "14286", "ssb", "", "Park"}}, "FA014286000;SS0640000;", "Park"},
+        {pota, {{"", "7.074.5", "SSB", "", "Park"}}, ""},
+        {pota, {{"", "14074"}}, ""},
+        {sota, {{"", "", "14.062", "CW", "", "", "Hill"}}, "MD03;SF1H;FA014062000;SS0640000;", "Hill"},
+        {sota, {{"", "", "2.001", "SSB", "", "", "Hill"}}, "MD01;SF1E;FA002000999;SS0640000;", "Hill"},
+        {nets, {{"Net", "3.940", "", "LSB"}}, "MD01;FA003940000;SS0640000;", "Net"},
+        {nets, {{"Net", "3.940", "", "SSB"}}, "FA003940000;SS0640000;", "Net"},
+        {netLogger, {{"Net", "14300"}}, "MD02;FA014300000;SS0640000;SS0560000;", "Net"},
+        {netLogger, {{"Net", "3.9155"}}, "MD01;FA003915500;SS0640000;SS0560000;", "Net"},
+        {netLogger, {{"Net", "10.0"}}, "MD01;FA001000000;SS0640000;SS0560000;", "Net"},
+        {netLogger, {{"Net", "7.0.7"}}, "MD01;FA000000000;SS0640000;SS0560000;", "Net"},
+        {mediumWave, {{"WAAA", "1000"}}, "MD05;FA001000000;SS0640000;", "WAAA"},
+        {mediumWave, {{"WAAA", "540"}}, "MD05;FA000540000;SS0640000;", "WAAA"},
+        {mediumWave, {{"WAAA", ""}}, ""},
     };
     for (const auto& tuned : cases) {
         FeedBench bench;
         bench.controller.link.build("KY6;");
         bench.controller.lists.setRows(listFeed(tuned.list), {{{"another"}}, tuned.row});
-        (bench.display.*tuned.table).pressCell(1, tuned.column);
+        TableView& table = bench.display.*listFeed(tuned.list).table;
+        table.pressCell(1, 0);  // the column of the tune buttons
         std::string sent;
         for (const std::string& write : bench.takeWrites()) sent += write;
         EXPECT_EQ(sent, tuned.sent);
         EXPECT_EQ(bench.controller.link.cmd(), tuned.sent.empty() ? "KY6;" : tuned.sent);
         EXPECT_EQ(bench.takeSpoken(), tuned.spoken.empty() ? Writes{} : Writes{tuned.spoken}) << tuned.sent;
-        (bench.display.*tuned.table).pressCell(2, tuned.column);
-        (bench.display.*tuned.table).pressCell(-1, tuned.column);
+        for (const int row : {2, -1}) table.pressCell(row, 0);
         EXPECT_THAT(bench.takeWrites(), IsEmpty());
     }
 }
@@ -323,12 +272,10 @@ TEST(FeedCells, ShowKilohertzMinutesAndDashes) {
     } cases[] = {
         {Feed::pota, "frequency", {{"", "14074"}}, "14074.0"},
         {Feed::pota, "frequency", {{"", "x"}}, "0.0"},
-        {Feed::pota, "last", {{"", "", "", "", "", "5"}}, "5 min"},
         {Feed::pota, "reference", {{"short"}}, ""},
         {Feed::sota, "frequency2", {{"", "", "14.062"}}, "14062.0"},
         {Feed::sota, "activatorName", {{"", "Not recognised"}}, "--"},
         {Feed::sota, "name2", {{"", "", "", "", "", "", "Summit not recognised"}}, "--"},
-        {Feed::netLogger, "freq", {{"", "14.25"}}, "14250.0"},
         {Feed::netLogger, "freq", {{"", "14300"}}, "14300.0"},
         {Feed::netLogger, "freq", {{"", "7.0.7"}}, ""},
         {Feed::mediumWave, "power", {{"", "", "", "50"}}, "50 kW"},
