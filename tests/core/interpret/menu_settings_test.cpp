@@ -60,25 +60,6 @@ TEST(MenuSettingsTest, ItemsThatAreOnlyShownFollowTheTransceiver) {
     }
 }
 
-TEST(MenuSettingsTest, AChoiceSendsTheValueInTheFormOfItsItem) {
-    struct Case {
-        int item;
-        int entry;
-        std::string_view command;
-    };
-    RadioBench bench;
-    for (const Case& each :
-         {Case{10108, 0, "EX0101080;"}, Case{30120, 12, ""}, Case{10107, 9, "EX01010709;"},
-          Case{10107, 10, "EX01010710;"}, Case{10321, 0, "EX010321000;"}, Case{10321, 49, "EX010321049;"},
-          Case{10101, 0, "EX010101-20;"}, Case{10101, 20, "EX010101+00;"}, Case{10104, 1, "EX0101040040;"}}) {
-        const MenuItemRow* row = menuItem(each.item);
-        PopUpButton& popUp = *bench.display.menu.popUp(row->page(), row->tag());
-        bench.port->written.clear();
-        popUp.choose(each.entry);
-        EXPECT_EQ(bench.port->written, Texts{each.command.empty() ? "EX03012012;" : std::string(each.command)});
-    }
-}
-
 TEST(MenuSettingsTest, WhatNamesNoItemOrNoValueSendsNothing) {
     RadioBench bench;
     bench.controller.link.build("FA014250000;");
