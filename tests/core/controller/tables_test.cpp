@@ -87,18 +87,6 @@ TEST(Tables, ShowLinksTextsPopUpsAndWhatCanBeEdited) {
     }
 }
 
-TEST(Tables, LinksOpenInTheWebBrowser) {
-    ListBench bench;
-    TableView& pota = bench.display.potaTable;
-    TableView& nets = bench.display.netsTable;
-    pota.pressCell(0, pota.columnWithIdentifier("reference"));
-    nets.pressCell(0, nets.columnWithIdentifier("netName"));
-    nets.pressCell(1, nets.columnWithIdentifier("netName"));
-    for (const CellPlace place : {CellPlace{0, 99}, {0, -1}, {9, 0}}) pota.pressCell(place.row, place.column);
-    pota.pressCell(0, pota.columnWithIdentifier("last"));
-    EXPECT_THAT(bench.around.browser.opened, ElementsAre("https://pota.app/#/park/US-0001", "https://net.example/a b"));
-}
-
 TEST(CellViews, EveryButtonHasItsRowInItsTagAndActsOnIt) {
     ListBench bench;
     std::set<std::string_view> names;
