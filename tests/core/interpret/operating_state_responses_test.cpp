@@ -53,15 +53,8 @@ TEST(OperatingStateResponses, MeterShowsTensOfTheRawValue) {
     }
 }
 
-struct Volume {
-    int slider;
-    std::string audible;
-    int muted;
-    Image image;
-    Color color;
-
-    bool operator==(const Volume&) const = default;
-};
+// The slider, the level to come back to, whether it is muted, picture and color of the mute key.
+using Volume = std::tuple<int, std::string, int, Image, Color>;
 
 TEST(OperatingStateResponses, AFGainBelowFiveCountsAsMuted) {
     const struct {
@@ -78,8 +71,8 @@ TEST(OperatingStateResponses, AFGainBelowFiveCountsAsMuted) {
     const Button& mute = bench.display.muteButton;
     for (const auto& [response, volume] : steps) {
         bench.receive(response);
-        EXPECT_TRUE((Volume{bench.display.afGainSlider.integerValue(), bench.radio.vqAFLevel, bench.radio.vqMuted,
-                            mute.image(), mute.bezelColor()}) == volume)
+        EXPECT_EQ(volume, Volume(bench.display.afGainSlider.integerValue(), bench.radio.vqAFLevel, bench.radio.vqMuted,
+                                 mute.image(), mute.bezelColor()))
             << response;
         EXPECT_EQ(mute.tag(), 610) << "the tag belongs to the operator";
     }
