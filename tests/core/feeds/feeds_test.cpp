@@ -26,31 +26,21 @@ struct FeedBench : TestBench {
         receive("VS0;");
         advance(2s);  // the refreshes of the start
         forgetWhatHappened();
-        around.http.requests.clear();
-        around.http.pending.clear();
-        around.http.cancelled.clear();
+        around.http = {};
     }
     RecordingHttpClient& http = around.http;
-    std::vector<std::string> urls() const {
-        std::vector<std::string> all;
-        for (const HttpRequest& request : around.http.requests) all.push_back(request.url);
-        return all;
-    }
 };
 
 TEST(Feeds, AreFetchedSideBySideAtTheStartAndWhenPortsAppear) {
     TestBench bench;
-    const auto urls = [&] {
-        std::vector<std::string> all;
-        for (const HttpRequest& request : std::exchange(bench.around.http.requests, {})) all.push_back(request.url);
-        return all;
-    };
-    EXPECT_THAT(urls(),
+    std::vector<std::string> urls;
+    for (const HttpRequest& request : std::exchange(bench.around.http.requests, {})) urls.push_back(request.url);
+    EXPECT_THAT(urls,
                 ElementsAre("https://api.pota.app/spot/activator", "https://www.netlogger.org/api/GetActiveNets.php",
                             "https://api2.sota.org.uk/api/spots/-3/all", "http://127.0.0.1:8073/nets.php",
                             "http://127.0.0.1:8073/mw.php", "https://www.hamqsl.com/solarxml.php"));
     bench.around.portManager.connect({});
-    EXPECT_EQ(urls().size(), 5U);
+    EXPECT_EQ(bench.around.http.requests.size(), 5U);
 }
 
 TEST(Feeds, ARefreshEmptiesTheListAndTakesItsAnswerAtOnce) {
@@ -243,7 +233,7 @@ TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
     bench.advance(1999ms);
     EXPECT_EQ(bench.http.requests.size(), 1U);
     bench.advance(1ms);
-    EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php?key=" + key);
+    EXPECT_EQ(bench.http.requests.back().url, "http://127.0.0.1:8073/nets.php?key=" + key);
     bench.http.answer(1, {nets, ""});
 
     // Another refresh of the list does not swallow what is to be said.
@@ -251,7 +241,7 @@ TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
     post.body = R"({"action":0,"key":")" + key + R"(","net_id":"7"})";
     EXPECT_EQ(bench.http.requests.at(2), post);
     bench.http.answer(2, {"", "status 500"});
-    EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php?key=" + key);
+    EXPECT_EQ(bench.http.requests.back().url, "http://127.0.0.1:8073/nets.php?key=" + key);
     EXPECT_THAT(bench.takeSpoken(), IsEmpty());
     bench.controller.fetchNets();
     bench.http.answer(4, {nets, ""});
@@ -260,7 +250,7 @@ TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
     // A key that somebody has written into the settings by hand goes into no address.
     bench.around.settings.values["operator"] = "me&all=1";
     bench.controller.fetchNets();
-    EXPECT_EQ(bench.urls().back(), "http://127.0.0.1:8073/nets.php");
+    EXPECT_EQ(bench.http.requests.back().url, "http://127.0.0.1:8073/nets.php");
 }
 
 TEST(FeedCells, ShowKilohertzMinutesAndDashes) {
