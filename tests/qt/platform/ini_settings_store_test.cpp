@@ -24,6 +24,12 @@ struct IniSettingsStoreTest : testing::Test {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
+    void add(const QByteArray& bytes) const {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::Append));
+        file.write(bytes);
+    }
 };
 
 TEST_F(IniSettingsStoreTest, TextComesBackAsItWas) {
@@ -57,10 +63,7 @@ TEST_F(IniSettingsStoreTest, AChangeIsOnDiskByTheNextTurnOfTheEventLoop) {
 
 TEST_F(IniSettingsStoreTest, AFileEditedByHandIsRead) {
     IniSettingsStore(path).setText("voice", "1");
-    QFile edited(path);
-    ASSERT_TRUE(edited.open(QIODevice::Append));
-    edited.write("call=a, b\nautosquelch=rubbish\n");
-    edited.close();
+    add("call=a, b\nautosquelch=rubbish\n");
     const IniSettingsStore store(path);
     EXPECT_EQ(store.text("call"), "a, b");
     EXPECT_EQ(store.integer("autosquelch"), 0);
@@ -79,10 +82,7 @@ TEST_F(IniSettingsStoreTest, AFileThatIsNoSettingsFileIsKeptBesideTheNewOne) {
                              Case{QByteArray("sounds=0\0\n", 10), "not text"}, Case{"sounds=\xff\xfe\n", "not text"},
                              Case{"<html>no such page</html>\n", "not settings"}}) {
         QFile(path).remove();
-        QFile bad(path);
-        ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
-        bad.write(each.content);
-        bad.close();
+        add(each.content);
         {
             IniSettingsStore store(path);
             EXPECT_NE(store.problem().find(each.reason), std::string::npos) << store.problem();
@@ -122,11 +122,7 @@ TEST_F(IniSettingsStoreTest, AFullDiskLeavesTheOldFileWholeAndIsTold) {
 }
 
 TEST_F(IniSettingsStoreTest, AFullDiskIsToldOfAlsoAfterABadFile) {
-    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
-    QFile bad(path);
-    ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
-    bad.write("rubbish\n");
-    bad.close();
+    add("rubbish\n");
     IniSettingsStore store(path);
     ASSERT_FALSE(store.problem().empty());
     QFile(path).remove();
