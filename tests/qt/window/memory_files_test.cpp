@@ -30,14 +30,15 @@ struct FilesStation : Station {
         Station::show(Display::memoriesPage);
     }
     template <class Dialog>
+    static Dialog* shownNow() {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* found = qobject_cast<Dialog*>(widget); found && found->isVisible()) return found;
+        return nullptr;
+    }
+    template <class Dialog>
     static Dialog* shown() {
-        Dialog* dialog = nullptr;
-        eventually([&] {
-            for (QWidget* widget : QApplication::topLevelWidgets())
-                if (auto* found = qobject_cast<Dialog*>(widget); found && found->isVisible()) dialog = found;
-            return dialog != nullptr;
-        });
-        return dialog;
+        eventually([] { return shownNow<Dialog>() != nullptr; });
+        return shownNow<Dialog>();
     }
     QString path(const QString& name) const { return folder.filePath(name); }
     // Presses a key and names the file.
@@ -48,11 +49,6 @@ struct FilesStation : Station {
         dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path(name));
         QMetaObject::invokeMethod(dialog, "accept");
         ASSERT_TRUE(eventually([&] { return !shownNow<QFileDialog>(); }));
-    }
-    template <class Dialog>
-    static bool shownNow() {
-        const auto widgets = QApplication::topLevelWidgets();
-        return std::ranges::any_of(widgets, [](QWidget* w) { return qobject_cast<Dialog*>(w) && w->isVisible(); });
     }
     void write(const QString& name, const QByteArray& bytes) const {
         QFile file(path(name));
