@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTableView>
 #include <QTableWidget>
 
 #include "memories/memory_csv.h"
@@ -76,6 +77,7 @@ TEST(MemoryFilesTest, TheTableIsExportedToTheFileThatIsChosen) {
 TEST(MemoryFilesTest, AnImportChangesWhatIsTickedInItsPreview) {
     FilesStation station;
     const MemoryTable before = station.controller.memories.vqMemArray();
+    const ChannelsAsRead held = station.controller.memories.read().asRead;
     station.write("in.csv",
                   "Location,Name,Frequency,Mode\n2,SLOW CW,7.031,CWR\n1,CALLING,14.250000,USB\n3,NEW,3.6,LSB\n"
                   "5,MOVED,14.075,DIG\n0,X,7.1,LSB\n9,X,146.52,FM\n");
@@ -118,6 +120,10 @@ TEST(MemoryFilesTest, AnImportChangesWhatIsTickedInItsPreview) {
         EXPECT_EQ(station.controller.memories.vqMemArray(), expected);
     }
     EXPECT_EQ(station.radio.takeReceived(), "") << "nothing is sent";
+    EXPECT_EQ(station.controller.memories.read().asRead, held) << "what the transceiver holds has not changed";
+    EXPECT_EQ(station.display.memoryReadField.stringValue(), "2 channels imported, not written to the transceiver yet");
+    EXPECT_TRUE(eventually(
+        [&] { return station.find<QTableView>("memoriesTable")->model()->index(1, 4).data() == "SLOW CW"; }));
 }
 
 TEST(MemoryFilesTest, WhatIsNoFileOfChannelsIsRefusedWithTheReason) {
