@@ -32,19 +32,6 @@ struct ListBench : TestBench {
     }
 };
 
-TEST(Tables, CountTheRowsOfTheirLists) {
-    ListBench bench;
-    const Display& display = bench.display;
-    std::vector<int> rows;
-    for (const TableView* table : {&display.memoriesTable, &display.autoMemTable, &display.potaTable,
-                                   &display.sotaTable, &display.netLoggerTable, &display.netsTable, &display.mwTable})
-        rows.push_back(table->rows());
-    EXPECT_THAT(rows, ElementsAre(99, 1, 1, 1, 1, 2, 2));
-    const TableView unknown({"unknown"}, display.potaTable.columns());
-    EXPECT_EQ(bench.controller.numberOfRows(unknown), 0);
-    EXPECT_EQ(unknown.rows(), 0);
-}
-
 TEST(Tables, ShowLinksTextsPopUpsAndWhatCanBeEdited) {
     ListBench bench;
     const Display& display = bench.display;

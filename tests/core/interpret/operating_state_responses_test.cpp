@@ -88,12 +88,6 @@ TEST(OperatingStateResponses, RFGainMovesItsSlider) {
     EXPECT_EQ(bench.display.rfGainSlider.integerValue(), 0);
 }
 
-TEST(OperatingStateResponses, SwitchedOnFunctionsAreAskedForTheirLevel) {
-    TestBench bench;
-    bench.receive("NR01;NB01;NR00;NB00;");
-    EXPECT_EQ(bench.takeWrites(), (Writes{"RL0;", "NL0;"}));
-}
-
 TEST(OperatingStateResponses, ASwitchShowsItsStateAndThePressThatFollowsSendsTheOpposite) {
     const struct {
         std::string on, off;

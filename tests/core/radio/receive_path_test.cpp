@@ -94,7 +94,7 @@ TEST(ReceivePath, SwitchedOnEndsTheChunk) {
 
 TEST(ReceivePath, TakesEveryResponseOfAChunkInOrder) {
     TestBench bench;
-    bench.receive("FA014250000;FB007100000;NB01;NR01;MD01");
+    bench.receive("FA014250000;FB007100000;NB01;NR01;NB00;NR00;MD01");
     EXPECT_EQ(bench.takeWrites(), (Writes{"GT0;", "RA0;", "RF0;", "GT0;", "RA0;", "RF0;", "NL0;", "RL0;"}));
     EXPECT_EQ(bench.radio.vqFreqA, "014250000");
     EXPECT_EQ(bench.radio.vqFreqB, "007100000");
