@@ -226,6 +226,11 @@ TEST(TablesTest, KeysMoveSortAndTune) {
     kept.setCurrentIndex(kept.model()->index(1, 4));
     QTest::keyClick(&kept, Qt::Key_Return, Qt::ControlModifier);
     EXPECT_TRUE(eventually([&] { return station.radio.transceiver.state().activeTuning().frequency == 7'031'000; }));
+    kept.setCurrentIndex(kept.model()->index(0, 3));
+    QTest::keyClick(&kept, Qt::Key_Space);
+    EXPECT_TRUE(eventually([&] { return kept.model()->rowCount() == 1; }));
+    EXPECT_EQ(kept.model()->index(0, 1).data(), "007031000");
+    EXPECT_EQ(kept.currentIndex(), kept.model()->index(0, 3)) << "the keyboard stays in the table";
 }
 
 // What is being typed belongs to its row: it follows the row, and comes to nothing when the row is gone.

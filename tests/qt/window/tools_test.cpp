@@ -192,32 +192,6 @@ TEST(ToolsTest, WritingAsksAndIsTakenBackByEscape) {
     EXPECT_EQ(station.radio.transceiver.ask("MR005;"), before);
 }
 
-TEST(ToolsTest, AutoMemoriesAreTunedToAndClearedInTheirTable) {
-    Tools station;
-    station.display.autoMemSquelchSlider.drag(15);  // nothing is recorded by itself meanwhile
-    station.show(Display::memoriesPage);
-    station.click("tag815");
-    for (const int hertz : {7'030'000, 7'040'000, 7'050'000}) {
-        station.radio.operate([&](auto& radio) { radio.tune(hertz); });
-        ASSERT_TRUE(
-            eventually([&] { return station.controller.mirror.state().vqFreqA == "00" + std::to_string(hertz); }));
-        station.click("autoMemoryNowButton");
-    }
-    auto* table = station.find<QTableView>("autoMemTable");
-    ASSERT_TRUE(eventually([&] { return table->model()->rowCount() == 3; }));
-    const auto cell = [&](int row, int column) {
-        return table->visualRect(table->model()->index(row, column)).center();
-    };
-    EXPECT_EQ(table->model()->index(2, 1).data().toString(), "007030000");
-    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell(2, 0));
-    EXPECT_TRUE(station.tunedTo(7'030'000));
-    table->setCurrentIndex(table->model()->index(1, 3));
-    QTest::keyClick(table, Qt::Key_Space);
-    EXPECT_TRUE(eventually([&] { return table->model()->index(1, 1).data().toString() == "007030000"; }));
-    EXPECT_EQ(table->currentIndex().row(), 1) << "the keyboard stays in the table";
-    EXPECT_EQ(table->currentIndex().column(), 3);
-}
-
 TEST(ToolsTest, ATextOfSixtyCharactersGoesOutInTwoPiecesAndMemoryFiveIsKept) {
     Tools station;
     const std::string held = station.radio.transceiver.ask("EM05;");
