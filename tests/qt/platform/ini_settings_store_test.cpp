@@ -71,21 +71,20 @@ TEST_F(IniSettingsStoreTest, AFileEditedByHandIsRead) {
 }
 
 TEST_F(IniSettingsStoreTest, AFileThatIsNoSettingsFileIsKeptBesideTheNewOne) {
-    struct Case {
-        QByteArray content;
-        const char* reason;
-    };
     IniSettingsStore(path).setText("sounds", "0");
     const QByteArray whole = file();
     int number = 0;
-    for (const Case& each : {Case{whole.left(whole.size() - 1), "cut off"}, Case{whole.left(12), "cut off"},
-                             Case{QByteArray("sounds=0\0\n", 10), "not text"}, Case{"sounds=\xff\xfe\n", "not text"},
-                             Case{"<html>no such page</html>\n", "not settings"}}) {
+    const std::pair<QByteArray, const char*> cases[] = {{whole.left(whole.size() - 1), "cut off"},
+                                                        {whole.left(12), "cut off"},
+                                                        {QByteArray("sounds=0\0\n", 10), "not text"},
+                                                        {"sounds=\xff\xfe\n", "not text"},
+                                                        {"<html>no such page</html>\n", "not settings"}};
+    for (const auto& [content, reason] : cases) {
         QFile(path).remove();
-        add(each.content);
+        add(content);
         {
             IniSettingsStore store(path);
-            EXPECT_NE(store.problem().find(each.reason), std::string::npos) << store.problem();
+            EXPECT_NE(store.problem().find(reason), std::string::npos) << store.problem();
             EXPECT_EQ(store.problem().find('\n'), std::string::npos);
             EXPECT_EQ(store.text("sounds"), std::nullopt);
             store.setText("sounds", "1");
@@ -94,7 +93,7 @@ TEST_F(IniSettingsStoreTest, AFileThatIsNoSettingsFileIsKeptBesideTheNewOne) {
         EXPECT_EQ(IniSettingsStore(path).text("sounds"), "1");
         QFile kept(path + (++number == 1 ? QString(".bad") : ".bad" + QString::number(number)));
         ASSERT_TRUE(kept.open(QIODevice::ReadOnly)) << kept.fileName().toStdString();
-        EXPECT_EQ(kept.readAll(), each.content);
+        EXPECT_EQ(kept.readAll(), content);
     }
 }
 
