@@ -1,19 +1,17 @@
-// Any body of the solar-data service.
-#include <cstdint>
-
+// A body of the solar-data service, whatever it is.
 #include "feeds/band_conditions.h"
+#include "fuzz/fuzz_target.h"
 #include "wire/utf8.h"
 
-#define INVARIANT(condition) \
-    if (!(condition)) __builtin_trap()
+namespace corvane {
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace corvane;
-    const BandConditions conditions = decodeBandConditions({reinterpret_cast<const char*>(data), size});
+void fuzz(std::string_view input) {
+    const BandConditions conditions = decodeBandConditions(input);
     for (const std::string* value : {&conditions.heading, &conditions.solarFlux, &conditions.bands[0],
                                      &conditions.magicBand, &conditions.signalNoise}) {
         INVARIANT(value->find_first_of("<>\t") == std::string::npos);
         INVARIANT(isUtf8(*value));
     }
-    return 0;
 }
+
+}  // namespace corvane

@@ -1,17 +1,15 @@
 // Any file of memory channels. The channels taken from it survive an export and another import.
 #include <bitset>
-#include <cstdint>
 
+#include "fuzz/fuzz_target.h"
 #include "memories/memory_csv.h"
 #include "wire/operating_modes.h"
 #include "wire/wire_text.h"
 
-#define INVARIANT(condition) \
-    if (!(condition)) __builtin_trap()
+namespace corvane {
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace corvane;
-    const MemoryImport import = readMemoryCsv({reinterpret_cast<const char*>(data), size});
+void fuzz(std::string_view input) {
+    const MemoryImport import = readMemoryCsv(input);
     INVARIANT(import.problem.empty() || (import.channels.empty() && import.refused.empty()));
     MemoryTable table;
     std::bitset<memoryChannels> taken;
@@ -30,5 +28,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const ImportedChannel& imported : again.channels)
         INVARIANT(sameChannel(imported.channel, table[static_cast<std::size_t>(imported.row)]) &&
                   imported.note.empty());
-    return 0;
 }
+
+}  // namespace corvane

@@ -1,22 +1,19 @@
-// Any bytes from the line, cut anywhere: as responses from the assembler and as raw chunks.
-#include <cstdint>
-
+// Bytes from the line, cut anywhere: whole responses through the assembler, raw chunks straight to the program.
+#include "fuzz/fuzz_target.h"
 #include "radio/response_assembler.h"
 #include "tests/support/test_bench.h"
 #include "wire/utf8.h"
 
-#define INVARIANT(condition) \
-    if (!(condition)) __builtin_trap()
+namespace corvane {
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace corvane;
+void fuzz(std::string_view input) {
     TestBench bench;
     ResponseAssembler assembler([&](std::string_view response) {
         INVARIANT(!response.empty() && response.size() <= ResponseAssembler::limit);
         bench.receive(response);
     });
-    // The first byte of each piece gives its length, so that the input decides where it is cut.
-    for (std::string_view rest(reinterpret_cast<const char*>(data), size); !rest.empty();) {
+    // A first byte says how long the next piece is, so that the input itself decides where it is cut.
+    for (std::string_view rest = input; !rest.empty();) {
         const std::string_view chunk = rest.substr(0, static_cast<unsigned char>(rest[0]) % 32U + 1U);
         rest.remove_prefix(chunk.size());
         assembler.feed(chunk);
@@ -30,5 +27,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         INVARIANT(bench.radio.vqMuted == 0 || bench.display.muteButton.bezelColor() == Color::red);
     }
     bench.advance(std::chrono::seconds(15));
-    return 0;
 }
+
+}  // namespace corvane

@@ -1,18 +1,14 @@
-// Any body of the SOTA spot service.
-#include <cstdint>
-
+// A body of the SOTA spot service, whatever it is.
 #include "feeds/feed_cells.h"
 #include "feeds/hertz.h"
 #include "feeds/spots.h"
+#include "fuzz/fuzz_target.h"
 #include "wire/utf8.h"
 
-#define INVARIANT(condition) \
-    if (!(condition)) __builtin_trap()
+namespace corvane {
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace corvane;
-    const std::string_view body(reinterpret_cast<const char*>(data), size);
-    const DecodedFeed spots = decodeSotaSpots(body, Instant{});
+void fuzz(std::string_view input) {
+    const DecodedFeed spots = decodeSotaSpots(input, Instant{});
     INVARIANT(spots.problem.empty() || spots.rows.empty());
     for (const FeedRow& row : spots.rows) {
         INVARIANT(row.fields.size() == 10);
@@ -21,5 +17,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         INVARIANT(frequency && *frequency >= 2'000'000 && *frequency < 70'000'001);
         feedCell(Feed::sota, "frequency2", row);
     }
-    return 0;
 }
+
+}  // namespace corvane

@@ -1,25 +1,22 @@
 // Any body of the NetLogger service, of the nets directory or of the list of stations.
 #include <algorithm>
-#include <cstdint>
 
 #include "feeds/feed_cells.h"
 #include "feeds/tagged_lists.h"
 #include "feeds/tune_command.h"
+#include "fuzz/fuzz_target.h"
 #include "wire/utf8.h"
 
-#define INVARIANT(condition) \
-    if (!(condition)) __builtin_trap()
+namespace corvane {
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace corvane;
-    const std::string_view body(reinterpret_cast<const char*>(data), size);
+void fuzz(std::string_view input) {
     struct Decoder {
-        DecodedFeed (*decode)(std::string_view body);
+        DecodedFeed (*decode)(std::string_view input);
         std::size_t fields;
     };
     for (const auto& [decode, fields] :
          {Decoder{decodeNetLoggerNets, 4}, Decoder{decodeNets, 7}, Decoder{decodeMWStations, 5}}) {
-        const DecodedFeed list = decode(body);
+        const DecodedFeed list = decode(input);
         INVARIANT(list.problem.empty() || list.rows.empty());
         for (const FeedRow& row : list.rows) {
             INVARIANT(row.fields.size() == fields);
@@ -30,5 +27,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             INVARIANT(std::ranges::count(command, ';') == 4 && command.find("FA") == 5);
         }
     }
-    return 0;
 }
+
+}  // namespace corvane

@@ -2,9 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <fstream>
-#include <iterator>
-
 namespace corvane::directory {
 namespace {
 
@@ -16,11 +13,6 @@ using testing::StartsWith;
 const std::string netHeader = "id,name,frequency_mhz,utc,days,mode,url\n";
 const std::string stationHeader = "call_sign,frequency_khz,city,power_kw,url\n";
 
-std::string file(const std::string& path) {
-    std::ifstream stream(CORVANE_SOURCE + path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 TEST(CatalogueFile, GivesBackWhatItWasWrittenFrom) {
     const std::vector<Net> nets{{"noon-net", "The \"Noon\" Net, all <welcome>", "3.940", "17:00", "Mon-Fri Sun", "LSB",
                                  "https://example.org/a?b=c,d"},
@@ -30,15 +22,6 @@ TEST(CatalogueFile, GivesBackWhatItWasWrittenFrom) {
     EXPECT_EQ(readStations(writeStations(stations)), (CatalogueFile<Station>{stations, {}}));
     EXPECT_EQ(readNets("\xef\xbb\xbf" + netHeader + "\r\n a , b ,7.2,10:00,daily,LSB,\r\n"),
               (CatalogueFile<Net>{{{"a", "b", "7.2", "10:00", "daily", "LSB", ""}}, {}}));
-}
-
-TEST(CatalogueFile, TheStarterSetIsGood) {
-    const CatalogueFile<Net> nets = readNets(file("/directory/data/nets.csv"));
-    EXPECT_THAT(nets.problems, IsEmpty());
-    EXPECT_GE(nets.entries.size(), 30U);
-    const CatalogueFile<Station> stations = readStations(file("/directory/data/stations.csv"));
-    EXPECT_THAT(stations.problems, IsEmpty());
-    EXPECT_GE(stations.entries.size(), 40U);
 }
 
 TEST(CatalogueFile, ListsEveryProblemWithItsLineAndGivesNothing) {

@@ -15,24 +15,15 @@ TEST(NetSchedule, IsReadFromTimeAndDays) {
         std::string_view days;
         std::optional<Schedule> schedule;
     } rows[]{
-        {"17:00", "daily", Schedule{0b1111111, 17h}},
-        {"00:05", "Mon-Fri", Schedule{workdays, 5min}},
-        {"23:59", "Sun Wed", Schedule{0b0001001, 23h + 59min}},
-        {"12:00", "Sat-Mon", Schedule{0b1000011, 12h}},
+        {"17:00", "daily", Schedule{0b1111111, 17h}},           {"00:05", "Mon-Fri", Schedule{workdays, 5min}},
+        {"23:59", "Sun Wed", Schedule{0b0001001, 23h + 59min}}, {"12:00", "Sat-Mon", Schedule{0b1000011, 12h}},
         {"12:00", "Fri Sun-Sun", Schedule{0b0100001, 12h}},
-        {"24:00", "daily", {}},
-        {"12:60", "daily", {}},
-        {"1200", "daily", {}},
-        {"12.00", "daily", {}},
-        {"-1:00", "daily", {}},
-        {"12: 0", "daily", {}},
-        {"12:00", "", {}},
-        {"12:00", "Daily", {}},
-        {"12:00", "Mon,Tue", {}},
-        {"12:00", "Mon-", {}},
-        {"12:00", "Mon  Tue", {}},
     };
     for (const auto& row : rows) EXPECT_EQ(scheduleOf(row.utc, row.days), row.schedule) << row.utc << ' ' << row.days;
+    for (const char* const utc : {"24:00", "12:60", "1200", "12.00", "-1:00", "12: 0"})
+        EXPECT_EQ(scheduleOf(utc, "daily"), std::nullopt) << utc;
+    for (const char* const days : {"", "Daily", "Mon,Tue", "Mon-", "Mon  Tue"})
+        EXPECT_EQ(scheduleOf("12:00", days), std::nullopt) << days;
 }
 
 TEST(NetSchedule, TheNextSessionIsTheOneThatIsOnOrTheFirstAfter) {

@@ -29,20 +29,6 @@ TEST(Menu, EveryItemTakesItsWholeRangeAndNothingBeyond) {
     EXPECT_EQ(items, 220);
 }
 
-TEST(Menu, WidthsAreThoseOfTheLine) {
-    struct Width {
-        std::string_view number;
-        int width;
-    };
-    for (const Width& each :
-         {Width{"010101", 3}, Width{"010104", 4}, Width{"010107", 2}, Width{"010108", 1}, Width{"010321", 3},
-          Width{"010420", 4}, Width{"010605", 3}, Width{"010706", 1}, Width{"020203", 2}, Width{"020205", 4},
-          Width{"020211", 2}, Width{"020301", 1}, Width{"030115", 2}, Width{"030118", 3}, Width{"030206", 2},
-          Width{"030403", 3}, Width{"040101", 12}, Width{"040105", 2}, Width{"040402", 1}})
-        EXPECT_EQ(menuRow(each.number)->width, each.width) << each.number;
-    EXPECT_EQ(menuRow("010120"), nullptr);
-}
-
 TEST(Menu, RefusesWhatIsNotAValue) {
     Menu menu;
     const std::string fast = *menu.value("010104");
@@ -53,6 +39,7 @@ TEST(Menu, RefusesWhatIsNotAValue) {
     EXPECT_FALSE(menu.store("020203", "24")) << "an index that is not used";
     EXPECT_FALSE(menu.store("010515", "0"));
     EXPECT_FALSE(menu.store("040101", "THIRTEENCHARS"));
+    EXPECT_EQ(menuRow("010120"), nullptr);
 }
 
 }  // namespace

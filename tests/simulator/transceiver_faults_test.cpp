@@ -75,11 +75,5 @@ TEST(TransceiverFaults, UnpluggedNothingGoesEitherWay) {
     EXPECT_EQ(line.exchange("FA;FB;AI;"), "FA007200000;FB007074000;AI1;") << "and the half command is forgotten";
 }
 
-TEST(TransceiverFaults, RawTextGoesOutAsItIs) {
-    RadioOnLine line;
-    line.radio.sendRaw("FA01425");
-    EXPECT_EQ(line.sent, "FA01425");
-}
-
 }  // namespace
 }  // namespace simulator

@@ -11,6 +11,7 @@
 #include "platform/file_chooser.h"
 #include "platform/http_client.h"
 #include "platform/log.h"
+#include "platform/notification_center.h"
 #include "platform/sound_player.h"
 #include "platform/speech_synthesizer.h"
 #include "platform/web_browser.h"
@@ -26,6 +27,18 @@ struct RecordingSoundPlayer final : SoundPlayer {
     void playFile(std::string_view name) override { played.push_back("file " + std::string(name)); }
     void playAlert(std::string_view name) override { played.push_back("alert " + std::string(name)); }
     std::vector<std::string> played;  // "file Seatbelts", "alert Frog"
+};
+
+// Notices stand at once and are counted from 1.
+struct RecordingNotificationCenter final : NotificationCenter {
+    void deliver(const UserNotification& notification, std::function<void(NotificationId)> delivered) override {
+        shown.push_back(notification);
+        delivered(static_cast<NotificationId>(shown.size()));
+    }
+    void removeDelivered(NotificationId id) override { removed.push_back(id); }
+
+    std::vector<UserNotification> shown;
+    std::vector<NotificationId> removed;
 };
 
 struct RecordingWebBrowser final : WebBrowser {

@@ -6,7 +6,6 @@
 #include "tests/support/fake_serial_port_manager.h"
 #include "tests/support/manual_scheduler.h"
 #include "tests/support/map_settings_store.h"
-#include "tests/support/recording_notification_center.h"
 #include "tests/support/recording_outputs.h"
 
 namespace corvane {

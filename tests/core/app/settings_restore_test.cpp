@@ -10,15 +10,7 @@ using testing::Pair;
 
 using Values = MapSettingsStore::Values;
 
-// A switch: its state, its tick and its tag.
-struct Switch {
-    std::string value;
-    bool checked;
-    int tag;
-
-    bool operator==(const Switch&) const = default;
-    friend void PrintTo(const Switch& s, std::ostream* out) { *out << s.value << ' ' << s.checked << ' ' << s.tag; }
-};
+using Switch = std::tuple<std::string, bool, int>;  // as it is held, checked in the menu, and tagged
 
 std::vector<Switch> switches(const SerialPortDemoController& controller) {
     const Switches& values = controller.preferences.switches();
@@ -30,12 +22,10 @@ std::vector<Switch> switches(const SerialPortDemoController& controller) {
             {values.vqMemoryIPO, ipo.checked(), ipo.tag()}};
 }
 
-// A program with its window made and all ports closed.
+// A program whose window has been made, without a port.
 struct Launched {
-    explicit Launched(Values stored, const std::vector<std::string>& ports = {}) {
+    explicit Launched(Values stored) {
         around.settings.values = std::move(stored);
-        for (const std::string& name : ports)
-            around.portManager.ports.push_back(std::make_shared<FakeSerialPort>(name));
         controller.awakeFromNib();
     }
     Surroundings around;
@@ -75,7 +65,7 @@ TEST(SettingsRestore, ASwitchIsTurnedAndStoredAtOnce) {
             expected[row.row] = turned;
             (program.display.*row.item).performClick();
             EXPECT_EQ(switches(program.controller), expected);
-            EXPECT_THAT(program.around.settings.values, Contains(Pair(row.key, turned.value)));
+            EXPECT_THAT(program.around.settings.values, Contains(Pair(row.key, std::get<0>(turned))));
         }
     }
     const auto before = switches(program.controller);
@@ -85,25 +75,8 @@ TEST(SettingsRestore, ASwitchIsTurnedAndStoredAtOnce) {
     EXPECT_EQ(other.tag(), 903);
 }
 
-TEST(SettingsRestore, TheRememberedPortIsSelectedButNotOpened) {
-    const struct {
-        Values stored;
-        std::string_view port;
-    } cases[] = {{{}, ""},
-                 {{{"defaultPort", "ttyUSB1"}, {"defaultBaud", "38400"}}, "ttyUSB1"},
-                 {{{"defaultPort", "ttyUSB9"}, {"defaultBaud", "9600"}}, ""},
-                 {{{"defaultPort", ""}, {"defaultBaud", ""}}, ""}};
-    for (const auto& [stored, port] : cases) {
-        Launched program(stored, {"ttyUSB0", "ttyUSB1"});
-        EXPECT_EQ(program.display.PortPopUpButton.titleOfSelectedItem(), port);
-        EXPECT_EQ(program.controller.link.serialPort() ? program.controller.link.serialPort()->name() : "", port);
-        EXPECT_EQ(program.display.BaudPopUpButton.titleOfSelectedItem(), "38400");
-        for (const auto& listed : program.around.portManager.ports) EXPECT_FALSE(listed->isOpen());
-    }
-}
-
 TEST(SettingsRestore, RunsOnceForTheWindowAndAgainWhenPortsAppear) {
-    Launched program({{"voice", "0"}, {"defaultPort", "ttyUSB1"}}, {});
+    Launched program({{"voice", "0"}, {"defaultPort", "ttyUSB1"}});
     program.around.settings.setText("voice", "1");
     program.display.vqMemAButton.setTitle("changed");
     program.controller.awakeFromNib();

@@ -32,19 +32,6 @@ struct ListBench : TestBench {
     }
 };
 
-TEST(Tables, CountTheRowsOfTheirLists) {
-    ListBench bench;
-    const Display& display = bench.display;
-    std::vector<int> rows;
-    for (const TableView* table : {&display.memoriesTable, &display.autoMemTable, &display.potaTable,
-                                   &display.sotaTable, &display.netLoggerTable, &display.netsTable, &display.mwTable})
-        rows.push_back(table->rows());
-    EXPECT_THAT(rows, ElementsAre(99, 1, 1, 1, 1, 2, 2));
-    const TableView unknown({"unknown"}, display.potaTable.columns());
-    EXPECT_EQ(bench.controller.numberOfRows(unknown), 0);
-    EXPECT_EQ(unknown.rows(), 0);
-}
-
 TEST(Tables, ShowLinksTextsPopUpsAndWhatCanBeEdited) {
     ListBench bench;
     const Display& display = bench.display;
@@ -85,18 +72,6 @@ TEST(Tables, ShowLinksTextsPopUpsAndWhatCanBeEdited) {
         EXPECT_EQ(cell, expected.cell) << expected.column << ' ' << textOf(cell);
         EXPECT_EQ(spokenTextOf(cell), expected.spoken);
     }
-}
-
-TEST(Tables, LinksOpenInTheWebBrowser) {
-    ListBench bench;
-    TableView& pota = bench.display.potaTable;
-    TableView& nets = bench.display.netsTable;
-    pota.pressCell(0, pota.columnWithIdentifier("reference"));
-    nets.pressCell(0, nets.columnWithIdentifier("netName"));
-    nets.pressCell(1, nets.columnWithIdentifier("netName"));
-    for (const CellPlace place : {CellPlace{0, 99}, {0, -1}, {9, 0}}) pota.pressCell(place.row, place.column);
-    pota.pressCell(0, pota.columnWithIdentifier("last"));
-    EXPECT_THAT(bench.around.browser.opened, ElementsAre("https://pota.app/#/park/US-0001", "https://net.example/a b"));
 }
 
 TEST(CellViews, EveryButtonHasItsRowInItsTagAndActsOnIt) {

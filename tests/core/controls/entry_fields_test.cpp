@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "tests/support/test_bench.h"
+#include "wire/cat_command.h"
 
 namespace corvane {
 namespace {
@@ -52,12 +53,9 @@ TEST(FrequencyEntry, ATypedFrequencyIsSentInOneWrite) {
 TEST(FrequencyEntry, NoTypedHertzIsLost) {
     TunedBench bench;
     for (int hertz = 30'000; hertz <= 75'000'000; hertz += 99'991) {
-        char typed[32];
-        std::snprintf(typed, sizeof typed, "%d.%06d", hertz / 1'000'000, hertz % 1'000'000);
+        const std::string typed = std::to_string(hertz / 1'000'000) + '.' + zeroPadded(hertz % 1'000'000, 6);
         bench.typeAndReturn(bench.display.freqTextField, typed);
-        char sent[32];
-        std::snprintf(sent, sizeof sent, "FA%09d;", hertz);
-        ASSERT_THAT(bench.takeWrites().front(), testing::HasSubstr(sent)) << typed;
+        ASSERT_THAT(bench.takeWrites().front(), testing::HasSubstr("FA" + zeroPadded(hertz, 9) + ';')) << typed;
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "simulator/operating_mode.h"
 #include "tests/support/radio_bench.h"
+#include "wire/cat_command.h"
 
 namespace corvane {
 namespace {
@@ -18,34 +19,32 @@ struct Choice {
     std::string request;
     std::string answer;
 };
+using Choices = std::vector<Choice>;
 
-// The titles of a pop-up in order, each with the answer's text after the command's name.
-std::vector<Choice> choices(std::string_view command, std::initializer_list<std::pair<const char*, const char*>> rows) {
-    std::vector<Choice> list;
-    for (const auto& [title, value] : rows)
-        list.push_back({title, std::string(command) + ';', std::string(command) + value + ';'});
+// The titles of a pop-up in order, each with its digit of `codes` and `tail` behind the command's name in the answer.
+Choices choices(const std::string& command, std::string_view codes, std::initializer_list<const char*> titles,
+                const std::string& tail = "") {
+    EXPECT_EQ(codes.size(), titles.size()) << command;
+    Choices list;
+    for (const char* title : titles) list.push_back({title, command + ';', command + codes[list.size()] + tail + ';'});
     return list;
 }
 
-// Numbered entries: `title` and `value` are printed with the number.
-std::vector<Choice> numbered(std::string_view command, const char* title, const char* value, int from, int to) {
-    std::vector<Choice> list;
-    for (int number = from; number <= to; ++number) {
-        char name[32], field[32];
-        std::snprintf(name, sizeof name, title, number);
-        std::snprintf(field, sizeof field, value, number);
-        list.push_back({name, std::string(command) + ';', std::string(command) + field + ';'});
-    }
+// Entries numbered from `from`, each with `first` and what follows it in so many digits: "5w" is "PC005;".
+Choices numbered(const std::string& command, int width, int from, int to, const std::string& unit = "") {
+    Choices list;
+    for (int number = from; number <= to; ++number)
+        list.push_back({std::to_string(number) + unit, command + ';', command + zeroPadded(number, width) + ';'});
     return list;
 }
 
-std::vector<Choice> operator+(std::vector<Choice> list, const std::vector<Choice>& more) {
+Choices operator+(Choices list, const Choices& more) {
     list.insert(list.end(), more.begin(), more.end());
     return list;
 }
 
-std::vector<Choice> scopeLevels() {
-    std::vector<Choice> list;
+Choices scopeLevels() {
+    Choices list;
     for (int halves = -60; halves <= 60; ++halves) {
         char level[16];
         std::snprintf(level, sizeof level, "%+05.1f", halves / 2.0);
@@ -54,15 +53,8 @@ std::vector<Choice> scopeLevels() {
     return list;
 }
 
-// The first color sends nothing: the transceiver keeps its color, number 2.
-std::vector<Choice> scopeColors() {
-    std::vector<Choice> list = numbered("SS03", "Color %d", "%X0000", 1, 11);
-    for (std::size_t i = list.size(); i-- > 1;) list[i].answer = list[i - 1].answer;
-    return list;
-}
-
-std::vector<Choice> modes() {
-    std::vector<Choice> list;
+Choices modes() {
+    Choices list;
     for (const auto& mode : simulator::operatingModes)
         list.push_back({std::string(mode.name), "MD0;", std::string("MD0") + mode.code + ";"});
     return list;
@@ -70,79 +62,47 @@ std::vector<Choice> modes() {
 
 struct PopUpRow {
     PopUpButton Display::*popUp;
-    std::vector<Choice> choices;
+    Choices choices;
 };
 
 std::vector<PopUpRow> popUps() {
     using D = Display;
     return {
         {&D::modesPopUpButton, modes()},
-        // Automatic means slow in the transceiver's first mode.
-        {&D::AGCPopUpButton, choices("GT0", {{"OFF", "0"}, {"FAST", "1"}, {"MID", "2"}, {"SLOW", "3"}, {"AUTO", "6"}})},
-        {&D::ATTPopUpButton, choices("RA0", {{"OFF", "0"}, {"6 dB", "1"}, {"12 dB", "2"}, {"18 dB", "3"}})},
-        {&D::ampPopUpButton, choices("PA0", {{"IPO", "0"}, {"AMP 1", "1"}, {"AMP 2", "2"}})},
-        {&D::DNRPopupButton, choices("NR0", {{"OFF", "0"}}) + numbered("RL0", "%d", "%02d", 1, 15)},
-        {&D::NBPopupButton, choices("NB0", {{"OFF", "0"}}) + numbered("NL0", "%d", "%03d", 1, 10)},
-        {&D::smeterPopUpButton,
-         choices("MS", {{"PO", "00"}, {"COMP", "10"}, {"ALC", "20"}, {"VDD", "30"}, {"ID", "40"}, {"SWR", "50"}})},
-        {&D::MPVDButton, choices("SF0", {{"Clarifier", "1"},
-                                         {"Memory channel", "3"},
-                                         {"Memory group", "4"},
-                                         {"Step dial", "8"},
-                                         {"Roofing filter", "9"}})},
-        {&D::FuncKnobButton, choices("SF1", {{"Scope level", "0"},
-                                             {"Scope peak", "1"},
-                                             {"Scope color", "4"},
-                                             {"Contrast", "5"},
-                                             {"Dimmer", "6"},
-                                             {"Mic gain", "9"},
-                                             {"Processor level", "C"},
-                                             {"AMC level", "D"},
-                                             {"RF power", "E"},
-                                             {"VOX gain", "F"},
-                                             {"VOX delay", "G"},
-                                             {"CW speed", "H"},
-                                             {"CW pitch", "I"},
-                                             {"Break-in delay", "J"},
-                                             {"Monitor level", "K"},
-                                             {"Memory group", "M"},
-                                             {"Anti VOX", "N"}})},
-        {&D::spectrumModePopUpButton, choices("SS06", {{"3D center", "00000"},
-                                                       {"3D cursor", "10000"},
-                                                       {"3D fix", "20000"},
-                                                       {"Waterfall center (expanded)", "30000"},
-                                                       {"Waterfall center", "40000"},
-                                                       {"Waterfall center (large)", "50000"},
-                                                       {"Waterfall cursor (expanded)", "60000"},
-                                                       {"Waterfall cursor", "70000"},
-                                                       {"Waterfall cursor (large)", "80000"},
-                                                       {"Waterfall fix (expanded)", "90000"},
-                                                       {"Waterfall fix", "A0000"},
-                                                       {"Waterfall fix (large)", "B0000"}})},
-        {&D::colorPopUpButton, scopeColors()},
-        {&D::scopeSpeedPopUpButton, choices("SS00", {{"Slow 1", "00000"},
-                                                     {"Slow 2", "10000"},
-                                                     {"Fast 1", "20000"},
-                                                     {"Fast 2", "30000"},
-                                                     {"Fast 3", "40000"},
-                                                     {"Stop", "50000"}})},
-        {&D::scopePeakPopUpButton, choices("SS01", {{"Level 1", "00000"},
-                                                    {"Level 2", "10000"},
-                                                    {"Level 3", "20000"},
-                                                    {"Level 4", "30000"},
-                                                    {"Level 5", "40000"}})},
+        // Automatic is slow in the mode that the transceiver starts in.
+        {&D::AGCPopUpButton, choices("GT0", "01236", {"OFF", "FAST", "MID", "SLOW", "AUTO"})},
+        {&D::ATTPopUpButton, choices("RA0", "0123", {"OFF", "6 dB", "12 dB", "18 dB"})},
+        {&D::ampPopUpButton, choices("PA0", "012", {"IPO", "AMP 1", "AMP 2"})},
+        {&D::DNRPopupButton, choices("NR0", "0", {"OFF"}) + numbered("RL0", 2, 1, 15)},
+        {&D::NBPopupButton, choices("NB0", "0", {"OFF"}) + numbered("NL0", 3, 1, 10)},
+        {&D::smeterPopUpButton, choices("MS", "012345", {"PO", "COMP", "ALC", "VDD", "ID", "SWR"}, "0")},
+        {&D::MPVDButton,
+         choices("SF0", "13489", {"Clarifier", "Memory channel", "Memory group", "Step dial", "Roofing filter"})},
+        {&D::FuncKnobButton, choices("SF1", "014569CDEFGHIJKMN",
+                                     {"Scope level", "Scope peak", "Scope color", "Contrast", "Dimmer", "Mic gain",
+                                      "Processor level", "AMC level", "RF power", "VOX gain", "VOX delay", "CW speed",
+                                      "CW pitch", "Break-in delay", "Monitor level", "Memory group", "Anti VOX"})},
+        {&D::spectrumModePopUpButton,
+         choices("SS06", "0123456789AB",
+                 {"3D center", "3D cursor", "3D fix", "Waterfall center (expanded)", "Waterfall center",
+                  "Waterfall center (large)", "Waterfall cursor (expanded)", "Waterfall cursor",
+                  "Waterfall cursor (large)", "Waterfall fix (expanded)", "Waterfall fix", "Waterfall fix (large)"},
+                 "0000")},
+        // The first color asks for nothing: the transceiver stays on the one it has, number 2.
+        {&D::colorPopUpButton, choices("SS03", "1123456789A",
+                                       {"Color 1", "Color 2", "Color 3", "Color 4", "Color 5", "Color 6", "Color 7",
+                                        "Color 8", "Color 9", "Color 10", "Color 11"},
+                                       "0000")},
+        {&D::scopeSpeedPopUpButton,
+         choices("SS00", "012345", {"Slow 1", "Slow 2", "Fast 1", "Fast 2", "Fast 3", "Stop"}, "0000")},
+        {&D::scopePeakPopUpButton,
+         choices("SS01", "01234", {"Level 1", "Level 2", "Level 3", "Level 4", "Level 5"}, "0000")},
         {&D::scopeLevelPopUpButton, scopeLevels()},
-        {&D::scopeSpanPopUpButton, choices("SS05", {{"1 kHz", "00000"},
-                                                    {"2 kHz", "10000"},
-                                                    {"5 kHz", "20000"},
-                                                    {"10 kHz", "30000"},
-                                                    {"20 kHz", "40000"},
-                                                    {"50 kHz", "50000"},
-                                                    {"100 kHz", "60000"},
-                                                    {"200 kHz", "70000"},
-                                                    {"500 kHz", "80000"},
-                                                    {"1 MHz", "90000"}})},
-        {&D::powerPopUpButton, numbered("PC", "%dw", "%03d", 5, 100)},
+        {&D::scopeSpanPopUpButton,
+         choices("SS05", "0123456789",
+                 {"1 kHz", "2 kHz", "5 kHz", "10 kHz", "20 kHz", "50 kHz", "100 kHz", "200 kHz", "500 kHz", "1 MHz"},
+                 "0000")},
+        {&D::powerPopUpButton, numbered("PC", 3, 5, 100, "w")},
     };
 }
 
@@ -157,11 +117,15 @@ TEST(EveryChoice, OfAPopUpReachesTheTransceiverAndComesBack) {
             bench.settle();
             EXPECT_EQ(bench.transceiver.ask(choice.request), choice.answer)
                 << popUp.objectName() << ' ' << choice.title;
-            // The mode pop-up has only the modes whose code is a digit; the first color sends nothing.
-            const bool follows = row.popUp == &Display::modesPopUpButton   ? index < 9
-                                 : row.popUp == &Display::colorPopUpButton ? index > 0
-                                                                           : true;
-            EXPECT_TRUE(!follows || popUp.indexOfSelectedItem() == index) << popUp.objectName() << ' ' << choice.title;
+            // What it shows next is what the transceiver says.
+            popUp.selectItem(PopUpButton::noSelection);
+            bench.controller.sendCommand(choice.request);
+            bench.settle();
+            // The mode pop-up knows only the modes whose code is a digit; the first color asks for nothing.
+            const int shown = row.popUp == &Display::modesPopUpButton && index >= 9   ? 0
+                              : row.popUp == &Display::colorPopUpButton && index == 0 ? 1
+                                                                                      : index;
+            EXPECT_EQ(popUp.indexOfSelectedItem(), shown) << popUp.objectName() << ' ' << choice.title;
             ++index;
         }
         for (const auto& [level, request, on] : {std::tuple{&Display::DNRPopupButton, "NR0;", "NR01;"},

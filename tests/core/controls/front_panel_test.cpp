@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "tests/support/test_bench.h"
+#include "tests/support/radio_bench.h"
 
 namespace corvane {
 namespace {
@@ -111,6 +111,20 @@ TEST(FrontPanel, EveryKeySendsSaysAndShowsItsOwn) {
     for (const Press& press : presses) {
         TunedBench bench;
         expectPress(bench, bench.display.key(press.tag), press);
+    }
+}
+
+TEST(FrontPanel, TheTransceiverKnowsWhatEveryKeyAndTheOpeningSay) {
+    RadioBench bench;
+    std::string answers;
+    bench.transceiver.transmit = [&](std::string_view bytes) { answers += bytes; };
+    bench.advance(13s);
+    EXPECT_EQ(answers.find("?;"), std::string::npos) << answers;
+    for (const FrontPanelKey& row : frontPanelKeys) {
+        answers.clear();
+        bench.controller.go(bench.display.key(row.outlet.tag));
+        EXPECT_EQ(answers.find("?;") != std::string::npos, row.outlet.tag == 215) << row.outlet.tag << answers;
+        bench.transceiver.setPowered(true);
     }
 }
 

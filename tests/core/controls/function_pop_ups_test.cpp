@@ -22,14 +22,10 @@ TEST(FunctionPopUps, AChoiceSendsItsCommandsOneByOne) {
         {&D::modesPopUpButton, 13, {"MD0E;", "BI1;", "SF1E;"}, {"PSK"}},
         {&D::memPopUpButton, 0, {"SS0670000;", "MC001;", "MW001;", "SS0670000;"}, {"CALLING"}},
         {&D::memPopUpButton, 11, {"SS0670000;", "MC012;", "MW012;", "SS0670000;"}, {" "}},
-        {&D::colorPopUpButton, 10, {"SS03A0000;"}},
         {&D::RFILPopUpButton, 2, {"RF04;", "RF0;"}},
-        {&D::DNRPopupButton, 0, {"NR00;"}},
         {&D::DNRPopupButton, 12, {"NR01;", "RL012;"}},
         {&D::NBPopupButton, 3, {"NB01;", "NL0003;"}},
-        {&D::NBPopupButton, 10, {"NB01;", "NL0010;"}},
         {&D::powerPopUpButton, 45, {"PC050;"}, {"50 watts"}},
-        {&D::scopeLevelPopUpButton, 0, {"SS04-30.0;"}},
     };
     for (const auto& choice : cases) {
         TestBench bench;

@@ -1,11 +1,10 @@
 #include <gmock/gmock.h>
 
-#include "tests/support/radio_bench.h"
+#include "tests/support/test_bench.h"
 
 namespace corvane {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 struct KeyerBench : TestBench {
@@ -44,22 +43,6 @@ TEST(Keyer, ATypedTextGoesThroughMemoryFiveInPieces) {
         EXPECT_EQ(bench.display.sentTextMemoryField.stringValue(), message.text + "\nbefore");
         EXPECT_EQ(bench.display.textMemoryField.stringValue(), "");
     }
-}
-
-TEST(Keyer, ALongTextIsOnTheAirAndMemoryFiveIsAsItWas) {
-    simulator::RadioState state = simulator::startState();
-    ASSERT_TRUE(state.texts.store(simulator::TextFamily::rtty, 5, "RYRY DE N0CALL"));
-    RadioBench bench(state);
-    ASSERT_TRUE(bench.transceiver.setMode('6'));
-    bench.settle();
-    std::string text;
-    for (char c = 'A'; text.size() < 60; c = c == 'Z' ? 'A' : static_cast<char>(c + 1)) text += c;
-    bench.display.textMemoryField.edit(text);
-    bench.display.sendTextMemoryButton.performClick();
-    bench.settle();
-    bench.transceiver.advanceTo(std::chrono::minutes(1));
-    EXPECT_THAT(bench.transceiver.textsOnAir(), ElementsAre(text.substr(0, 49), text.substr(49)));
-    EXPECT_EQ(bench.transceiver.ask("EM05;"), "EM05RYRY DE N0CALL;");
 }
 
 TEST(Keyer, TextThatTheTransceiverCannotHoldIsRefusedAndKept) {

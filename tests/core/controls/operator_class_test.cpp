@@ -1,17 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <cstdio>
-
 #include "tests/support/test_bench.h"
+#include "wire/decimal_number.h"
 
 namespace corvane {
 namespace {
-
-std::string megahertz(int hertz) {
-    char text[16];
-    std::snprintf(text, sizeof text, "%d.%06d", hertz / 1000000, hertz % 1000000);
-    return text;
-}
 
 TEST(OperatorClass, EverySegmentBeginsAndEndsWhereItShould) {
     using enum Color;
@@ -44,7 +37,7 @@ TEST(OperatorClass, EverySegmentBeginsAndEndsWhereItShould) {
     int upper = 1000000000;
     for (const auto& segment : segments) {
         for (const int hertz : {segment.lower, upper - 100}) {
-            bench.controller.showOperatorClass(megahertz(hertz));
+            bench.controller.showOperatorClass(withDecimals(hertz / 1e6, 6));
             EXPECT_EQ(button.title(), segment.title) << hertz;
             EXPECT_EQ(button.bezelColor(), segment.color) << hertz;
         }

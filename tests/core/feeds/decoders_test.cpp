@@ -67,14 +67,10 @@ TEST(ListedFrequency, IsCutToHertzInSinglePrecision) {
     for (const char* text : {"", " 7", "-5", "1e30"}) EXPECT_FALSE(hertz(text, 1e6F)) << text;
 }
 
-std::string potaSpot(std::string_view activator, std::string_view time, std::string_view comments) {
-    return std::string(R"({"spotId":1,"extra":[[{}]],"activator":")")
-        .append(activator)
-        .append(R"(","frequency":"14074","mode":"FT8","comments":")")
-        .append(comments)
-        .append(R"(","name":"Some Park","spotTime":")")
-        .append(time)
-        .append(R"(","latitude":45,"longitude":-1.5,"locationDesc":"US-ME","reference":"US-0001"})");
+std::string potaSpot(const std::string& activator, const std::string& time, const std::string& comments) {
+    return R"({"spotId":1,"extra":[[{}]],"activator":")" + activator +
+           R"(","frequency":"14074","mode":"FT8","comments":")" + comments + R"(","name":"Some Park","spotTime":")" +
+           time + R"(","latitude":45,"longitude":-1.5,"locationDesc":"US-ME","reference":"US-0001"})";
 }
 
 TEST(PotaSpots, BecomeRowsYoungestFirstWithoutThoseThatEnded) {
@@ -128,19 +124,15 @@ TEST(PotaSpots, AreReadExactlyOrNotAtAll) {
     }
 }
 
-std::string sotaSpot(std::string_view frequency, std::string_view rest) {
-    return std::string(R"({"activatorCallsign":"N0CALL","activatorName":"Jo","mode":"CW","summitCode":"W4C/CM-001",)")
-        .append(R"("frequency":")")
-        .append(frequency)
-        .append("\",")
-        .append(rest)
-        .append("}");
+std::string sotaSpot(const std::string& frequency, const std::string& rest) {
+    return R"({"activatorCallsign":"N0CALL","activatorName":"Jo","mode":"CW","summitCode":"W4C/CM-001","frequency":")" +
+           frequency + "\"," + rest + '}';
 }
 
 TEST(SotaSpots, KeepTheirOrderAndTheBandsOfTheTransceiver) {
-    constexpr std::string_view known =
+    const std::string known =
         R"("timeStamp":"2026-11-23T13:57:03.221","comments":"qrp","summitDetails":"Big Hill, 1234m, 6 points, more")";
-    constexpr std::string_view unknown = R"("timeStamp":"","comments":null,"summitDetails":"Summit not recognised")";
+    const std::string unknown = R"("timeStamp":"","comments":null,"summitDetails":"Summit not recognised")";
     std::string body = "[";
     for (const char* frequency : {"1.843", "70.2", "144.2", "nan", "-7", "", "69.99", "50.125", "14.062"})
         body += sotaSpot(frequency, known) + ',';
@@ -154,14 +146,9 @@ TEST(SotaSpots, KeepTheirOrderAndTheBandsOfTheTransceiver) {
     EXPECT_THAT(decodeSotaSpots(R"([{"comments":"x"}])", now).problem, HasSubstr("has no text"));
 }
 
-std::string net(std::string_view name, std::string_view mode, std::string_view count) {
-    return std::string("<NetName>")
-        .append(name)
-        .append("</NetName>\n<Frequency>7.255 MHz</Frequency>\n<Mode>")
-        .append(mode)
-        .append("</Mode>\n<SubscriberCount>")
-        .append(count)
-        .append("</SubscriberCount>\n");
+std::string net(const std::string& name, const std::string& mode, const std::string& count) {
+    return "<NetName>" + name + "</NetName>\n<Frequency>7.255 MHz</Frequency>\n<Mode>" + mode +
+           "</Mode>\n<SubscriberCount>" + count + "</SubscriberCount>\n";
 }
 
 TEST(NetLogger, ListsSideBandNetsBusiestFirst) {

@@ -15,10 +15,7 @@ struct AutoBench : TestBench {
         receive("FB021200000;MD02;FA014250000;");
         forgetWhatHappened();
     }
-    void keep(std::string_view frequency) {
-        receive(std::string(frequency));
-        display.autoMemoryNowButton.performClick();
-    }
+    void keep(std::string_view frequency) { keepAutoMemory(controller, frequency); }
     const AutoMemoryState& kept = controller.autoMemories.state();
 };
 

@@ -211,24 +211,5 @@ TEST(MemoryImport, WaitsForTheReadAndForRowsAsTheyWereShown) {
     }
 }
 
-TEST(MemoryImport, ChangesTheTableAsAnEditDoes) {
-    ImportBench bench;
-    bench.read();
-    bench.settle();
-    MemoryTable expected = bench.table;
-    expected[50] = {"007074000", "C", "FT8"};
-    const int version = bench.display.memoriesTable.version();
-    const ChannelsAsRead before = bench.controller.memories.read().asRead;
-    bench.takeWrites();
-    bench.import();
-    bench.takeAll();
-    EXPECT_EQ(bench.table, expected);
-    EXPECT_EQ(bench.controller.memories.read().asRead, before) << "the channels last read have not changed";
-    EXPECT_GT(bench.display.memoriesTable.version(), version);
-    EXPECT_EQ(bench.display.memoryReadField.stringValue(), "1 channel imported, not written to the transceiver yet");
-    EXPECT_THAT(bench.takeWrites(), IsEmpty());
-    EXPECT_THAT(bench.alerts, IsEmpty());
-}
-
 }  // namespace
 }  // namespace corvane

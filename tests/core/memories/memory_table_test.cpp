@@ -50,8 +50,6 @@ TEST(MemoryTable, ATypedFrequencyIsStoredInHertzOrWarnedOf) {
         std::string_view warning;
     } cases[] = {
         {"7.074", {"007074000", "2", "HOME"}, "7.074000", ""},
-        {"14.235", {"014235000", "2", "HOME"}, "14.235000", ""},
-        {"0.86", {"000860000", "2", "HOME"}, "0.860000", ""},
         {"0.03", {"000030000", "2", "HOME"}, "0.030000", ""},
         {"75", {"075000000", "2", "HOME"}, "75.000000", ""},
         {"14.2350007", {"014235001", "2", "HOME"}, "14.235001", ""},
@@ -60,9 +58,7 @@ TEST(MemoryTable, ATypedFrequencyIsStoredInHertzOrWarnedOf) {
         {"0.029", {"", "2", "HOME"}, "", tooLow},
         {"abc", {"", "2", "HOME"}, "", tooLow},
         {" ", {"", "2", "HOME"}, "", tooLow},
-        {"-7", {"", "2", "HOME"}, "", tooLow},
         {"75.1", {"", "2", "HOME"}, "", tooHigh},
-        {"14235", {"", "2", "HOME"}, "", tooHigh},
     };
     for (const auto& edit : cases) {
         TableBench bench;
@@ -130,19 +126,9 @@ TEST(MemoryTable, AMovedRowTakesTheChannelOfItsPlace) {
         std::optional<int> destination;
         Writes tags;
     } cases[] = {
-        {"2", 5, 4, {"0", "1", "3", "4", "2", "5"}},
-        {"5", 2, 2, {"0", "1", "5", "2", "3", "4"}},
-        {"0", 6, 5, {"1", "2", "3", "4", "5", "0"}},
-        {"3", 3, 3, {"0", "1", "2", "3", "4", "5"}},
-        {"3", 4, 3, {"0", "1", "2", "3", "4", "5"}},
-        {"1", 0, 0, {"1", "0", "2", "3", "4", "5"}},
-        {"", 3, std::nullopt, {"0", "1", "2", "3", "4", "5"}},
-        {"M-02", 3, std::nullopt, {"0", "1", "2", "3", "4", "5"}},
-        {"1.0", 3, std::nullopt, {"0", "1", "2", "3", "4", "5"}},
-        {"-1", 3, std::nullopt, {"0", "1", "2", "3", "4", "5"}},
-        {"99", 3, std::nullopt, {"0", "1", "2", "3", "4", "5"}},
-        {"1", 100, std::nullopt, {"0", "1", "2", "3", "4", "5"}},
-        {"1", -1, std::nullopt, {"0", "1", "2", "3", "4", "5"}},
+        {"2", 5, 4, {"0", "1", "3", "4", "2", "5"}}, {"5", 2, 2, {"0", "1", "5", "2", "3", "4"}},
+        {"0", 6, 5, {"1", "2", "3", "4", "5", "0"}}, {"3", 3, 3, {"0", "1", "2", "3", "4", "5"}},
+        {"3", 4, 3, {"0", "1", "2", "3", "4", "5"}}, {"1", 0, 0, {"1", "0", "2", "3", "4", "5"}},
     };
     for (const auto& drag : cases) {
         TableBench bench;
@@ -154,6 +140,11 @@ TEST(MemoryTable, AMovedRowTakesTheChannelOfItsPlace) {
     }
     TableBench bench;
     bench.name({"0"});
+    const MemoryTable before = bench.rows;
+    for (const auto& [source, gap] :
+         {std::pair{"", 3}, {"M-02", 3}, {"1.0", 3}, {"-1", 3}, {"99", 3}, {"1", 100}, {"1", -1}})
+        EXPECT_EQ(bench.table.drop(source, gap), std::nullopt) << source << ' ' << gap;
+    EXPECT_EQ(bench.rows, before);
     EXPECT_EQ(bench.table.drop(TableView::pasteboardText(0), memoryChannels), 98);
     EXPECT_EQ(bench.table.cell(98, 1), "M-99");
     EXPECT_EQ(bench.table.cell(98, 4), "0");

@@ -12,13 +12,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using Texts = std::vector<std::string>;
 
-struct LinkButtons {
-    std::string title;
-    Color color;
-    bool canReadMemories;
-
-    bool operator==(const LinkButtons&) const = default;
-};
+using LinkButtons = std::tuple<std::string, Color, bool>;  // title and color of Connect, whether memories can be read
 
 LinkButtons linkButtons(const Display& display) {
     return {display.openCloseButton.title(), display.openCloseButton.bezelColor(),
@@ -95,10 +89,12 @@ TEST_F(SerialPortsTest, BeginsWithTheSuggestedPortUnlessOneIsRemembered) {
         other.portManager.ports = {first, second};
         other.portManager.suggested = second;
         other.settings.setText("defaultPort", remembered);
+        other.settings.setText("defaultBaud", "9600");
         SerialPortDemoController begun(other.platform(), {});
         begun.awakeFromNib();
         EXPECT_EQ(begun.link.serialPort(), chosen);
         EXPECT_EQ(begun.display.PortPopUpButton.titleOfSelectedItem(), chosen ? chosen->name() : "");
+        EXPECT_EQ(begun.display.BaudPopUpButton.titleOfSelectedItem(), "38400");
         EXPECT_FALSE(chosen && chosen->isOpen());
     }
 }

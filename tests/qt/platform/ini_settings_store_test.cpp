@@ -24,6 +24,12 @@ struct IniSettingsStoreTest : testing::Test {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
+    void add(const QByteArray& bytes) const {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::Append));
+        file.write(bytes);
+    }
 };
 
 TEST_F(IniSettingsStoreTest, TextComesBackAsItWas) {
@@ -57,10 +63,7 @@ TEST_F(IniSettingsStoreTest, AChangeIsOnDiskByTheNextTurnOfTheEventLoop) {
 
 TEST_F(IniSettingsStoreTest, AFileEditedByHandIsRead) {
     IniSettingsStore(path).setText("voice", "1");
-    QFile edited(path);
-    ASSERT_TRUE(edited.open(QIODevice::Append));
-    edited.write("call=a, b\nautosquelch=rubbish\n");
-    edited.close();
+    add("call=a, b\nautosquelch=rubbish\n");
     const IniSettingsStore store(path);
     EXPECT_EQ(store.text("call"), "a, b");
     EXPECT_EQ(store.integer("autosquelch"), 0);
@@ -68,24 +71,20 @@ TEST_F(IniSettingsStoreTest, AFileEditedByHandIsRead) {
 }
 
 TEST_F(IniSettingsStoreTest, AFileThatIsNoSettingsFileIsKeptBesideTheNewOne) {
-    struct Case {
-        QByteArray content;
-        const char* reason;
-    };
     IniSettingsStore(path).setText("sounds", "0");
     const QByteArray whole = file();
     int number = 0;
-    for (const Case& each : {Case{whole.left(whole.size() - 1), "cut off"}, Case{whole.left(12), "cut off"},
-                             Case{QByteArray("sounds=0\0\n", 10), "not text"}, Case{"sounds=\xff\xfe\n", "not text"},
-                             Case{"<html>no such page</html>\n", "not settings"}}) {
+    const std::pair<QByteArray, const char*> cases[] = {{whole.left(whole.size() - 1), "cut off"},
+                                                        {whole.left(12), "cut off"},
+                                                        {QByteArray("sounds=0\0\n", 10), "not text"},
+                                                        {"sounds=\xff\xfe\n", "not text"},
+                                                        {"<html>no such page</html>\n", "not settings"}};
+    for (const auto& [content, reason] : cases) {
         QFile(path).remove();
-        QFile bad(path);
-        ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
-        bad.write(each.content);
-        bad.close();
+        add(content);
         {
             IniSettingsStore store(path);
-            EXPECT_NE(store.problem().find(each.reason), std::string::npos) << store.problem();
+            EXPECT_NE(store.problem().find(reason), std::string::npos) << store.problem();
             EXPECT_EQ(store.problem().find('\n'), std::string::npos);
             EXPECT_EQ(store.text("sounds"), std::nullopt);
             store.setText("sounds", "1");
@@ -94,7 +93,7 @@ TEST_F(IniSettingsStoreTest, AFileThatIsNoSettingsFileIsKeptBesideTheNewOne) {
         EXPECT_EQ(IniSettingsStore(path).text("sounds"), "1");
         QFile kept(path + (++number == 1 ? QString(".bad") : ".bad" + QString::number(number)));
         ASSERT_TRUE(kept.open(QIODevice::ReadOnly)) << kept.fileName().toStdString();
-        EXPECT_EQ(kept.readAll(), each.content);
+        EXPECT_EQ(kept.readAll(), content);
     }
 }
 
@@ -122,11 +121,7 @@ TEST_F(IniSettingsStoreTest, AFullDiskLeavesTheOldFileWholeAndIsTold) {
 }
 
 TEST_F(IniSettingsStoreTest, AFullDiskIsToldOfAlsoAfterABadFile) {
-    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
-    QFile bad(path);
-    ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
-    bad.write("rubbish\n");
-    bad.close();
+    add("rubbish\n");
     IniSettingsStore store(path);
     ASSERT_FALSE(store.problem().empty());
     QFile(path).remove();

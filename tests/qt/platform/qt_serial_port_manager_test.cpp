@@ -7,10 +7,10 @@
 #include <memory>
 
 #include "event_loop.h"
-#include "pseudo_terminal.h"
 #include "qt/platform/polling_serial_port_watcher.h"
 #include "qt/platform/udev_serial_port_watcher.h"
 #include "recording_delegate.h"
+#include "simulator/pseudo_terminal.h"
 
 namespace corvane {
 namespace {
@@ -66,9 +66,9 @@ struct ManagerTest : testing::Test, SerialPortsObserver {
 };
 
 TEST_F(ManagerTest, ListsDevicesThenExtraPathsThenTheLastPort) {
-    const PseudoTerminal line;
+    const simulator::PseudoTerminal line;
     devices.push_back({"pts", line.path(), ""});
-    const PseudoTerminal other;
+    const simulator::PseudoTerminal other;
     make({"/dev/no-such-device", line.path(), other.path()});
     EXPECT_EQ(names(), (Names{"ttyUSB0", "pts", other.path(), "Simulated transceiver"}));
     EXPECT_EQ(manager->availablePorts()[0]->details(), "Adapter, /dev/ttyUSB0");
@@ -97,7 +97,7 @@ TEST_F(ManagerTest, ABurstGivesOneNoticeAndPortsKeepTheirObjects) {
 }
 
 TEST_F(ManagerTest, AnOpenPortThatLeavesTheListIsRemovedOnce) {
-    const PseudoTerminal line;
+    const simulator::PseudoTerminal line;
     devices = {{"radio", line.path(), ""}};
     make();
     const auto port = manager->availablePorts()[0];
@@ -117,7 +117,7 @@ TEST_F(ManagerTest, AnOpenPortThatLeavesTheListIsRemovedOnce) {
 TEST_F(ManagerTest, ExtraPathsComeAndGo) {
     const QTemporaryDir folder;
     const std::string link = folder.filePath("radio").toStdString();
-    auto line = std::make_unique<PseudoTerminal>();
+    auto line = std::make_unique<simulator::PseudoTerminal>();
     devices.clear();
     make({link});
     EXPECT_EQ(names(), Names{"Simulated transceiver"});

