@@ -57,7 +57,7 @@ void SerialPortDemoController::wire() {
 
 void SerialPortDemoController::awakeFromNib() {
     if (vqPortChecked != 1) {
-        link.fillPortPopUp();
+        link.fillPopUps();
         restoreSettings();
         link.suggestPort();
         showSettingsProblem();

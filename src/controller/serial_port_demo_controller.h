@@ -1,5 +1,5 @@
-// The face of Corvane: it owns the rooms, wires them, and names every operation of the program whose name others use:
-// the operator's actions, the calls from ports and tables, and what runs on a timer.
+// The face of Corvane: it owns the rooms and wires them, and has one operation under the established name of each
+// action, call from a port or a table, and timer. The window and the tests use these names.
 //
 // This header is an index. The contract of an operation is in the header of its room. The controller itself does this:
 //   the action of each control           controller/bindings.cpp
@@ -63,7 +63,7 @@ public:
     void serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error) override {
         link.serialPortDidEncounterError(port, error);
     }
-    void serialPortsWereConnected(const SerialPorts& ports) override;
+    void serialPortsWereConnected(const SerialPorts& ports) override;  // also restores the settings again
     void serialPortsWereDisconnected(const SerialPorts& ports) override { link.serialPortsWereDisconnected(ports); }
     void serialPortDidReceiveData(ORSSerialPort& port, std::string_view bytes) override;
     void interpretResponses(std::string_view text);  // every response in one chunk

@@ -16,7 +16,8 @@ public:
 
     static constexpr Scheduler::Duration interval{50};
 
-    // `tasks` must end with the pacer; `rested` is called 50 ms after the last command.
+    // `tasks` must be destroyed with the pacer, so that no timer finds it gone. `rested` is called 50 ms after the last
+    // command, once none waits.
     CommandPacer(Send send, const Tasks& tasks, std::function<void()> rested)
         : send_(std::move(send)), tasks_(tasks), rested_(std::move(rested)) {}
 

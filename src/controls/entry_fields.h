@@ -12,9 +12,9 @@ class EntryFields {
 public:
     EntryFields(Display& display, Link& link, Mirror& mirror, Voice& voice);
 
-    void doTune(Button& sender);  // tunes the active VFO to the typed frequency
-    void doCall(Button& sender);  // writes the typed call sign into the setup menu
-    void returnPressedInFreqField(TextField& sender);
+    void doTune(Button& sender);                       // tunes the active VFO to the typed frequency
+    void doCall(Button& sender);                       // writes the typed call sign into the setup menu
+    void returnPressedInFreqField(TextField& sender);  // tunes, and gives up the keyboard
     void returnPressedInCallField(TextField& sender);
 
 private:

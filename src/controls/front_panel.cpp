@@ -45,18 +45,18 @@ void FrontPanel::press(Button& sender, const ModeKey& key) {
     finish(std::string("MD0") + key.code + ';');
 }
 
-void FrontPanel::press(Button& sender, const ToggleKey& key, int offTag) {
-    const bool switchOn = sender.tag() == offTag;
-    sender.setTag(switchOn ? offTag + onTagOffset : offTag);
+void FrontPanel::press(Button& sender, const ToggleKey& key, int firstTag) {
+    const bool switchOn = sender.tag() == firstTag;
+    sender.setTag(switchOn ? firstTag + onTagOffset : firstTag);
     sender.setBezelColor(switchOn ? key.onColor : Color::none);
     if (!key.onTitle.empty()) sender.setTitle(switchOn ? key.onTitle : key.offTitle);
     finish(std::string(switchOn ? key.onCommand : key.offCommand));
 }
 
-void FrontPanel::press(Button& sender, const MuteKey&, int offTag) {
-    const bool mute = sender.tag() == offTag;
+void FrontPanel::press(Button& sender, const MuteKey&, int firstTag) {
+    const bool mute = sender.tag() == firstTag;
     mirror_.setMuted(mute);
-    sender.setTag(mute ? offTag + onTagOffset : offTag);
+    sender.setTag(mute ? firstTag + onTagOffset : firstTag);
     sender.setImage(mute ? Image::NSImageNameTouchBarAudioOutputMuteTemplate
                          : Image::NSImageNameTouchBarAudioOutputVolumeHighTemplate);
     sender.setBezelColor(mute ? Color::red : Color::none);

@@ -1,5 +1,5 @@
-// The keys of the front panel. Each press builds a command, and `finish` sends it. The display follows when the
-// transceiver reports.
+// The keys of the front panel. A key shows its press at once, by its color, its tag or its title; values follow when
+// the transceiver reports them.
 #pragma once
 
 #include <string>
@@ -37,7 +37,8 @@ public:
     // Tunes the active VFO "up" or "down" by `step` hertz.
     void stepFrequency(std::string_view direction, int step);
 
-    // Ends every press: sends the key's command, followed by break-in on. "BS05;" sends "BS05;BI1;".
+    // Sends the last command of a key with break-in on behind it: "BS05;" gives "BS05;BI1;", nothing gives "BI1;".
+    // Break-in off, "BI0;", goes alone. Keys of other rooms that send end here, too.
     void finish(std::string command);
 
 private:

@@ -44,6 +44,7 @@ void FunctionPopUps::goMemory(PopUpButton& sender) {
     if (index < memoryChannels) voice_.speak(mirror_.tagOfChannel(index));
 }
 
+// These two are sent without becoming `cmd`.
 void FunctionPopUps::goColor(PopUpButton& sender) {
     const std::string command = scopeColorCommand(sender.indexOfSelectedItem());
     if (command.empty()) return sender.takeBack();

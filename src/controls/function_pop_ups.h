@@ -19,7 +19,7 @@ public:
                    Scheduler& scheduler);
 
     void goMode(PopUpButton& sender);
-    void goMemory(PopUpButton& sender);
+    void goMemory(PopUpButton& sender);  // speaks the tag; with Memory IPO also switches the pre-amplifier off
     void goColor(PopUpButton& sender);
     void goSpectrumMode(PopUpButton& sender);
     void goSmeter(PopUpButton& sender);

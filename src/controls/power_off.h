@@ -1,6 +1,6 @@
-// Switches the transceiver off after a chosen time. Every choice starts its own timer, and no timer is cancelled. A
-// timer that runs out while the power-off is not armed does nothing. One that was started by an earlier choice switches
-// off, even if a later choice has armed the power-off for another time.
+// Switches the transceiver off after a chosen time. Every time chosen starts its own timer; none is cancelled, not even
+// by OFF. A timer that runs out while the power-off is not armed does nothing. One that was started by an earlier
+// choice switches off, even if a later choice has armed the power-off for another time.
 #pragma once
 
 #include "app/voice.h"

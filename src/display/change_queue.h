@@ -11,13 +11,13 @@ namespace corvane {
 class ChangeQueue;
 class Control;
 
-// What shows a control. It joins a queue by `Control::addView` and ends with its handle. Handle, control and queue may
-// go in any order: a view without its control or queue is not shown any more. `show` may end other views, not its own.
+// The link between a control and the widget that shows it, made by `Control::addView` and destroyed with its
+// ViewHandle. Handle, control and queue may be destroyed in any order. `show` may end other views, not its own.
 struct View {
-    Control* control;                     // null when it has gone
-    std::shared_ptr<ChangeQueue*> queue;  // to null when it has gone
+    Control* control;                     // null after the control has been destroyed
+    std::shared_ptr<ChangeQueue*> queue;  // points to null after the queue has been destroyed
     std::function<void()> show;
-    bool waiting = false;  // in the queue
+    bool waiting = false;  // put into the queue and not shown since
 
     View(Control& shown, std::shared_ptr<ChangeQueue*> joined, std::function<void()> shows);
     ~View();

@@ -40,8 +40,8 @@ public:
     bool enabled() const { return enabled_; }
     void setEnabled(bool enabled) { assign(enabled_, enabled); }
 
-    // A busy control cannot be used for a moment. Other than a disabled one it keeps the keyboard: where the focus
-    // jumps away, the next key press would go to a neighbour.
+    // A busy control cannot be used for a moment. Unlike a disabled one it keeps the keyboard focus; otherwise the next
+    // key press would reach a neighbour.
     bool busy() const { return busy_; }
     void setBusy(bool busy) { assign(busy_, busy); }
     bool available() const { return enabled_ && !busy_; }  // to the operator
@@ -80,7 +80,7 @@ private:
     bool enabled_ = true;
     bool busy_ = false;
     bool visible_ = true;
-    bool allWait_ = true;  // no queue need be told of a change: every view waits already, or there is none
+    bool allWait_ = true;  // a change need not be told: every view waits already, or there is none
     std::vector<View*> views_;
 };
 

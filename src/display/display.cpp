@@ -2,6 +2,7 @@
 
 #include "display/pop_up_entries.h"
 #include "display/table_columns.h"
+#include "wire/memory_fields.h"
 
 namespace corvane {
 

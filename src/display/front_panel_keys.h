@@ -146,8 +146,8 @@ static_assert(std::ranges::adjacent_find(frontPanelKeys, std::ranges::greater_eq
 static_assert(std::ranges::all_of(operatingModes,
                                   [](const OperatingMode& mode) {
                                       return std::ranges::any_of(frontPanelKeys, [&](const FrontPanelKey& key) {
-                                          const auto* action = std::get_if<ModeKey>(&key.action);
-                                          return action && action->code == mode.code;
+                                          return std::holds_alternative<ModeKey>(key.action) &&
+                                                 std::get<ModeKey>(key.action).code == mode.code;
                                       });
                                   }),
               "every mode has a key");

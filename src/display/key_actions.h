@@ -13,7 +13,7 @@ struct BandKey {
     std::string_view command;       // e.g. "BS05;"
     std::string_view announcement;  // what the voice guide says
 
-    // No key without an action: a row that leaves its action out does not compile, as there is no band key of nothing.
+    // No default constructor: BandKey is the variant's first type, so a row without an action would be an empty one.
     constexpr BandKey(std::string_view sent, std::string_view spoken) : command(sent), announcement(spoken) {}
 };
 

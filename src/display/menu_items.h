@@ -10,7 +10,7 @@
 namespace corvane {
 
 // How an item is set: by the title of the chosen entry as it stands, or by its index in plain decimal, in two or in
-// three digits. A transceiver's item that is not written is only shown.
+// three digits. An item of kind `none` is only shown.
 enum class MenuWrite { none, title, index, twoDigits, threeDigits };
 
 // How a reported value chooses the entry: by its title, or as the decimal index. Text is the call sign. The transceiver
@@ -33,8 +33,8 @@ struct MenuItemRow {
     MenuWrite write;
     MenuTake take;
     int width;  // characters of the value on the line; 0 for an item that is not taken
-    // Of an item whose numbers are filled in at the start: the index of the entry that is marked, counted from the
-    // number 0, and the number of the entry that is selected. They are the same entry where the step is 1.
+    // Only for items whose entries are filled in at the start. The entry with this number is selected. The yellow mark
+    // stands at this index, counted from the number 0: with a step of 1 that is the same entry.
     int defaultNumber = noDefault;
 
     static constexpr int noDefault = -1;

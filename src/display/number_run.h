@@ -10,8 +10,8 @@
 namespace corvane {
 
 // The numbers from `first` to `last` by `step`, in `digits` digits with leading zeros, with a sign before them if
-// `sign` says so: {-20, 10, 1, 2, true} gives "-20" ... "+00" ... "+10". `step` is above 0; a last below the first
-// gives none.
+// `sign` says so: {-20, 10, 1, 2, true} gives "-20" ... "+00" ... "+10". `step` is above 0; with `last` below
+// `first` the run is empty.
 struct NumberRun {
     int first;
     int last;

@@ -35,7 +35,7 @@ public:
         action(*this);
     }
 
-    // In between, late reports of an earlier position do not pull the knob back.
+    // Between beginMove and endMove, late reports of an earlier position do not pull the knob back.
     void beginMove() { moving_ = true; }
     void endMove() {
         moving_ = false;

@@ -79,6 +79,4 @@ inline constexpr std::array mwTableColumns{
     TableColumn{"power", "Power", 12, TableColumn::Alignment::right},
 };
 
-inline constexpr int memoryReadSteps = 200;  // answers that a read of all memory channels waits for
-
 }  // namespace corvane

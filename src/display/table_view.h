@@ -38,7 +38,7 @@ public:
     virtual ~TableViewDataSource() = default;
 
     virtual int numberOfRows(const TableView& table) const = 0;
-    // Of a cell without a button; the row and the column exist.
+    // What a cell shows; never asked for a column of buttons. The row and the column exist.
     virtual TableCell viewFor(const TableView& table, int row, int column) const = 0;
     virtual void openLink(std::string_view address) = 0;
     // What was dragged is dropped on the gap above `row`; below the last row that is the number of rows. Gives where
@@ -61,7 +61,7 @@ public:
     // Without a data source the table is empty.
     void setDataSource(TableViewDataSource& source) { source_ = &source; }
     int rows() const { return source_ ? source_->numberOfRows(*this) : 0; }
-    // The cell, which must exist, and what is read in it.
+    // The contents of a cell, which must exist, and its text.
     TableCell view(int row, int column) const;
     std::string cell(int row, int column) const { return textOf(view(row, column)); }
 
@@ -88,7 +88,8 @@ public:
         return source_ && takesDraggedText_ ? source_->acceptDrop(*this, plainText, row) : std::nullopt;
     }
 
-    // A column with a prototype is one that the rows were sorted by; each press of its header turns the direction.
+    // The data source gives a prototype to the column that it has just sorted by and takes it from the others; the next
+    // press of that header reverses the direction.
     struct SortDescriptor {
         std::string key;  // e.g. "Col2"
         bool ascending = true;

@@ -31,9 +31,9 @@ public:
     FeedRefresh(const FeedRefresh&) = delete;
     FeedRefresh& operator=(const FeedRefresh&) = delete;
 
-    // Ends once, with the result of `read` for the answer. If that is not there within `patience`, it ends with the
-    // result of `read` for a response without a body, whose problem says so; a later answer is dropped. `then`, if any,
-    // is called after this refresh has ended, or the one that replaced it.
+    // Ends exactly once: with the answer, or after `patience` with an empty response whose problem is "no answer within
+    // 2 s", for which `read` runs at once. A later answer is dropped. `then` is called at the end; if a newer refresh
+    // replaces this one, at the end of that.
     void start(const HttpRequest& request, const Read& read, std::function<void()> then = {});
     bool running() const { return box_ != nullptr; }
 

@@ -21,8 +21,8 @@ constexpr bool isAskedFor(int item) {
 }
 
 // A group of the setup menu, and what its key sends to read it: `before`, then the requests of its sub-menus in order,
-// then `after`. The last of these that is not empty goes out with the tail that every key sends; with `lastTwice` it is
-// also sent once before.
+// then `after`. The last of these that is not empty is left to the front panel, which adds break-in on; with
+// `lastTwice` it is sent once before that, too.
 struct MenuGroup {
     int page;  // of the settings tab
     std::string_view before;

@@ -14,8 +14,8 @@ struct MenuReport {
 };
 
 // "EX0101040250" reports "0250" for item 010104; characters beyond the item's width are ignored. Gives nothing for an
-// unknown item number and for a value that is too short. An item that the program does not read is reported with an
-// empty value.
+// unknown item number and for a value that is too short. The value of an item with
+// MenuTake::none is empty.
 std::optional<MenuReport> menuReport(std::string_view response);
 
 }  // namespace corvane

@@ -23,7 +23,7 @@ public:
 
     // Called by the mirror with the frequency in MHz: "14.250000".
     std::function<void(std::string_view megahertz)> onFrequency = [](std::string_view) {};
-    // Called by the mirror for the tag of a memory channel; rows count from 0.
+    // Gives the tag of a memory channel; rows count from 0. The mirror and the memory pop-up ask.
     std::function<std::string(int row)> tagOfChannel = [](int) { return std::string(); };
 
     const RadioState& state() const { return state_; }
@@ -71,8 +71,8 @@ public:
     void takeScopeSpan(std::string_view response);             // "SS0570000"
     void takeSpectrumMode(std::string_view response);          // "SS06B0000"
     void takeSwitchedOff(std::string_view response);           // "PS0"
-    void takeNoiseReductionSwitch(std::string_view response);  // "NR01"
-    void takeNoiseBlankerSwitch(std::string_view response);    // "NB01"
+    void takeNoiseReductionSwitch(std::string_view response);  // "NR01": asks for the level; "NR00": shows OFF
+    void takeNoiseBlankerSwitch(std::string_view response);    // "NB01", likewise
     void takeSwitch(std::string_view response);                // "BC01", "CO000001", "BP00001", "BI1"
     void setMuted(bool muted) { state_.vqMuted = muted ? 1 : 0; }
     // Remembers the text of memory 5 of this mode group: typed texts are sent through that memory, which then gets its

@@ -8,6 +8,7 @@
 
 namespace corvane {
 
+// The names that begin with "vq" are the established ones of the program's state.
 struct RadioState {
     std::string vqFreqA;            // VFO A in hertz, nine digits, e.g. "014250000"; empty before the first report
     std::string vqFreqB;            // VFO B

@@ -31,7 +31,8 @@ public:
 
     // Asks for the items of a group. Returns the last command, which the caller sends.
     std::string readGroup(const MenuGroup& group);
-    void endRead(std::string_view problem);  // ": stopped, the link is closed."; shown after the progress
+    // Ends the read that runs, if any. `problem` is shown after its progress: ": stopped, the link is closed."
+    void endRead(std::string_view problem);
 
     void writeMenuItem(PopUpButton& sender);  // sets the item of the sender's tag to the chosen entry
 

@@ -38,7 +38,7 @@ public:
     MemoryChannels(Display& display, Link& link, Mirror& mirror, Voice& voice, const Surroundings& surroundings);
 
     const MemoryTable& vqMemArray() const { return vqMemArray_; }
-    // A list of tags by themselves, one blank each. The tags in use are those of the rows.
+    // Reserved for tags by themselves, one blank each; the program uses those of the rows.
     const std::vector<std::string>& vqMemTagArray() const { return vqMemTagArray_; }
     const MemoryRead& read() const { return read_; }
     const std::string& tagOf(int row) const { return vqMemArray_.at(static_cast<std::size_t>(row)).tag; }
@@ -85,7 +85,7 @@ private:
     bool saveMemoriesAsRead();
     void showWhereChannelsAreSaved();
 
-    bool canTakeChannels() const;
+    bool canTakeChannels() const;  // whether imported channels would stay: no read of this session is still to come
     void importFile(const std::string& path);
     void tell(std::string_view what, std::string_view why);
     void takeImportedChannels(const MemoryTable& shown, std::span<const ImportedChannel> channels);

@@ -13,8 +13,7 @@ namespace corvane {
 std::string memoryRequest(std::string_view name, int channel);
 
 // A reply without its ";": "MR001014250000+000000210000". The fields of a short reply are taken from the characters
-// that it has. The channel is 0 unless it is a number from 1 to 99 and the whole reply is ASCII, because noise may
-// still be well-formed text.
+// that it has. The channel is 0 if it is not from 1 to 99, or if a byte is not ASCII: line noise can be valid UTF-8.
 struct MemoryReply {
     int channel = 0;
     std::string_view frequency;  // nine digits of hertz in a whole reply

@@ -21,8 +21,8 @@ struct MemoryFrequencyEntry {
 };
 MemoryFrequencyEntry memoryFrequencyEntry(std::string_view typed);
 
-// The mode field for a typed text: its first character, or "1" if no character of the text is a mode code or the first
-// cannot be sent. Nothing for a blank text.
+// The mode field for a typed text: its first character, if that can be sent and the text has a mode code anywhere;
+// otherwise "1". Nothing for a blank text.
 std::optional<std::string> memoryModeTyped(std::string_view typed);
 
 // The mode field for an entry of the mode pop-up: 2 gives "2", 11 gives "B".

@@ -23,7 +23,7 @@ struct MemoryReadStep {
 
 struct MemoryReadProgress {
     bool running = false;
-    int handled = 0;   // replies; a whole read has 200
+    int handled = 0;   // replies; a whole read has 200, as both passes ask for channel 1 twice
     std::string text;  // "Reading frequencies, channel 37 of 99"
 };
 
@@ -32,7 +32,8 @@ struct MemoryRead {
     std::string vqTagRead = "0";  // "run" while tags are read
     int vqMemReadCnt = 0;         // replies handled in the present read
     int vqTagReadCnt = 0;
-    unsigned number = 0;                   // grows with every read begun or ended early, to recognise a late watch
+    unsigned number =
+        0;  // grows with every read begun or ended early, so that the timer of an earlier one does nothing
     unsigned session = 0;                  // the session of the link in which the last read began
     bool whole = false;                    // whether the last read was completed
     bool stalled = false;                  // whether the present read waits for an overdue reply

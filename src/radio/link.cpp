@@ -44,6 +44,7 @@ void Link::send(std::string command) {
 }
 
 void Link::write(std::string command) {
+    if (command.empty()) return;
     cmd_ = std::move(command);
     writeString(cmd_);
 }

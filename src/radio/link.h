@@ -34,7 +34,8 @@ static_assert(memorySlotString.size() == 44);
 
 class Link {
 public:
-    // What the link uses of the system. A port reports to `reports`, which passes on to the link what is meant for it.
+    // What the link uses of the system. A port reports to `reports`, the controller, which calls the operations
+    // "serialPort..." below.
     struct Surroundings {
         ORSSerialPortManager& ports;
         SettingsStore& settings;
@@ -52,15 +53,16 @@ public:
     std::function<void()> onClosed = [] {};                 // the session is over: the port was closed, or has gone
     std::function<void()> onMemoryReadDue = [] {};          // a step of the opening: read the memory channels
 
-    // --- sending. Without a current port everything is dropped silently. The display follows the transceiver's
-    // reports, so it never shows what did not happen.
+    // --- sending. Without a current port everything is dropped silently, and so are bytes that are not UTF-8.
     void sendCommand(std::string_view commands);  // one write for each command in the text
     void writeString(std::string_view commands);  // the whole text in one write
-    void send(std::string command);               // keeps the command as `cmd` and sends it; an empty one does nothing
-    void write(std::string command);              // the same in one write
-    void sendBox(Button& sender);                 // sends the text of the raw-command box
+    // Both keep the command as `cmd`; an empty one does nothing. `send` writes as sendCommand does: front panel,
+    // pop-ups, presets, POTA. `write` writes as writeString does: typed texts and frequencies, the other lists.
+    void send(std::string command);
+    void write(std::string command);
+    void sendBox(Button& sender);                      // sends the text of the raw-command box
     void returnPressedInTextField(TextField& sender);  // Return in the raw-command box
-    // The command that the last action built, e.g. "BS05;BI1;". It means nothing once it is sent.
+    // The command that was built last, e.g. "BS05;BI1;". A step key sends it again with break-in on behind it.
     const std::string& cmd() const { return cmd_; }
     void build(std::string command) { cmd_ = std::move(command); }
 
@@ -80,10 +82,8 @@ public:
     void serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error);
     void serialPortsWereConnected(const SerialPorts& ports);
     void serialPortsWereDisconnected(const SerialPorts& ports);
-    bool userNotificationCenterShouldPresentNotification() const;  // notices also show while the program is in front
-    void userNotificationCenterDidDeliverNotification(NotificationId id);
-    void noteAnswer();  // the transceiver has sent something
-    void fillPortPopUp();
+    void noteAnswer();                           // the transceiver has sent something
+    void fillPopUps();                           // the ports and the speeds
     void showMessage(std::string_view message);  // in the line below the frequencies
 
     // --- session: its number grows with every opening and closing, which shows whether a step is left over from an
@@ -97,6 +97,8 @@ private:
     void afterOpening(Scheduler::Duration delay, std::function<void()> step);
     void setUpMemorySlots();
     void synchronise();
+    bool userNotificationCenterShouldPresentNotification() const;  // also while the program is in front
+    void userNotificationCenterDidDeliverNotification(NotificationId id);
     void deliverNotice(std::string_view title, std::string_view portName, std::string_view what);
     void listPortsInLog(std::string_view what, const SerialPorts& ports);
 

@@ -1,4 +1,5 @@
-// Assembles whole responses from bytes that a serial driver cuts anywhere.
+// Assembles whole responses from bytes that a serial driver cuts anywhere. It stands here as it knows how the line
+// frames them; its owner is ListedPort in qt/platform.
 #pragma once
 
 #include <cstddef>

@@ -18,7 +18,7 @@ void Link::setSerialPort(std::shared_ptr<ORSSerialPort> port) {
     }
     if (serialPort_) serialPort_->setDelegate(&around_.reports);
     display_.portDetailsField.setStringValue(serialPort_ ? serialPort_->details() : std::string{});
-    fillPortPopUp();
+    fillPopUps();
     showStatus();
 }
 
@@ -117,7 +117,7 @@ void Link::serialPortDidEncounterError(ORSSerialPort& port, const SerialPortErro
 void Link::serialPortsWereConnected(const SerialPorts& ports) {
     listPortsInLog("Ports were connected: ", ports);
     for (const auto& port : ports) deliverNotice("Serial Port Connected", port->name(), " was connected to your Mac.");
-    fillPortPopUp();
+    fillPopUps();
 }
 
 void Link::serialPortsWereDisconnected(const SerialPorts& ports) {
@@ -126,7 +126,7 @@ void Link::serialPortsWereDisconnected(const SerialPorts& ports) {
         deliverNotice("Serial Port Disconnected", port->name(), " was disconnected from your Mac.");
     // An open port reports its own removal; a closed one must be dropped here.
     if (std::ranges::find(ports, serialPort_) != ports.end() && !serialPort_->isOpen()) setSerialPort(nullptr);
-    fillPortPopUp();
+    fillPopUps();
 }
 
 bool Link::userNotificationCenterShouldPresentNotification() const { return true; }
@@ -150,7 +150,7 @@ void Link::listPortsInLog(std::string_view what, const SerialPorts& ports) {
     around_.log.line(line);
 }
 
-void Link::fillPortPopUp() {
+void Link::fillPopUps() {
     std::vector<std::string> titles;
     for (const auto& port : around_.ports.availablePorts()) titles.push_back(port->description());
     if (titles != display_.PortPopUpButton.entries()) display_.PortPopUpButton.setEntries(std::move(titles));
