@@ -405,4 +405,10 @@ constexpr const MenuItemRow* menuItem(int number) {
     return row != menuItems.end() && row->number == number ? &*row : nullptr;
 }
 
+// Whether an item has this number. (Comparing the row's address with nullptr is no constant expression to g++ 12 under
+// its sanitizer.)
+constexpr bool isMenuItem(int number) {
+    return std::ranges::binary_search(menuItems, number, {}, &MenuItemRow::number);
+}
+
 }  // namespace corvane

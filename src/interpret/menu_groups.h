@@ -13,11 +13,11 @@ namespace corvane {
 // A read asks for every item but these.
 inline constexpr std::array menuItemsNotAskedFor{10517, 20212, 20301, 30108, 30109, 30110, 30205, 30206, 30408};
 static_assert(std::ranges::is_sorted(menuItemsNotAskedFor), "found by binary search");
-static_assert(std::ranges::all_of(menuItemsNotAskedFor, [](int item) { return menuItem(item) != nullptr; }));
+static_assert(std::ranges::all_of(menuItemsNotAskedFor, isMenuItem));
 
 // Whether the read of its group asks for an item: true for 30107, false for 30108 and for a number without an item.
 constexpr bool isAskedFor(int item) {
-    return menuItem(item) && !std::ranges::binary_search(menuItemsNotAskedFor, item);
+    return isMenuItem(item) && !std::ranges::binary_search(menuItemsNotAskedFor, item);
 }
 
 // A group of the setup menu, and what its key sends to read it: `before`, then the requests of its sub-menus in order,

@@ -57,8 +57,11 @@ TEST(ListsTest, AreFilledFilteredAndTunedTo) {
     }));
 
     station.lists.display.openCloseButton.performClick();
-    ASSERT_TRUE(eventually([&] { return station.lists.mirror.state().vqAorB == "A"; }, 10s));
-    ASSERT_EQ(showPotaTable(station), table);  // connecting has shown the transceiver's page
+    // The opening's last request has come, and its answers: nothing changes the page or the active VFO any more.
+    ASSERT_TRUE(eventually([&] { return station.radio.transceiver.received().count("EX") > 0; }, 20s));
+    station.settle();
+    ASSERT_EQ(station.lists.mirror.state().vqAorB, "A");
+    ASSERT_EQ(showPotaTable(station), table);
     QTest::keyClicks(station.listsWindow.findChild<QLineEdit*>("potaTableFilter"), "park 21");
     EXPECT_EQ(table->model()->rowCount(), 1);
     EXPECT_EQ(station.listsWindow.findChild<QLabel*>("potaTableCount")->text(), "1 of 3");
