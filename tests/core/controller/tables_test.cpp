@@ -10,7 +10,6 @@
 namespace corvane {
 namespace {
 
-using testing::ElementsAre;
 
 struct ListBench : TestBench {
     ListBench() {
