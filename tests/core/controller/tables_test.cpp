@@ -10,7 +10,6 @@
 namespace corvane {
 namespace {
 
-
 struct ListBench : TestBench {
     ListBench() {
         const auto put = [this](Feed feed, FeedList rows) {
