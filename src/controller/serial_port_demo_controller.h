@@ -63,6 +63,7 @@ public:
     void serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error) override {
         link.serialPortDidEncounterError(port, error);
     }
+    void serialPortDidStall(ORSSerialPort& port, bool stalled) override { link.serialPortDidStall(port, stalled); }
     void serialPortsWereConnected(const SerialPorts& ports) override;  // also restores the settings again
     void serialPortsWereDisconnected(const SerialPorts& ports) override { link.serialPortsWereDisconnected(ports); }
     void serialPortDidReceiveData(ORSSerialPort& port, std::string_view bytes) override;

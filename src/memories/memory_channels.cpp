@@ -114,6 +114,8 @@ void MemoryChannels::linkClosed() {
     if (read_.running()) showReadProgress(": stopped, the link is closed.");
     read_.endEarly();
     display_.memoryReadProgress.setVisible(false);
+    if (write_) display_.memoryReadField.setStringValue(write_->endedEarlyText(link_.waitingBytes()));
+    write_.reset();
 }
 
 // A late reply names a channel, whose row may have moved: it would fill the wrong row.

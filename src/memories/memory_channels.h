@@ -1,7 +1,7 @@
 // The 99 memory channels: their table, reading and writing them, editing their rows, and files of channels.
 //
 //   reading   the chain of request and reply            memories/memory_channels.cpp
-//   writing   one burst of commands, after a backup    memories/memory_write.cpp
+//   writing   one burst of commands, after a backup    memories/memory_writing.cpp
 //   edits     editing, moving and sorting rows          memories/memory_edits.cpp
 //   files     export and import                         memories/memory_files.cpp
 #pragma once
@@ -18,6 +18,7 @@
 #include "memories/memory_channel.h"
 #include "memories/memory_csv.h"
 #include "memories/memory_read.h"
+#include "memories/memory_write.h"
 #include "platform/data_folder.h"
 #include "platform/file_chooser.h"
 #include "platform/tasks.h"
@@ -82,6 +83,7 @@ private:
     void showChannels();
     void showReadProgress(std::string_view problem = {});
 
+    void watchWrite();
     bool saveMemoriesAsRead();
     void showWhereChannelsAreSaved();
 
@@ -99,6 +101,8 @@ private:
     MemoryTable vqMemArray_;
     const std::vector<std::string> vqMemTagArray_ = std::vector<std::string>(memoryChannels, " ");
     MemoryRead read_;
+    std::optional<MemoryWrite> write_;  // while one is on its way
+    std::string shownBeforeWrite_;
 };
 
 }  // namespace corvane

@@ -1,89 +1,29 @@
-// Writing the memory channels: one burst of commands, without waiting for the transceiver. The channels last read are
-// saved before they are overwritten.
-#include <algorithm>
+#include "memories/memory_write.h"
 
-#include "memories/memory_backup.h"
-#include "memories/memory_channels.h"
-#include "memories/memory_commands.h"
-#include "wire/cat_command.h"
-#include "wire/operating_modes.h"
+#include <fmt/core.h>
+
+#include <algorithm>
 
 namespace corvane {
 
-using namespace std::chrono_literals;
-
-namespace {
-
-constexpr auto pauseBeforeLast = 200ms;
-
-// "M-14, M-20"
-std::string channelsWithoutMode(const MemoryTable& channels) {
-    std::string rows;
-    for (std::size_t row = 0; row < channels.size(); ++row) {
-        const MemoryChannel& channel = channels[row];
-        if (!isProgrammed(channel) || (channel.mode.size() == 1 && modeName(channel.mode.front()))) continue;
-        rows.append(rows.empty() ? "M-" : ", M-").append(zeroPadded(static_cast<int>(row) + 1, 2));
-    }
-    return rows;
+void MemoryWrite::addRow(std::size_t bytes) {
+    all_ += bytes;
+    rowEnds_.push_back(all_);
 }
 
-std::string question(const MemoryTable& table, bool whole) {
-    const auto written = std::ranges::count_if(table, isProgrammed);
-    std::string text = "Write the memory channels to the transceiver?\n\n";
-    text += std::to_string(written) + " will be written, " + std::to_string(memoryChannels - written) +
-            " will be erased. Clarifier, tone and shift of every channel are reset.";
-    if (const std::string rows = channelsWithoutMode(table); !rows.empty())
-        text += "\n\nChoose a mode first for " + rows + ": without one the transceiver does not take a channel.";
-    if (!whole)
-        text +=
-            "\n\nThe channels have not been read to the end. What has not been read will be erased and cannot be "
-            "saved first.";
-    return text;
+int MemoryWrite::rowsSent(std::size_t waiting) const {
+    const std::size_t sent = all_ - std::min(waiting, all_);
+    return static_cast<int>(std::ranges::upper_bound(rowEnds_, sent) - rowEnds_.begin());
 }
 
-}  // namespace
-
-// The link or the channels may have changed before the operator confirms.
-void MemoryChannels::askBeforeWriting(Button& sender) {
-    const auto confirmed = [this, &sender, session = link_.session(), number = read_.number] {
-        if (session == link_.session() && number == read_.number) return writeMemoriesToRadio(sender);
-        voice_.warn("Nothing was written: the link or the channels have changed meanwhile",
-                    "Look at the channels and press Write memories again.");
-    };
-    around_.alerts.confirm(question(vqMemArray_, read_.whole), "Write", tasks_.guarded(confirmed));
+std::string MemoryWrite::progressText(std::size_t waiting) const {
+    const int rows = static_cast<int>(rowEnds_.size());
+    return fmt::format("Writing channel {} of {}", std::min(rowsSent(waiting) + 1, rows), rows);
 }
 
-void MemoryChannels::writeMemoriesToRadio(Button&) {
-    if (!saveMemoriesAsRead()) return;
-    for (int row = 0; row < memoryChannels; ++row) {
-        const MemoryChannel& channel = vqMemArray_[static_cast<std::size_t>(row)];
-        link_.sendCommand(memoryWriteCommand(row, channel));
-        if (const auto tag = tagWriteCommand(row, channel)) link_.sendCommand(*tag);
-    }
-    link_.sendCommand("VS1;MC002;");
-    tasks_.after(pauseBeforeLast, [this, session = link_.session()] {
-        if (session == link_.session()) link_.sendCommand("VS0;MC001;");
-        showChannels();
-        voice_.playSound("Seatbelts");
-    });
-}
-
-bool MemoryChannels::saveMemoriesAsRead() {
-    if (!read_.unsaved) return true;
-    const SavedFile file = around_.dataFolder.save(memoryBackupName(tasks_.now()), memoryTableCsv(read_.asRead));
-    if (!file.error.empty()) {
-        voice_.warn("Nothing was written: the channels as last read could not be saved",
-                    "To " + file.path + ": " + file.error);
-        return false;
-    }
-    read_.unsaved = false;
-    display_.memoryBackupField.setStringValue("The channels as they were are saved in " + file.path);
-    return true;
-}
-
-void MemoryChannels::showWhereChannelsAreSaved() {
-    display_.memoryBackupField.setStringValue("Before a write, the channels as last read are saved in " +
-                                              around_.dataFolder.path() + "/memory-channels");
+std::string MemoryWrite::endedEarlyText(std::size_t neverSent) const {
+    return fmt::format("Writing ended early: {} of {} channels were sent. Connect and write them again.",
+                       rowsSent(neverSent), rowEnds_.size());
 }
 
 }  // namespace corvane

@@ -1,6 +1,7 @@
 // The serial port as the program needs it: a real one in qt/platform, a fake in tests.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -44,6 +45,9 @@ public:
     virtual void serialPortWasRemovedFromSystem(ORSSerialPort& port) = 0;
 
     virtual void serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error) = 0;
+
+    // The device has taken none of the waiting bytes for a second; with `stalled` false, it takes bytes again.
+    virtual void serialPortDidStall(ORSSerialPort& /*port*/, bool /*stalled*/) {}
 };
 
 class ORSSerialPort {
@@ -64,11 +68,15 @@ public:
     // Ends in serialPortWasOpened or serialPortDidEncounterError, at once or later. Does nothing if the port is open.
     virtual void open() = 0;
     // Ends in serialPortWasClosed when the port was open; otherwise does nothing. Bytes that were sent before still go
-    // out, as far as the device takes them.
+    // out, as far as the device takes them; a port that has stalled closes at once.
     virtual void close() = 0;
 
-    // Hands all bytes to the line in one piece. A port that is not open drops them; nothing is kept for later.
+    // Hands all bytes to the line in one piece. They wait until the device takes them, up to a bound of the port's;
+    // what is beyond is dropped. A port that is not open drops them; nothing is kept for later.
     virtual void sendData(std::string_view bytes) = 0;
+
+    // The bytes that wait for the device. Once the port is closed: those that it never took.
+    virtual std::size_t waitingBytes() const { return 0; }
 
     virtual void setDelegate(ORSSerialPortDelegate* delegate) = 0;  // or nullptr; does not own it
 };

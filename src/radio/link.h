@@ -70,6 +70,8 @@ public:
     void setSerialPort(std::shared_ptr<ORSSerialPort> port);  // makes it the current port; nullptr: none
     const std::shared_ptr<ORSSerialPort>& serialPort() const { return serialPort_; }
     bool isOpen() const { return serialPort_ && serialPort_->isOpen(); }
+    // The bytes that wait for the transceiver; after a closing, those that it never took.
+    std::size_t waitingBytes() const { return waitingPort_ ? waitingPort_->waitingBytes() : 0; }
     const std::vector<int>& availableBaudRates() const { return availableBaudRates_; }
     void choosePort(PopUpButton& sender);
     void chooseBaudRate(PopUpButton& sender);
@@ -80,6 +82,7 @@ public:
     void serialPortWasClosed(ORSSerialPort& port);
     void serialPortWasRemovedFromSystem(ORSSerialPort& port);
     void serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error);
+    void serialPortDidStall(ORSSerialPort& port, bool stalled);
     void serialPortsWereConnected(const SerialPorts& ports);
     void serialPortsWereDisconnected(const SerialPorts& ports);
     void noteAnswer();                           // the transceiver has sent something
@@ -108,6 +111,7 @@ private:
     Tasks tasks_;
     std::vector<int> availableBaudRates_{38400};  // bits a second
     std::shared_ptr<ORSSerialPort> serialPort_;   // the current port, or none
+    std::shared_ptr<ORSSerialPort> waitingPort_;  // the current port, or the last one
     std::string cmd_;
     const std::string syncRadioCmd_{synchronisationString};
     unsigned session_ = 0;

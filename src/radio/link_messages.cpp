@@ -33,4 +33,10 @@ std::string linkLostMessage(const std::string& portName) {
     return fmt::format("{} was unplugged. Plug it in again, choose it in the list, then press Connect.", portName);
 }
 
+std::string linkStalledMessage(const std::string& portName) {
+    return portName +
+           " takes no data. Check the cable and that the transceiver is switched on. Press Connected to close the port "
+           "at once; what was not sent is then lost.";
+}
+
 }  // namespace corvane

@@ -14,4 +14,7 @@ std::string linkMessage(const std::string& portName, const SerialPortError& erro
 // What to do after the device of an open port has gone.
 std::string linkLostMessage(const std::string& portName);
 
+// What to do while the device of an open port takes no bytes.
+std::string linkStalledMessage(const std::string& portName);
+
 }  // namespace corvane

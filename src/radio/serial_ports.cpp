@@ -16,7 +16,10 @@ void Link::setSerialPort(std::shared_ptr<ORSSerialPort> port) {
         previous->close();
         previous->setDelegate(nullptr);
     }
-    if (serialPort_) serialPort_->setDelegate(&around_.reports);
+    if (serialPort_) {
+        serialPort_->setDelegate(&around_.reports);
+        waitingPort_ = serialPort_;
+    }
     display_.portDetailsField.setStringValue(serialPort_ ? serialPort_->details() : std::string{});
     fillPopUps();
     showStatus();
@@ -112,6 +115,10 @@ void Link::serialPortDidEncounterError(ORSSerialPort& port, const SerialPortErro
     onReady(port.isOpen());
     showMessage(linkMessage(port.name(), error));
     showStatus();
+}
+
+void Link::serialPortDidStall(ORSSerialPort& port, bool stalled) {
+    showMessage(stalled ? linkStalledMessage(port.name()) : std::string());
 }
 
 void Link::serialPortsWereConnected(const SerialPorts& ports) {

@@ -55,6 +55,7 @@ public:
         written.emplace_back(bytes);
         if (onWrite) onWrite(bytes);
     }
+    std::size_t waitingBytes() const override { return waiting; }
     void setDelegate(ORSSerialPortDelegate* delegate) override {
         note(delegate ? "attach" : "detach");
         delegate_ = delegate;
@@ -68,6 +69,9 @@ public:
         if (!std::exchange(open_, false)) return;
         if (delegate_) delegate_->serialPortWasRemovedFromSystem(*this);
     }
+    void stall(bool stalled) {
+        if (delegate_) delegate_->serialPortDidStall(*this, stalled);
+    }
     void fail(const SerialPortError& error) {
         if (delegate_) delegate_->serialPortDidEncounterError(*this, error);
     }
@@ -75,6 +79,7 @@ public:
     Line line;
     std::vector<std::string> written;               // one entry per write
     std::function<void(std::string_view)> onWrite;  // the device at the other end
+    std::size_t waiting = 0;                        // bytes that the device has not taken
     std::optional<SerialPortError> openFailure;     // makes open() fail
 
 private:

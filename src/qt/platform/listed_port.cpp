@@ -69,6 +69,10 @@ void ListedPort::tellRemoved() {
     if (delegate_ != nullptr) delegate_->serialPortWasRemovedFromSystem(*this);
 }
 
+void ListedPort::tellStalled(bool stalled) {
+    if (delegate_ != nullptr) delegate_->serialPortDidStall(*this, stalled);
+}
+
 void ListedPort::tellError(const SerialPortError& error) {
     if (delegate_ != nullptr) delegate_->serialPortDidEncounterError(*this, error);
 }

@@ -66,6 +66,7 @@ protected:
     void tellOpened();
     void tellClosed();
     void tellRemoved();
+    void tellStalled(bool stalled);
     void tellError(const SerialPortError& error);
 
 private:

@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QDeadlineTimer>
+#include <cerrno>
 #include <chrono>
 #include <thread>
 #include <utility>
@@ -18,6 +19,32 @@ namespace {
 
 constexpr std::chrono::milliseconds lastBytes{100};  // closing waits this long for the device to take a byte
 constexpr std::chrono::seconds longestDrain{2};      // in all: a write of the memory channels takes 1.2 s
+
+constexpr std::chrono::milliseconds progressInterval{100};
+constexpr std::chrono::seconds stallTime{1};    // without a byte taken
+constexpr std::size_t mostWaiting = 64 * 1024;  // bytes; a whole memory write has 4,600
+
+// What a failed read or write means for the link.
+enum class Fault { transient, gone, refused, other };
+
+Fault faultOf(int code) {
+    switch (code) {
+        case EAGAIN:
+        case EINTR:
+            return Fault::transient;
+        case EIO:
+        case ENXIO:
+        case ENODEV:
+        case EBADF:
+        case ENOENT:
+            return Fault::gone;
+        case EACCES:
+        case EPERM:
+            return Fault::refused;
+        default:
+            return Fault::other;
+    }
+}
 
 QSerialPort::Parity qtParity(Parity parity) {
     switch (parity) {
@@ -45,6 +72,8 @@ QtSerialPort::QtSerialPort(std::string name, std::string details, std::string lo
     QObject::connect(&line_, &QSerialPort::readyRead, &line_, [this] { readAll(); });
     QObject::connect(&line_, &QSerialPort::errorOccurred, &line_,
                      [this](QSerialPort::SerialPortError error) { failed(error); });
+    progress_.setInterval(progressInterval);
+    QObject::connect(&progress_, &QTimer::timeout, &progress_, [this] { watchProgress(); });
 }
 
 QtSerialPort::~QtSerialPort() {
@@ -61,6 +90,8 @@ void QtSerialPort::open() {
     applySettings();
     if (line_.open(QIODevice::ReadWrite)) {
         open_ = true;
+        stalled_ = false;
+        neverTaken_ = 0;
         tellOpened();
     } else {
         tellError(openFailure(line_.error(), location_, line_.errorString().toStdString()));
@@ -79,8 +110,31 @@ void QtSerialPort::close() {
 void QtSerialPort::sendData(std::string_view bytes) {
     if (!open_) return;
     const KeepAlive alive(*this);
+    if (waitingBytes() + bytes.size() > mostWaiting) return;
+    // While bytes wait already, they go out when the device is ready for them.
+    const bool idle = line_.bytesToWrite() == 0;
     line_.write(bytes.data(), static_cast<qint64>(bytes.size()));
-    line_.flush();
+    if (idle) line_.flush();
+    if (!open_ || progress_.isActive()) return;
+    waitedBefore_ = waitingBytes();
+    sinceProgress_.start();
+    progress_.start();
+}
+
+std::size_t QtSerialPort::waitingBytes() const {
+    if (!open_) return neverTaken_;
+    return static_cast<std::size_t>(line_.bytesToWrite() + unsentBytes(static_cast<int>(line_.handle())));
+}
+
+void QtSerialPort::watchProgress() {
+    const KeepAlive alive(*this);
+    const std::size_t waiting = waitingBytes();
+    const bool taken = waiting < waitedBefore_;
+    waitedBefore_ = waiting;
+    if (waiting == 0) progress_.stop();
+    if (taken || waiting == 0) sinceProgress_.start();
+    const bool stalled = waiting > 0 && sinceProgress_.hasExpired(std::chrono::milliseconds(stallTime).count());
+    if (std::exchange(stalled_, stalled) != stalled) tellStalled(stalled);
 }
 
 void QtSerialPort::deviceLeft() {
@@ -109,23 +163,23 @@ void QtSerialPort::readAll() {
     receive({bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
-// A line that has hung up repeats its error in a busy loop until it is closed.
+// A line that has hung up repeats its error in a busy loop until it is closed. A full driver is no fault: Qt goes on
+// when the driver is ready again.
 void QtSerialPort::failed(QSerialPort::SerialPortError error) {
+    const int code = errno;  // of the call that failed
     if (!open_ || error == QSerialPort::NoError || error == QSerialPort::TimeoutError) return;
     const KeepAlive alive(*this);
-    if (error != QSerialPort::ReadError && error != QSerialPort::ResourceError) {
-        tellError({SerialPortErrorKind::other, line_.errorString().toStdString(), location_, {}});
-        return;
-    }
-    const bool gone = hungUp();
+    const Fault fault = hungUp() ? Fault::gone : faultOf(code);
+    if (fault == Fault::transient && line_.bytesToWrite() > 0) return line_.clearError();
     const std::string words = line_.errorString().toStdString();
+    if (fault != Fault::gone && error != QSerialPort::ReadError && error != QSerialPort::ResourceError)
+        return tellError({SerialPortErrorKind::other, words, location_, {}});
+    neverTaken_ = waitingBytes();
     shut();
-    if (gone) {
-        tellRemoved();
-    } else {
-        tellError({SerialPortErrorKind::other, words, location_, {}});
-        if (!open_) tellClosed();
-    }
+    if (fault == Fault::gone) return tellRemoved();
+    const auto kind = fault == Fault::refused ? SerialPortErrorKind::permission : SerialPortErrorKind::other;
+    tellError({kind, words, location_, {}});
+    if (!open_) tellClosed();
 }
 
 bool QtSerialPort::hungUp() const {
@@ -141,18 +195,21 @@ void QtSerialPort::drain() {
     const auto left = [&] { return line_.bytesToWrite() + unsentBytes(descriptor); };
     const QDeadlineTimer end(longestDrain);
     QDeadlineTimer patience(lastBytes);
-    for (qint64 before = left(); before > 0 && !patience.hasExpired() && !end.hasExpired();) {
+    for (qint64 before = left(); before > 0 && !stalled_ && !patience.hasExpired() && !end.hasExpired();) {
         if (line_.bytesToWrite() == 0 || !line_.waitForBytesWritten(1))
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         const qint64 now = left();
         if (now < before) patience.setRemainingTime(lastBytes);
         before = now;
     }
-    if (line_.bytesToWrite() > 0 || unsentBytes(descriptor) > 0) line_.clear(QSerialPort::Output);
+    neverTaken_ = static_cast<std::size_t>(left());
+    if (neverTaken_ > 0) line_.clear(QSerialPort::Output);
 }
 
 void QtSerialPort::shut() {
     open_ = false;
+    stalled_ = false;
+    progress_.stop();
     line_.close();
     forgetTail();
 }

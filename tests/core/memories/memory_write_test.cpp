@@ -62,7 +62,7 @@ TEST(MemoryWrite, WaitsBeforeItsLastCommandAndKeepsTheWindowAlive) {
     bench.forgetWhatHappened();
     bench.advance(1s);
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
-    EXPECT_THAT(bench.takeSounds(), ElementsAre("file Seatbelts"));
+    EXPECT_THAT(bench.takeSounds(), IsEmpty());
 }
 
 TEST(MemoryWrite, SavesWhatWasReadBeforeItIsWrittenOver) {
@@ -92,6 +92,38 @@ TEST(MemoryWrite, SavesWhatWasReadBeforeItIsWrittenOver) {
     bench.settle();
     bench.display.writeMemoriesButton.performClick();
     EXPECT_EQ(files.size(), 2U);
+}
+
+TEST(MemoryWrite, SucceedsOnceItsLastByteHasLeft) {
+    TestBench bench;
+    bench.outlastOpening();
+    const std::string before = bench.display.memoryReadField.stringValue();
+    bench.port->waiting = 2'000;  // of 99 commands of 41 bytes and two of 10
+    bench.display.writeMemoriesButton.performClick();
+    bench.advance(2s);
+    EXPECT_THAT(bench.takeSounds(), IsEmpty());
+    EXPECT_EQ(bench.display.memoryReadField.stringValue(), "Writing channel 51 of 99");
+    bench.port->waiting = 0;
+    bench.advance(100ms);
+    EXPECT_THAT(bench.takeSounds(), ElementsAre("file Seatbelts"));
+    EXPECT_EQ(bench.display.memoryReadField.stringValue(), before);
+}
+
+TEST(MemoryWrite, ThatEndsEarlySaysHowFarItCame) {
+    for (const bool unplugged : {false, true}) {
+        TestBench bench;
+        bench.outlastOpening();
+        bench.port->waiting = 1'000;
+        bench.display.writeMemoriesButton.performClick();
+        if (unplugged)
+            bench.port->unplug();
+        else
+            bench.display.openCloseButton.performClick();
+        bench.advance(5s);
+        EXPECT_THAT(bench.takeSounds(), testing::Not(testing::Contains("file Seatbelts")));
+        EXPECT_EQ(bench.display.memoryReadField.stringValue(),
+                  "Writing ended early: 74 of 99 channels were sent. Connect and write them again.");
+    }
 }
 
 TEST(MemoryWrite, WhatCannotBeSavedIsNotWrittenOver) {

@@ -144,6 +144,15 @@ TEST_F(SerialPortsTest, APortThatDoesNotOpenSaysWhyAndWhatToDo) {
     EXPECT_EQ(display.linkMessageField.stringValue(), "");
 }
 
+TEST_F(SerialPortsTest, ADeviceThatTakesNoDataIsToldUntilItDoes) {
+    startOn({first, second}, 0);
+    first->stall(true);
+    EXPECT_THAT(display.linkMessageField.stringValue(), HasSubstr("ttyUSB0 takes no data."));
+    EXPECT_THAT(display.linkMessageField.stringValue(), HasSubstr("Press Connected to close the port"));
+    first->stall(false);
+    EXPECT_EQ(display.linkMessageField.stringValue(), "");
+}
+
 TEST_F(SerialPortsTest, AnErrorOnAnOpenPortLeavesItAsItIs) {
     startOn({first, second}, 0);
     around.settings.setText("sounds", "0");

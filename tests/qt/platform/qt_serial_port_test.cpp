@@ -125,6 +125,58 @@ TEST_F(QtSerialPortTest, UnpluggedIsNoticedWhileSendingToo) {
     EXPECT_EQ(delegate.reports, (Reports{"opened", "removed"}));
 }
 
+// A line whose device takes nothing for a while, as with RTS/CTS held back.
+class HeldLine {
+public:
+    explicit HeldLine(const std::string& path) : descriptor_(::open(path.c_str(), O_RDWR | O_NOCTTY)) { hold(TCOOFF); }
+    ~HeldLine() {
+        release();
+        ::close(descriptor_);
+    }
+    void release() { hold(TCOON); }
+
+private:
+    void hold(int action) { EXPECT_EQ(::tcflow(descriptor_, action), 0); }
+    const int descriptor_;
+};
+
+TEST_F(QtSerialPortTest, BytesWaitWhileTheDeviceTakesNoneAndArriveInOrder) {
+    port->open();
+    HeldLine held(line->path());
+    std::string sent;
+    for (int command = 0; command < 200; ++command) {
+        sent += "MW" + std::to_string(1000 + command) + "014250000+000000210000;";
+        port->sendData(std::string_view(sent).substr(sent.size() - 29));
+    }
+    ASSERT_TRUE(reported(2));
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "stalled"}));
+    EXPECT_EQ(port->waitingBytes(), sent.size());
+    held.release();
+    std::string arrived;
+    EXPECT_TRUE(eventually([&] { return (arrived += line->read()).size() >= sent.size(); }));
+    EXPECT_EQ(arrived, sent);
+    ASSERT_TRUE(reported(3));
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "stalled", "takes bytes again"}));
+    EXPECT_EQ(port->waitingBytes(), 0U);
+}
+
+TEST_F(QtSerialPortTest, AStalledPortClosesAtOnceHoldsABoundAndKnowsWhatItNeverSent) {
+    port->open();
+    const HeldLine held(line->path());
+    const std::string command = "FA014250000;";
+    for (int count = 0; count < 10'000; ++count) port->sendData(command);
+    EXPECT_LE(port->waitingBytes(), 64U * 1024);
+    const std::size_t waiting = port->waitingBytes();
+    EXPECT_EQ(waiting % command.size(), 0U) << "no command is cut";
+    ASSERT_TRUE(reported(2));
+    QElapsedTimer clock;
+    clock.start();
+    port->close();
+    EXPECT_LT(clock.elapsed(), 50);
+    EXPECT_EQ(delegate.reports, (Reports{"opened", "stalled", "closed"}));
+    EXPECT_EQ(port->waitingBytes(), waiting);
+}
+
 TEST_F(QtSerialPortTest, ADeviceThatLeftTheListIsReportedOnce) {
     port->open();
     port->deviceLeft();

@@ -26,6 +26,9 @@ struct RecordingDelegate : ORSSerialPortDelegate {
         errors.push_back(error);
         report(port, "error");
     }
+    void serialPortDidStall(ORSSerialPort& port, bool stalled) override {
+        report(port, stalled ? "stalled" : "takes bytes again");
+    }
 
 private:
     void report(ORSSerialPort& port, const std::string& what) {
