@@ -77,6 +77,7 @@ public:
     void setMuted(bool muted) { state_.vqMuted = muted ? 1 : 0; }
     // Remembers the text of memory 5 of this mode group: typed texts are sent through that memory, which then gets its
     // own text back.
+    // Unless that has not been reported.
     void rememberScratchMemory(const ModeGroup& group);
 
 private:

@@ -150,7 +150,7 @@ void Mirror::takeMemoryText(const ModeGroup& group, int memory, std::string_view
 }
 
 void Mirror::rememberScratchMemory(const ModeGroup& group) {
-    state_.vqTextMemoryRevert = state_.groupMemories[groupIndex(group)].back();
+    if (const auto& reported = state_.groupMemories[groupIndex(group)].back()) state_.vqTextMemoryRevert = *reported;
 }
 
 void Mirror::takeSwitchedOff(std::string_view) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "wire/operating_modes.h"
@@ -30,7 +31,8 @@ struct RadioState {
     int vqSignal = 0;               // the last six digits of the last meter report: meter reading times 1000
     std::array<std::string, 6> vqTextMemoryArray;  // keyer and text memories as last reported; 1 to 5 are used
     std::string vqTextMemoryRevert;                // memory 5 of whichever mode group was reported last
-    std::array<std::array<std::string, 5>, modeGroups.size()> groupMemories;  // the same texts by mode group
+    // The same texts by mode group; nothing for a memory that has not been reported.
+    std::array<std::array<std::optional<std::string>, 5>, modeGroups.size()> groupMemories;
 };
 
 }  // namespace corvane

@@ -62,6 +62,15 @@ TEST(Keyer, TextThatTheTransceiverCannotHoldIsRefusedAndKept) {
     }
 }
 
+TEST(Keyer, AMemoryFiveThatWasNotReportedIsNotErased) {
+    TestBench bench;
+    bench.receive("EM15PSK FIVE;MD03;");
+    bench.takeWrites();
+    bench.display.textMemoryField.edit("CQ");
+    bench.display.sendTextMemoryButton.performClick();
+    EXPECT_EQ(bench.takeWrites().back(), "KM5PSK FIVE};") << "the memory 5 reported last";
+}
+
 TEST(Keyer, OutsideItsModesNothingIsSentAndNothingIsLost) {
     KeyerBench bench("MD02;");
     bench.controller.link.build("KY6;");
