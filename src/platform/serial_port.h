@@ -22,9 +22,10 @@ enum class SerialPortErrorKind {
 
 struct SerialPortError {
     SerialPortErrorKind kind = SerialPortErrorKind::other;
-    std::string text;   // the system's own words, e.g. "Permission denied"
-    std::string path;   // the device, e.g. "/dev/ttyUSB0"
-    std::string group;  // the group that may open the device, e.g. "dialout"; empty when unknown
+    std::string text;        // the system's own words, e.g. "Permission denied"
+    std::string path;        // the device, e.g. "/dev/ttyUSB0"
+    std::string group;       // the group whose members may open the device, e.g. "dialout"; empty: none helps
+    std::string owner = {};  // of the device, e.g. "root"; empty when unknown
 
     bool operator==(const SerialPortError&) const = default;
 };

@@ -11,8 +11,10 @@ std::string linkMessage(const std::string& portName, const SerialPortError& erro
             return fmt::format("{} is in use by another program. Close that program, then press Connect.", device);
         case SerialPortErrorKind::permission:
             if (error.group.empty())
-                return fmt::format("You may not open {}. Ask for permission to read and write it, then press Connect.",
-                                   device);
+                return fmt::format(
+                    "You may not open {}, which belongs to {}. An administrator must change its permissions; then "
+                    "press Connect.",
+                    device, error.owner.empty() ? "somebody else" : fmt::format("the user \"{}\"", error.owner));
             return fmt::format(
                 "You may not open {0}. Join the group \"{1}\" (sudo usermod -aG {1} $USER), log out and in again, then "
                 "press Connect.",

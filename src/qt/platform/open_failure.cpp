@@ -1,6 +1,7 @@
 #include "qt/platform/open_failure.h"
 
 #include <grp.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -12,14 +13,22 @@ namespace corvane {
 
 namespace {
 
-std::string groupOf(const std::string& path) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) return {};
+// The group that helps to open the device: its members may read and write it, and it is not the superuser's.
+std::string helpfulGroup(const struct stat& status) {
+    if (status.st_gid == 0 || (status.st_mode & 0060U) != 0060U) return {};
     std::array<char, 4096> text{};
     group entry{};
     group* found = nullptr;
     if (::getgrgid_r(status.st_gid, &entry, text.data(), text.size(), &found) != 0 || found == nullptr) return {};
     return found->gr_name;
+}
+
+std::string ownerOf(const struct stat& status) {
+    std::array<char, 4096> text{};
+    passwd entry{};
+    passwd* found = nullptr;
+    if (::getpwuid_r(status.st_uid, &entry, text.data(), text.size(), &found) != 0 || found == nullptr) return {};
+    return found->pw_name;
 }
 
 SerialPortErrorKind kindOf(QSerialPort::SerialPortError error, const std::string& path) {
@@ -51,7 +60,9 @@ std::string systemWords(SerialPortErrorKind kind, const std::string& words) {
 
 SerialPortError openFailure(QSerialPort::SerialPortError error, const std::string& path, const std::string& words) {
     const SerialPortErrorKind kind = kindOf(error, path);
-    return {kind, systemWords(kind, words), path, groupOf(path)};
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return {kind, systemWords(kind, words), path, {}};
+    return {kind, systemWords(kind, words), path, helpfulGroup(status), ownerOf(status)};
 }
 
 }  // namespace corvane

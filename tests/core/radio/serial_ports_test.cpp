@@ -117,7 +117,7 @@ TEST_F(SerialPortsTest, APortThatDoesNotOpenSaysWhyAndWhatToDo) {
     const std::pair<SerialPortError, Texts> cases[] = {
         {{busy, "Device busy", device, ""}, {device, "in use"}},
         {{permission, "Permission denied", device, "dialout"}, {device, "usermod -aG dialout"}},
-        {{permission, "Permission denied", device, ""}, {"may not open " + device}},
+        {{permission, "Permission denied", device, "", "root"}, {"may not open " + device, "the user \"root\""}},
         {{notFound, "No such file", device, ""}, {device, "not exist", "Plug"}},
         {{gone, "No such device", device, ""}, {"ttyUSB0", "unplugged"}},
         {{other, "Input/output error", "", ""}, {"ttyUSB0", "Input/output"}}};

@@ -260,7 +260,17 @@ TEST(OpenFailureTest, TellsNotAllowedFromHeldBySomebodyElse) {
         const SerialPortError error = failure(QSerialPort::PermissionError);
         EXPECT_EQ(error.kind, SerialPortErrorKind::permission);
         EXPECT_EQ(error.text, "Permission denied");
-        EXPECT_FALSE(error.group.empty());
+        EXPECT_EQ(error.group, "") << "no group may open it";
+        EXPECT_FALSE(error.owner.empty());
+    }
+    const gid_t dialout = 20;
+    if (::geteuid() == 0) {
+        ASSERT_EQ(::chown(path.c_str(), 0, dialout), 0);
+        ASSERT_EQ(::chmod(path.c_str(), 0660), 0);
+        EXPECT_EQ(failure(QSerialPort::UnsupportedOperationError).group, "dialout");
+        ASSERT_EQ(::chown(path.c_str(), 0, 0), 0);
+        EXPECT_EQ(failure(QSerialPort::UnsupportedOperationError).group, "") << "nobody should join the superuser's";
+        ASSERT_EQ(::chmod(path.c_str(), 0), 0);
     }
     EXPECT_EQ(failure(QSerialPort::UnsupportedOperationError).text, "Qt's words");
     ASSERT_TRUE(device.remove());
