@@ -18,7 +18,7 @@ void SerialPortDemoController::bindControls() {
     display.PortPopUpButton.action = [this](PopUpButton& sender) { link.choosePort(sender); };
     display.BaudPopUpButton.action = [this](PopUpButton& sender) { link.chooseBaudRate(sender); };
     display.readMemoriesButton.action = [this](Button& sender) { getMemoriesFromRadio(sender); };
-    display.writeMemoriesButton.action = [this](Button& sender) { memories.askBeforeWriting(sender); };
+    display.writeMemoriesButton.action = [this](Button&) { memories.askBeforeWriting(); };
     display.exportMemoriesButton.action = [this](Button& sender) { memories.exportMemories(sender); };
     display.importMemoriesButton.action = [this](Button& sender) { memories.importMemories(sender); };
     display.autoMemoryNowButton.action = [this](Button& sender) { autoMemoryNow(sender); };

@@ -109,7 +109,7 @@ public:
 
     // --- memories
     void getMemoriesFromRadio(Button&) { memories.startMemoryRead(); }
-    void writeMemoriesToRadio(Button& sender) { memories.writeMemoriesToRadio(sender); }
+    void writeMemoriesToRadio(Button&) { memories.writeMemoriesToRadio(); }
     void textEdited(TextField& sender) { memories.textEdited(sender); }
     void modeEdited(PopUpButton& sender) { memories.modeEdited(sender); }
     void autoMemorySample() { autoMemories.autoMemorySample(); }

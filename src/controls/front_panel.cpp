@@ -10,6 +10,12 @@ namespace corvane {
 
 using namespace std::chrono_literals;
 
+namespace {
+
+constexpr int powerOnTag = 300;
+
+}  // namespace
+
 FrontPanel::FrontPanel(Display& display, Link& link, Mirror& mirror, Voice& voice, Scheduler& scheduler)
     : display_(display), link_(link), mirror_(mirror), voice_(voice), tasks_(scheduler) {}
 
@@ -93,11 +99,11 @@ void FrontPanel::press(Button&, const SwapKey& key) {
 
 // The first "PS1;" only wakes the transceiver, which then needs a while before it takes the next. The wait does not
 // block the window.
-void FrontPanel::press(Button& sender, const PowerOnKey&) {
+void FrontPanel::press(Button&, const PowerOnKey&) {
     link_.send("PS1;");
-    sender.setBusy(true);
-    tasks_.after(1250ms, [this, &sender, session = link_.session()] {
-        sender.setBusy(false);
+    display_.key(powerOnTag).setBusy(true);
+    tasks_.after(1250ms, [this, session = link_.session()] {
+        display_.key(powerOnTag).setBusy(false);
         if (session != link_.session()) return;  // the link has been closed or opened since
         link_.send("PS1;");
         finish("PS1;");

@@ -58,8 +58,8 @@ public:
     void linkClosed();
 
     // --- writing
-    void askBeforeWriting(Button& sender);
-    void writeMemoriesToRadio(Button& sender);
+    void askBeforeWriting();
+    void writeMemoriesToRadio();
 
     // --- edits
     void textEdited(TextField& sender);  // the sender is in the edited cell

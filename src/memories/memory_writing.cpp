@@ -47,16 +47,16 @@ std::string question(const MemoryTable& table, bool whole) {
 }  // namespace
 
 // The link or the channels may have changed before the operator confirms.
-void MemoryChannels::askBeforeWriting(Button& sender) {
-    const auto confirmed = [this, &sender, session = link_.session(), number = read_.number] {
-        if (session == link_.session() && number == read_.number) return writeMemoriesToRadio(sender);
+void MemoryChannels::askBeforeWriting() {
+    const auto confirmed = [this, session = link_.session(), number = read_.number] {
+        if (session == link_.session() && number == read_.number) return writeMemoriesToRadio();
         voice_.warn("Nothing was written: the link or the channels have changed meanwhile",
                     "Look at the channels and press Write memories again.");
     };
     around_.alerts.confirm(question(vqMemArray_, read_.whole), "Write", tasks_.guarded(confirmed));
 }
 
-void MemoryChannels::writeMemoriesToRadio(Button&) {
+void MemoryChannels::writeMemoriesToRadio() {
     if (!saveMemoriesAsRead()) return;
     write_.emplace();
     shownBeforeWrite_ = display_.memoryReadField.stringValue();
