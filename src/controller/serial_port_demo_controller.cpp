@@ -50,6 +50,7 @@ void SerialPortDemoController::wire() {
         memories.linkClosed();
         setupMenu.endRead(": stopped, the link is closed.");
     };
+    link.onSent = [this](std::string_view command) { functionPopUps.noteSent(command); };
     link.onMemoryReadDue = [this] { memories.startMemoryRead(); };
     mirror.onFrequency = [this](std::string_view megahertz) { showOperatorClass(megahertz); };
     mirror.tagOfChannel = [this](int row) { return memories.tagOf(row); };

@@ -25,6 +25,9 @@ public:
     // sent. Of "AG0080;", "AG0085;" and "AG0090;" within 50 ms the first and the last are sent.
     void submit(std::string command);
 
+    // Forgets the command that waits, as its value has been set in another way.
+    void drop() { waiting_.reset(); }
+
 private:
     Send send_;
     const Tasks& tasks_;

@@ -12,6 +12,8 @@ namespace corvane {
 
 namespace {
 
+constexpr std::size_t shortestGain = std::string_view("AG0000;").size();
+
 CommandPacer pacer(Slider& slider, Link& link, const Tasks& tasks) {
     return {[&link](std::string command) { link.send(std::move(command)); }, tasks, [&slider] { slider.endMove(); }};
 }
@@ -85,6 +87,12 @@ void FunctionPopUps::goAF(Slider& sender) {
 void FunctionPopUps::goRF(Slider& sender) {
     sender.beginMove();
     rfGainPacer_.submit(gainCommand("RG0", sender.integerValue()));
+}
+
+void FunctionPopUps::noteSent(std::string_view command) {
+    if (command.size() < shortestGain) return;  // "AG0;" only asks
+    if (command.starts_with("AG")) afGainPacer_.drop();
+    if (command.starts_with("RG")) rfGainPacer_.drop();
 }
 
 void FunctionPopUps::send(PopUpButton& sender, const SetupPopUp& row) {

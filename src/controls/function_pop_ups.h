@@ -2,6 +2,8 @@
 // reports.
 #pragma once
 
+#include <string_view>
+
 #include "app/voice.h"
 #include "controls/command_pacer.h"
 #include "display/display.h"
@@ -34,6 +36,9 @@ public:
     void goAF(Slider& sender);
     void goRF(Slider& sender);
     void send(PopUpButton& sender, const SetupPopUp& row);  // for the scope and power pop-ups
+
+    // A command has been sent: a gain that a slider still holds back must not undo it.
+    void noteSent(std::string_view command);
 
 private:
     Link& link_;

@@ -26,8 +26,10 @@ void Link::sendCommand(std::string_view commands) {
     const std::shared_ptr<ORSSerialPort> port = serialPort_;
     if (!port) return;
     const std::string text(commands);  // often cmd_, which a callback may overwrite
-    forEachCommand(text, [&port](std::string_view command) {
-        if (isUtf8(command)) port->sendData(command);
+    forEachCommand(text, [this, &port](std::string_view command) {
+        if (!isUtf8(command)) return;
+        port->sendData(command);
+        onSent(command);
     });
 }
 

@@ -51,7 +51,8 @@ public:
     // Called by the link:
     std::function<void(bool ready)> onReady = [](bool) {};  // whether commands would reach the transceiver
     std::function<void()> onClosed = [] {};                 // the session is over: the port was closed, or has gone
-    std::function<void()> onMemoryReadDue = [] {};          // a step of the opening: read the memory channels
+    std::function<void(std::string_view command)> onSent = [](std::string_view) {};  // after each, e.g. "AG0000;"
+    std::function<void()> onMemoryReadDue = [] {};  // a step of the opening: read the memory channels
 
     // --- sending. Without a current port everything is dropped silently, and so are bytes that are not UTF-8.
     void sendCommand(std::string_view commands);  // one write for each command in the text

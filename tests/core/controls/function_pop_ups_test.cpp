@@ -59,6 +59,23 @@ TEST(FunctionPopUps, WhatStandsForNothingRepeatsNoCommand) {
     EXPECT_THAT(bench.takeWrites(), ElementsAre("RF0;", "RF0;", "SS04+00.0;")) << "these have a value for it";
 }
 
+TEST(FunctionPopUps, AGainThatWaitsDoesNotUndoAMuteOrATypedCommand) {
+    for (const bool mute : {true, false}) {
+        TestBench bench;
+        bench.outlastOpening();
+        bench.display.afGainSlider.drag(100);
+        bench.display.afGainSlider.drag(110);
+        bench.takeWrites();
+        if (mute)
+            bench.press(610);
+        else
+            bench.controller.sendCommand("AG0000;");
+        EXPECT_EQ(bench.takeWrites().front(), "AG0000;");
+        bench.advance(std::chrono::seconds(1));
+        EXPECT_THAT(bench.takeWrites(), IsEmpty());
+    }
+}
+
 TEST(FunctionPopUps, TheFirstColorAsksForNothingAndIsNotShown) {
     TestBench bench;
     bench.receive("SS0340000;");
