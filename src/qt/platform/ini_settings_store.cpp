@@ -27,7 +27,8 @@ bool isSettingsLine(const QByteArray& line) {
            text.startsWith(';') || text.startsWith('#');
 }
 
-// What is wrong with a settings file, or nothing. A good file ends with a line end; one without has been cut off.
+// What is wrong with a settings file, or nothing. An editor may leave out the last line end; a last line that is not a
+// setting has been cut off.
 QString faultIn(const QString& path) {
     QFile file(path);
     if (!file.exists()) return {};
@@ -35,8 +36,8 @@ QString faultIn(const QString& path) {
     const QByteArray content = file.readAll();
     if (content.isEmpty()) return {};
     if (content.contains('\0') || !QUtf8StringView(content).isValidUtf8()) return QStringLiteral("it is not text");
-    if (!content.endsWith('\n')) return QStringLiteral("it is cut off");
     const QList<QByteArray> lines = content.split('\n');
+    if (!isSettingsLine(lines.back())) return QStringLiteral("it is cut off");
     const bool settings = std::all_of(lines.begin(), lines.end(), isSettingsLine);
     return settings ? QString() : QStringLiteral("its lines are not settings");
 }

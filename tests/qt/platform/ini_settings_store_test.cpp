@@ -70,11 +70,21 @@ TEST_F(IniSettingsStoreTest, AFileEditedByHandIsRead) {
     EXPECT_EQ(store.text("voice"), "1");
 }
 
+TEST_F(IniSettingsStoreTest, AFileWithoutItsLastLineEndIsRead) {
+    IniSettingsStore(path).setText("sounds", "0");
+    const QByteArray whole = file();
+    QFile(path).remove();
+    add(whole.left(whole.size() - 1));
+    const IniSettingsStore store(path);
+    EXPECT_EQ(store.problem(), "");
+    EXPECT_EQ(store.text("sounds"), "0");
+}
+
 TEST_F(IniSettingsStoreTest, AFileThatIsNoSettingsFileIsKeptBesideTheNewOne) {
     IniSettingsStore(path).setText("sounds", "0");
     const QByteArray whole = file();
     int number = 0;
-    const std::pair<QByteArray, const char*> cases[] = {{whole.left(whole.size() - 1), "cut off"},
+    const std::pair<QByteArray, const char*> cases[] = {{whole + "cal", "cut off"},
                                                         {whole.left(12), "cut off"},
                                                         {QByteArray("sounds=0\0\n", 10), "not text"},
                                                         {"sounds=\xff\xfe\n", "not text"},
