@@ -91,6 +91,10 @@ void MemoryChannels::showChannels() {
     display_.memPopUpButton.selectItem(chosen);
 }
 
+void MemoryChannels::showStatus() {
+    if (read_.number > 0) showReadProgress(read_.stalled ? ": no answer. Press Read memories to start again." : "");
+}
+
 void MemoryChannels::showReadProgress(std::string_view problem) {
     const MemoryReadProgress progress = read_.progress(vqMemArray_);
     display_.memoryReadProgress.setVisible(progress.running);
@@ -104,7 +108,7 @@ void MemoryChannels::watchMemoryRead() {
         if (number != read_.number || !read_.running()) return;
         if (handled == read_.handled()) {
             read_.stalled = true;
-            showReadProgress(": no answer. Press Read memories to start again.");
+            showStatus();
         }
         watchMemoryRead();
     });
@@ -114,8 +118,7 @@ void MemoryChannels::linkClosed() {
     if (read_.running()) showReadProgress(": stopped, the link is closed.");
     read_.endEarly();
     display_.memoryReadProgress.setVisible(false);
-    if (write_) display_.memoryReadField.setStringValue(write_->endedEarlyText(link_.waitingBytes()));
-    write_.reset();
+    endWriteEarly();
 }
 
 // A late reply names a channel, whose row may have moved: it would fill the wrong row.

@@ -81,9 +81,11 @@ private:
     void watchMemoryRead();
     void endHaltedRead();
     void showChannels();
+    void showStatus();  // of the last read
     void showReadProgress(std::string_view problem = {});
 
-    void watchWrite();
+    void watchWrite(unsigned number);
+    void endWriteEarly();
     bool saveMemoriesAsRead();
     void showWhereChannelsAreSaved();
 
@@ -102,7 +104,7 @@ private:
     const std::vector<std::string> vqMemTagArray_ = std::vector<std::string>(memoryChannels, " ");
     MemoryRead read_;
     std::optional<MemoryWrite> write_;  // while one is on its way
-    std::string shownBeforeWrite_;
+    unsigned writeNumber_ = 0;
 };
 
 }  // namespace corvane

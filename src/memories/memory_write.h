@@ -9,6 +9,10 @@ namespace corvane {
 
 class MemoryWrite {
 public:
+    // Every write has a number of its own. `before` bytes of an earlier one still wait.
+    MemoryWrite(unsigned number, std::size_t before) : number_(number), all_(before) {}
+
+    unsigned number() const { return number_; }
     void addRow(std::size_t bytes);                     // in order, from the first row
     void addRest(std::size_t bytes) { all_ += bytes; }  // what is sent after the rows
 
@@ -19,8 +23,9 @@ public:
     std::string endedEarlyText(std::size_t neverSent) const;
 
 private:
+    unsigned number_;
     std::vector<std::size_t> rowEnds_;  // by row: the bytes up to its end
-    std::size_t all_ = 0;
+    std::size_t all_;
 };
 
 }  // namespace corvane

@@ -58,8 +58,7 @@ void MemoryChannels::askBeforeWriting() {
 
 void MemoryChannels::writeMemoriesToRadio() {
     if (!saveMemoriesAsRead()) return;
-    write_.emplace();
-    shownBeforeWrite_ = display_.memoryReadField.stringValue();
+    write_.emplace(++writeNumber_, link_.waitingBytes());
     for (int row = 0; row < memoryChannels; ++row) {
         const MemoryChannel& channel = vqMemArray_[static_cast<std::size_t>(row)];
         std::string commands = memoryWriteCommand(row, channel);
@@ -69,26 +68,33 @@ void MemoryChannels::writeMemoriesToRadio() {
     }
     write_->addRest(closing.size());
     link_.sendCommand(closing);
-    tasks_.after(pauseBeforeLast, [this, session = link_.session()] {
+    tasks_.after(pauseBeforeLast, [this, number = writeNumber_, session = link_.session()] {
         if (session == link_.session()) {
             if (write_) write_->addRest(lastCommands.size());
             link_.sendCommand(lastCommands);
         }
         showChannels();
-        watchWrite();
+        watchWrite(number);
     });
 }
 
 // A whole table takes 1.2 s at 38400 baud. The write has succeeded when its last byte has left.
-void MemoryChannels::watchWrite() {
-    if (!write_) return;
+void MemoryChannels::watchWrite(unsigned number) {
+    if (!write_ || write_->number() != number) return;  // it has ended, or another has begun behind it
     if (const std::size_t waiting = link_.waitingBytes(); waiting > 0) {
         display_.memoryReadField.setStringValue(write_->progressText(waiting));
-        return tasks_.after(writeInterval, [this] { watchWrite(); });
+        return tasks_.after(writeInterval, [this, number] { watchWrite(number); });
     }
     write_.reset();
-    display_.memoryReadField.setStringValue(shownBeforeWrite_);
+    showStatus();
     voice_.playSound("Seatbelts");
+}
+
+void MemoryChannels::endWriteEarly() {
+    if (!write_) return;
+    const MemoryWrite ended = *std::exchange(write_, std::nullopt);
+    if (ended.rowsSent(link_.waitingBytes()) < memoryChannels)
+        display_.memoryReadField.setStringValue(ended.endedEarlyText(link_.waitingBytes()));
 }
 
 bool MemoryChannels::saveMemoriesAsRead() {

@@ -118,7 +118,11 @@ void Link::serialPortDidEncounterError(ORSSerialPort& port, const SerialPortErro
 }
 
 void Link::serialPortDidStall(ORSSerialPort& port, bool stalled) {
-    showMessage(stalled ? linkStalledMessage(port.name()) : std::string());
+    const std::string message = linkStalledMessage(port.name());
+    if (stalled)
+        showMessage(message);
+    else if (display_.linkMessageField.stringValue() == message)
+        showMessage({});
 }
 
 void Link::serialPortsWereConnected(const SerialPorts& ports) {

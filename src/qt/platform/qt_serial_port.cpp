@@ -140,6 +140,7 @@ void QtSerialPort::watchProgress() {
 void QtSerialPort::deviceLeft() {
     if (!open_) return;
     const KeepAlive alive(*this);
+    neverTaken_ = waitingBytes();
     shut();
     tellRemoved();
 }

@@ -109,6 +109,29 @@ TEST(MemoryWrite, SucceedsOnceItsLastByteHasLeft) {
     EXPECT_EQ(bench.display.memoryReadField.stringValue(), before);
 }
 
+TEST(MemoryWrite, BehindAnotherOneCountsItsOwnRowsAndSucceedsOnce) {
+    TestBench bench;
+    bench.outlastOpening();
+    bench.controller.writeMemoriesToRadio(bench.display.writeMemoriesButton);
+    bench.port->waiting = 4'000;
+    bench.controller.writeMemoriesToRadio(bench.display.writeMemoriesButton);
+    bench.port->waiting = 2'000;
+    bench.advance(1s);
+    EXPECT_EQ(bench.display.memoryReadField.stringValue(), "Writing channel 51 of 99");
+    bench.port->waiting = 0;
+    bench.advance(1s);
+    EXPECT_THAT(bench.takeSounds(), ElementsAre("file Seatbelts"));
+    EXPECT_THAT(bench.display.memoryReadField.stringValue(), testing::StartsWith("Reading frequencies"));
+}
+
+TEST(MemoryWrite, ThatHasLeftWholeIsNotSaidToHaveEndedEarly) {
+    TestBench bench;
+    bench.outlastOpening();
+    bench.display.writeMemoriesButton.performClick();
+    bench.display.openCloseButton.performClick();
+    EXPECT_THAT(bench.display.memoryReadField.stringValue(), testing::Not(HasSubstr("ended early")));
+}
+
 TEST(MemoryWrite, ThatEndsEarlySaysHowFarItCame) {
     for (const bool unplugged : {false, true}) {
         TestBench bench;
