@@ -58,7 +58,7 @@ void MemoryChannels::askBeforeWriting() {
 
 void MemoryChannels::writeMemoriesToRadio() {
     if (!saveMemoriesAsRead()) return;
-    write_.emplace(++writeNumber_, link_.waitingBytes());
+    write_.emplace(++writeNumber_, link_.isOpen() ? link_.waitingBytes() : 0);
     for (int row = 0; row < memoryChannels; ++row) {
         const MemoryChannel& channel = vqMemArray_[static_cast<std::size_t>(row)];
         std::string commands = memoryWriteCommand(row, channel);
@@ -81,7 +81,7 @@ void MemoryChannels::writeMemoriesToRadio() {
 // A whole table takes 1.2 s at 38400 baud. The write has succeeded when its last byte has left.
 void MemoryChannels::watchWrite(unsigned number) {
     if (!write_ || write_->number() != number) return;  // it has ended, or another has begun behind it
-    if (const std::size_t waiting = link_.waitingBytes(); waiting > 0) {
+    if (const std::size_t waiting = link_.waitingBytes(); link_.isOpen() && waiting > 0) {
         display_.memoryReadField.setStringValue(write_->progressText(waiting));
         return tasks_.after(writeInterval, [this, number] { watchWrite(number); });
     }

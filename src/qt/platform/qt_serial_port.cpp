@@ -114,9 +114,10 @@ void QtSerialPort::sendData(std::string_view bytes) {
     // While bytes wait already, they go out when the device is ready for them.
     const bool idle = line_.bytesToWrite() == 0;
     line_.write(bytes.data(), static_cast<qint64>(bytes.size()));
+    handedOver_ += bytes.size();
     if (idle) line_.flush();
     if (!open_ || progress_.isActive()) return;
-    waitedBefore_ = waitingBytes();
+    takenBefore_ = handedOver_ - waitingBytes();
     sinceProgress_.start();
     progress_.start();
 }
@@ -129,10 +130,9 @@ std::size_t QtSerialPort::waitingBytes() const {
 void QtSerialPort::watchProgress() {
     const KeepAlive alive(*this);
     const std::size_t waiting = waitingBytes();
-    const bool taken = waiting < waitedBefore_;
-    waitedBefore_ = waiting;
+    const std::size_t taken = handedOver_ - waiting;
     if (waiting == 0) progress_.stop();
-    if (taken || waiting == 0) sinceProgress_.start();
+    if (std::exchange(takenBefore_, taken) != taken || waiting == 0) sinceProgress_.start();
     const bool stalled = waiting > 0 && sinceProgress_.hasExpired(std::chrono::milliseconds(stallTime).count());
     if (std::exchange(stalled_, stalled) != stalled) tellStalled(stalled);
 }

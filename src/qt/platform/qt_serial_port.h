@@ -42,11 +42,12 @@ private:
 
     std::string location_;
     QSerialPort line_;
-    bool open_ = false;             // as the delegate knows it; line_ may still be draining
-    QTimer progress_;               // runs while bytes wait
-    QElapsedTimer sinceProgress_;   // since the device last took a byte
-    std::size_t waitedBefore_ = 0;  // bytes that waited at the last look
-    std::size_t neverTaken_ = 0;    // bytes that waited when the port closed
+    bool open_ = false;            // as the delegate knows it; line_ may still be draining
+    QTimer progress_;              // runs while bytes wait
+    QElapsedTimer sinceProgress_;  // since the device last took a byte
+    std::size_t handedOver_ = 0;   // bytes, in all
+    std::size_t takenBefore_ = 0;  // of these, what the device had taken at the last look
+    std::size_t neverTaken_ = 0;   // bytes that waited when the port closed
     bool stalled_ = false;
 };
 

@@ -124,6 +124,16 @@ TEST(MemoryWrite, BehindAnotherOneCountsItsOwnRowsAndSucceedsOnce) {
     EXPECT_THAT(bench.display.memoryReadField.stringValue(), testing::StartsWith("Reading frequencies"));
 }
 
+TEST(MemoryWrite, WithoutALinkDoesNotWaitForBytesThatWereLost) {
+    TestBench bench;
+    bench.port->waiting = 100;
+    bench.port->close();
+    bench.takeSounds();
+    bench.controller.writeMemoriesToRadio(bench.display.writeMemoriesButton);
+    bench.advance(1s);
+    EXPECT_THAT(bench.takeSounds(), ElementsAre("file Seatbelts"));
+}
+
 TEST(MemoryWrite, ThatHasLeftWholeIsNotSaidToHaveEndedEarly) {
     TestBench bench;
     bench.outlastOpening();
