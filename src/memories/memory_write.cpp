@@ -22,8 +22,10 @@ std::string MemoryWrite::progressText(std::size_t waiting) const {
 }
 
 std::string MemoryWrite::endedEarlyText(std::size_t neverSent) const {
-    return fmt::format("Writing ended early: {} of {} channels were sent. Connect and write them again.",
-                       rowsSent(neverSent), rowEnds_.size());
+    return fmt::format(
+        "Writing ended early: {} of {} channels were sent. Export them before you connect, which reads the channels "
+        "anew.",
+        rowsSent(neverSent), rowEnds_.size());
 }
 
 }  // namespace corvane

@@ -18,7 +18,7 @@ public:
 
     // The rows that have left, with so many of all bytes still to go.
     int rowsSent(std::size_t waiting) const;
-    // "Writing channel 57 of 99", "Writing ended early: 56 of 99 channels were sent."
+    // "Writing channel 57 of 99", "Writing ended early: 56 of 99 channels were sent. ..."
     std::string progressText(std::size_t waiting) const;
     std::string endedEarlyText(std::size_t neverSent) const;
 

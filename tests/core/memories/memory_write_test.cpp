@@ -155,7 +155,8 @@ TEST(MemoryWrite, ThatEndsEarlySaysHowFarItCame) {
         bench.advance(5s);
         EXPECT_THAT(bench.takeSounds(), testing::Not(testing::Contains("file Seatbelts")));
         EXPECT_EQ(bench.display.memoryReadField.stringValue(),
-                  "Writing ended early: 74 of 99 channels were sent. Connect and write them again.");
+                  "Writing ended early: 74 of 99 channels were sent. Export them before you connect, which reads the "
+                  "channels anew.");
     }
 }
 
