@@ -14,6 +14,7 @@ enum class Parity { none, odd, even };
 // Why a port could not be opened, or stopped working.
 enum class SerialPortErrorKind {
     busy,        // another program has the port open
+    staleLock,   // a program that has ended left its lock, which this user may not remove
     permission,  // the user may not open the device
     notFound,    // there is no such device
     gone,        // the device has been removed
@@ -26,6 +27,7 @@ struct SerialPortError {
     std::string path;        // the device, e.g. "/dev/ttyUSB0"
     std::string group;       // the group whose members may open the device, e.g. "dialout"; empty: none helps
     std::string owner = {};  // of the device, e.g. "root"; empty when unknown
+    std::string lock = {};   // the file of a stale lock, e.g. "/run/lock/LCK..ttyUSB0"
 
     bool operator==(const SerialPortError&) const = default;
 };

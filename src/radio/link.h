@@ -77,7 +77,8 @@ public:
     void choosePort(PopUpButton& sender);
     void chooseBaudRate(PopUpButton& sender);
     void openOrClosePort(Button& sender);
-    void restorePort();  // chooses the port and the speed of the last run, unless a port is open
+    // Chooses the port that the operator chose last, in this run or the one before, unless a port is open.
+    void restorePort();
     void suggestPort();  // chooses a port while none is remembered
     void serialPortWasOpened(ORSSerialPort& port);
     void serialPortWasClosed(ORSSerialPort& port);
@@ -97,6 +98,7 @@ public:
 
 private:
     void showStatus();
+    void useListedPort(std::size_t index);  // of availablePorts()
     void startSession();
     void afterOpening(Scheduler::Duration delay, std::function<void()> step);
     void setUpMemorySlots();
@@ -113,6 +115,7 @@ private:
     std::vector<int> availableBaudRates_{38400};  // bits a second
     std::shared_ptr<ORSSerialPort> serialPort_;   // the current port, or none
     std::shared_ptr<ORSSerialPort> waitingPort_;  // the current port, or the last one
+    std::string chosenPort_;                      // the description of the one that the operator chose in this run
     std::string cmd_;
     const std::string syncRadioCmd_{synchronisationString};
     unsigned session_ = 0;

@@ -9,6 +9,10 @@ std::string linkMessage(const std::string& portName, const SerialPortError& erro
     switch (error.kind) {
         case SerialPortErrorKind::busy:
             return fmt::format("{} is in use by another program. Close that program, then press Connect.", device);
+        case SerialPortErrorKind::staleLock:
+            return fmt::format(
+                "{0} is still locked for a program that has ended. Remove its lock (sudo rm {1}), then press Connect.",
+                device, error.lock);
         case SerialPortErrorKind::permission:
             if (error.group.empty())
                 return fmt::format(

@@ -26,8 +26,12 @@ void Link::setSerialPort(std::shared_ptr<ORSSerialPort> port) {
 }
 
 void Link::choosePort(PopUpButton& sender) {
+    chosenPort_ = sender.titleOfSelectedItem();
+    useListedPort(static_cast<std::size_t>(sender.indexOfSelectedItem()));
+}
+
+void Link::useListedPort(std::size_t index) {
     const SerialPorts& ports = around_.ports.availablePorts();
-    const auto index = static_cast<std::size_t>(sender.indexOfSelectedItem());
     if (index >= ports.size() || ports[index] == serialPort_) return;
     showMessage({});
     setSerialPort(ports[index]);
@@ -39,12 +43,16 @@ void Link::chooseBaudRate(PopUpButton& sender) {
 }
 
 void Link::restorePort() {
-    const std::string port = around_.settings.text("defaultPort").value_or("");
     const std::string baudRate = around_.settings.text("defaultBaud").value_or("");
     if (!baudRate.empty()) display_.BaudPopUpButton.selectItemWithTitle(baudRate);
-    if (port.empty() || isOpen()) return;
-    display_.PortPopUpButton.selectItemWithTitle(port);
-    choosePort(display_.PortPopUpButton);
+    if (isOpen()) return;
+    const SerialPorts& ports = around_.ports.availablePorts();
+    for (const std::string& port : {chosenPort_, around_.settings.text("defaultPort").value_or("")}) {
+        const auto listed = std::ranges::find(ports, port, &ORSSerialPort::description);
+        if (listed == ports.end()) continue;
+        display_.PortPopUpButton.selectItemWithTitle(port);
+        return useListedPort(static_cast<std::size_t>(listed - ports.begin()));
+    }
 }
 
 void Link::suggestPort() {

@@ -5,8 +5,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
+#include <fstream>
 #include <system_error>
 
 namespace corvane {
@@ -31,6 +34,19 @@ std::string ownerOf(const struct stat& status) {
     return found->pw_name;
 }
 
+// The lock of a process that has ended, or nothing. The process may be another user's, so a refused signal counts as a
+// sign of life.
+std::string staleLockOf(std::string port, const std::vector<std::string>& folders) {
+    if (port.starts_with("/dev/")) port.erase(0, 5);
+    std::ranges::replace(port, '/', '_');
+    for (const std::string& folder : folders) {
+        std::string lock = folder + "/LCK.." + port;
+        pid_t process = 0;
+        if (std::ifstream(lock) >> process && process > 0 && ::kill(process, 0) != 0 && errno == ESRCH) return lock;
+    }
+    return {};
+}
+
 SerialPortErrorKind kindOf(QSerialPort::SerialPortError error, const std::string& path) {
     switch (error) {
         case QSerialPort::DeviceNotFoundError:
@@ -46,6 +62,7 @@ SerialPortErrorKind kindOf(QSerialPort::SerialPortError error, const std::string
 std::string systemWords(SerialPortErrorKind kind, const std::string& words) {
     switch (kind) {
         case SerialPortErrorKind::busy:
+        case SerialPortErrorKind::staleLock:
             return std::generic_category().message(EBUSY);
         case SerialPortErrorKind::permission:
             return std::generic_category().message(EACCES);
@@ -58,11 +75,17 @@ std::string systemWords(SerialPortErrorKind kind, const std::string& words) {
 
 }  // namespace
 
-SerialPortError openFailure(QSerialPort::SerialPortError error, const std::string& path, const std::string& words) {
-    const SerialPortErrorKind kind = kindOf(error, path);
+SerialPortError openFailure(QSerialPort::SerialPortError error, const std::string& path, const std::string& words,
+                            const std::vector<std::string>& locks) {
+    SerialPortErrorKind kind = kindOf(error, path);
+    const std::string lock = kind == SerialPortErrorKind::busy ? staleLockOf(path, locks) : std::string();
+    if (!lock.empty()) kind = SerialPortErrorKind::staleLock;
+    SerialPortError failure{kind, systemWords(kind, words), path, {}, {}, lock};
     struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) return {kind, systemWords(kind, words), path, {}};
-    return {kind, systemWords(kind, words), path, helpfulGroup(status), ownerOf(status)};
+    if (::stat(path.c_str(), &status) != 0) return failure;
+    failure.group = helpfulGroup(status);
+    failure.owner = ownerOf(status);
+    return failure;
 }
 
 }  // namespace corvane

@@ -4,14 +4,19 @@
 #include <QSerialPort>
 
 #include <string>
+#include <vector>
 
 #include "platform/serial_port.h"
 
 namespace corvane {
 
-// Qt reports both "in use by another program" and "not allowed" as a PermissionError; the device file tells which.
-// `words` are Qt's, used where the system has no better ones. E.g. a device of group dialout that the user may not open
-// gives {permission, "Permission denied", "/dev/ttyUSB0", "dialout"}.
-SerialPortError openFailure(QSerialPort::SerialPortError error, const std::string& path, const std::string& words);
+// Where programs lock serial ports, each port by a file with the number of the process, e.g. "LCK..ttyUSB0".
+inline const std::vector<std::string> lockFolders{"/run/lock", "/var/lock", "/var/lock/lockdev", "/tmp", "/var/tmp"};
+
+// Qt reports "in use by another program", "locked" and "not allowed" as a PermissionError; the lock and the device file
+// tell which. `words` are Qt's, used where the system has no better ones. E.g. a device of group dialout that the user
+// may not open gives {permission, "Permission denied", "/dev/ttyUSB0", "dialout"}.
+SerialPortError openFailure(QSerialPort::SerialPortError error, const std::string& path, const std::string& words,
+                            const std::vector<std::string>& locks = lockFolders);
 
 }  // namespace corvane

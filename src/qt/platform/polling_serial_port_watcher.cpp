@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <utility>
 
+#include "qt/platform/serial_device.h"
+
 namespace corvane {
 
 std::vector<std::string> attachedTerminals() {
@@ -10,7 +12,8 @@ std::vector<std::string> attachedTerminals() {
     std::vector<std::string> names;
     std::error_code ignored;
     for (fs::directory_iterator terminal("/sys/class/tty", ignored), end; terminal != end; terminal.increment(ignored))
-        if (fs::exists(terminal->path() / "device", ignored)) names.push_back(terminal->path().filename().string());
+        if (fs::exists(terminal->path() / "device", ignored))
+            names.push_back(terminal->path().filename().string() + ' ' + std::to_string(instanceOf(terminal->path())));
     return names;
 }
 

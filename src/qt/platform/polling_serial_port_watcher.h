@@ -12,8 +12,8 @@
 
 namespace corvane {
 
-// The names of the terminals that have a device, e.g. {"ttyS0", "ttyUSB0"}, in no order. Much cheaper than
-// attachedSerialDevices().
+// The terminals that have a device, each with its instance, e.g. {"ttyS0 1742", "ttyUSB0 90311"}, in no order. Much
+// cheaper than attachedSerialDevices().
 std::vector<std::string> attachedTerminals();
 
 class PollingSerialPortWatcher final : public SerialPortWatcher {

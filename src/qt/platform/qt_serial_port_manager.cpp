@@ -1,6 +1,5 @@
 #include "qt/platform/qt_serial_port_manager.h"
 
-#include <QFileInfo>
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -35,7 +34,8 @@ void QtSerialPortManager::startWatching() {
 std::vector<SerialDevice> QtSerialPortManager::presentExtras() const {
     std::vector<SerialDevice> extras;
     for (const std::string& path : sources_.extraPaths) {
-        if (QFileInfo::exists(QString::fromStdString(path))) extras.push_back({path, path, "Extra port, " + path});
+        if (const std::uint64_t instance = instanceOf(path); instance != 0)
+            extras.push_back({path, path, "Extra port, " + path, false, instance});
     }
     return extras;
 }
@@ -57,9 +57,11 @@ SerialPorts QtSerialPortManager::take(const std::vector<SerialDevice>& devices) 
     std::vector<Entry> entries;
     SerialPorts fresh;
     for (const SerialDevice& device : devices) {
-        // The system's details of a device may grow just after it appears; name and location stay.
+        // The system's details of a device may grow just after it appears; the rest stays. A device that left and came
+        // back between two looks is another instance: its port is dead, and a new one takes its place.
         const auto known = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
-            return entry.device.name == device.name && entry.device.location == device.location;
+            return entry.device.name == device.name && entry.device.location == device.location &&
+                   entry.device.instance == device.instance;
         });
         if (known != entries_.end()) {
             entries.push_back(*known);

@@ -1,5 +1,7 @@
 #include "qt/platform/serial_device.h"
 
+#include <sys/stat.h>
+
 #include <QCollator>
 #include <QSerialPortInfo>
 #include <algorithm>
@@ -15,7 +17,8 @@ SerialDevice deviceOf(const QSerialPortInfo& info) {
     if (what.isEmpty()) what = info.manufacturer();
     if (what.isEmpty()) what = usb ? QStringLiteral("USB serial adapter") : QStringLiteral("Serial port");
     return {info.portName().toStdString(), info.systemLocation().toStdString(),
-            (what + QLatin1String(", ") + info.systemLocation()).toStdString(), usb};
+            (what + QLatin1String(", ") + info.systemLocation()).toStdString(), usb,
+            instanceOf(info.systemLocation().toStdString())};
 }
 
 }  // namespace
@@ -31,6 +34,13 @@ std::vector<SerialDevice> attachedSerialDevices() {
     std::vector<SerialDevice> devices;
     std::transform(infos.begin(), infos.end(), std::back_inserter(devices), deviceOf);
     return devices;
+}
+
+std::uint64_t instanceOf(const std::string& path) {
+    struct stat link {};
+    struct stat device {};
+    if (::lstat(path.c_str(), &link) != 0 || ::stat(path.c_str(), &device) != 0) return 0;
+    return link.st_ino ^ (static_cast<std::uint64_t>(device.st_ino) << 32U) ^ device.st_rdev;
 }
 
 }  // namespace corvane

@@ -116,6 +116,8 @@ TEST_F(SerialPortsTest, APortThatDoesNotOpenSaysWhyAndWhatToDo) {
     const std::string device = "/dev/ttyUSB0";
     const std::pair<SerialPortError, Texts> cases[] = {
         {{busy, "Device busy", device, ""}, {device, "in use"}},
+        {{staleLock, "Device busy", device, "", "root", "/run/lock/LCK..ttyUSB0"},
+         {device, "has ended", "sudo rm /run/lock/LCK..ttyUSB0"}},
         {{permission, "Permission denied", device, "dialout"}, {device, "usermod -aG dialout"}},
         {{permission, "Permission denied", device, "", "root"}, {"may not open " + device, "the user \"root\""}},
         {{notFound, "No such file", device, ""}, {device, "not exist", "Plug"}},
@@ -208,6 +210,21 @@ TEST_F(SerialPortsTest, PortsThatComeAndGoDoNotTouchAnOpenOne) {
     EXPECT_EQ(display.PortPopUpButton.titleOfSelectedItem(), "ttyUSB0");
     EXPECT_TRUE(first->isOpen());
     EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
+TEST_F(SerialPortsTest, AChosenPortStaysChosenWhenAnotherOneComes) {
+    around.settings.setText("defaultPort", "ttyUSB0");
+    start({second});
+    display.PortPopUpButton.choose(0);
+    around.portManager.connect({first});
+    EXPECT_EQ(controller.link.serialPort(), second);
+    EXPECT_EQ(display.PortPopUpButton.titleOfSelectedItem(), "ttyUSB1");
+    // The remembered port serves while the chosen one is away.
+    around.portManager.disconnect({second});
+    around.portManager.connect({std::make_shared<FakeSerialPort>("ttyACM0")});
+    EXPECT_EQ(controller.link.serialPort(), first);
+    around.portManager.connect({second});
+    EXPECT_EQ(controller.link.serialPort(), second);
 }
 
 TEST_F(SerialPortsTest, EveryPortThatComesOrGoesGetsANoticeForThreeSeconds) {

@@ -114,6 +114,37 @@ TEST_F(ManagerTest, AnOpenPortThatLeavesTheListIsRemovedOnce) {
     EXPECT_EQ(listedAtRemoval, Names{"Simulated transceiver"});
 }
 
+TEST_F(ManagerTest, ADeviceThatLeftAndCameBackBetweenTwoLooksIsAnotherPort) {
+    const simulator::PseudoTerminal line;
+    devices = {{"radio", line.path(), "", true, 1}};
+    make();
+    const auto port = manager->availablePorts()[0];
+    RecordingDelegate delegate;
+    port->setDelegate(&delegate);
+    port->open();
+    devices[0].instance = 2;
+    watcher->changed();
+    ASSERT_TRUE(eventually([&] { return !connected.empty(); }));
+    EXPECT_EQ(disconnected, (std::vector<Names>{{"radio"}}));
+    EXPECT_EQ(connected, (std::vector<Names>{{"radio"}}));
+    EXPECT_EQ(delegate.reports, (std::vector<std::string>{"opened", "removed"}));
+    EXPECT_NE(manager->availablePorts()[0], port);
+}
+
+TEST_F(ManagerTest, AnotherFileUnderTheSamePathIsAnotherInstance) {
+    const QTemporaryDir folder;
+    const std::string link = folder.filePath("radio").toStdString();
+    EXPECT_EQ(instanceOf(link), 0U);
+    const simulator::PseudoTerminal first;
+    const simulator::PseudoTerminal second;
+    ASSERT_TRUE(QFile::link(QString::fromStdString(first.path()), QString::fromStdString(link)));
+    const std::uint64_t before = instanceOf(link);
+    EXPECT_EQ(instanceOf(link), before);
+    ASSERT_TRUE(QFile::remove(QString::fromStdString(link)));
+    ASSERT_TRUE(QFile::link(QString::fromStdString(second.path()), QString::fromStdString(link)));
+    EXPECT_NE(instanceOf(link), before);
+}
+
 TEST_F(ManagerTest, ExtraPathsComeAndGo) {
     const QTemporaryDir folder;
     const std::string link = folder.filePath("radio").toStdString();

@@ -9,7 +9,9 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <ctime>
+#include <fstream>
 #include <memory>
 #include <optional>
 
@@ -251,9 +253,23 @@ TEST(OpenFailureTest, TellsNotAllowedFromHeldBySomebodyElse) {
     const std::string path = folder.filePath("ttyUSB0").toStdString();
     QFile device(QString::fromStdString(path));
     ASSERT_TRUE(device.open(QIODevice::WriteOnly));
-    const auto failure = [&](QSerialPort::SerialPortError error) { return openFailure(error, path, "Qt's words"); };
+    const auto failure = [&](QSerialPort::SerialPortError error) {
+        return openFailure(error, path, "Qt's words", {folder.path().toStdString()});
+    };
 
     EXPECT_EQ(failure(QSerialPort::PermissionError).kind, SerialPortErrorKind::busy);
+    std::string lockName = path;
+    std::ranges::replace(lockName, '/', '_');
+    const std::string lock = folder.path().toStdString() + "/LCK.." + lockName;
+    for (const auto& [process, kind] : {std::pair{std::to_string(::getppid()), SerialPortErrorKind::busy},
+                                        {"   1\n", SerialPortErrorKind::busy},
+                                        {"no number", SerialPortErrorKind::busy},
+                                        {"2147483646\n", SerialPortErrorKind::staleLock}}) {
+        std::ofstream(lock) << process;
+        const SerialPortError error = failure(QSerialPort::PermissionError);
+        EXPECT_EQ(error.kind, kind) << process;
+        EXPECT_EQ(error.lock, kind == SerialPortErrorKind::staleLock ? lock : "");
+    }
     ASSERT_EQ(::chmod(path.c_str(), 0), 0);
     {
         const AsNobody nobody;
