@@ -58,6 +58,13 @@ QSerialPort::Parity qtParity(Parity parity) {
     return QSerialPort::NoParity;
 }
 
+// DTR low, and RTS, too, unless flow control needs it: on some transceivers these lines key the transmitter. The system
+// raises both while it opens a device, which no program can prevent; this ends it within a millisecond.
+void lowerKeyingLines(int descriptor, bool rtsCts) {
+    const int lines = TIOCM_DTR | (rtsCts ? 0 : TIOCM_RTS);
+    ::ioctl(descriptor, TIOCMBIC, &lines);
+}
+
 // Bytes that the driver has taken but not sent.
 int unsentBytes(int descriptor) {
     int count = 0;
@@ -89,6 +96,7 @@ void QtSerialPort::open() {
     forgetTail();
     applySettings();
     if (line_.open(QIODevice::ReadWrite)) {
+        lowerKeyingLines(static_cast<int>(line_.handle()), settings().rtsCts);
         open_ = true;
         stalled_ = false;
         neverTaken_ = 0;
