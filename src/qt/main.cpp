@@ -33,5 +33,6 @@ int main(int argc, char** argv) {
     const int result = QApplication::exec();
     // Otherwise the transceiver would keep sending reports.
     if (controller.link.isOpen()) controller.display.openCloseButton.performClick();
-    return result;
+    window.hide();
+    platform.endProcess(result);
 }

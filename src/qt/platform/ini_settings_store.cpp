@@ -73,7 +73,7 @@ IniSettingsStore::IniSettingsStore(const QString& path)
     : problem_(setAsideIfBad(path)), settings_(faultIn(path).isEmpty() ? path : freeName(path), QSettings::IniFormat) {
     writeSoon_.setSingleShot(true);
     writeSoon_.setInterval(0);
-    QObject::connect(&writeSoon_, &QTimer::timeout, &settings_, [this] { write(); });
+    QObject::connect(&writeSoon_, &QTimer::timeout, &settings_, [this] { writeNow(); });
 }
 
 std::optional<std::string> IniSettingsStore::text(std::string_view key) const {
@@ -85,7 +85,7 @@ std::optional<std::string> IniSettingsStore::text(std::string_view key) const {
 int IniSettingsStore::integer(std::string_view key) const { return asText(settings_.value(fromText(key))).toInt(); }
 
 // A write failure is reported once; every change tries again.
-void IniSettingsStore::write() {
+void IniSettingsStore::writeNow() {
     settings_.sync();
     const bool failed = settings_.status() == QSettings::AccessError;
     if (!failed || std::exchange(writeFailureTold_, true)) return;

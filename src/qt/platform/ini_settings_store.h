@@ -26,10 +26,9 @@ public:
     void setText(std::string_view key, std::string_view value) override;
     void setInteger(std::string_view key, int value) override;
     std::string problem() const override { return problem_; }
+    void writeNow();  // what is not on disk yet
 
 private:
-    void write();
-
     std::string problem_;
     bool writeFailureTold_ = false;
     QSettings settings_;

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <cstdio>
+#include <cstdlib>
 #include <utility>
 
 #include "qt/platform/desktop_notification_center.h"
@@ -67,6 +69,12 @@ QtPlatformOptions defaultOptions() {
 QtPlatform::QtPlatform(const QtPlatformOptions& options) : parts_(std::make_unique<Parts>(options)) {}
 
 QtPlatform::~QtPlatform() = default;
+
+void QtPlatform::endProcess(int status) {
+    parts_->settings.writeNow();
+    std::fflush(nullptr);
+    std::_Exit(status);
+}
 
 Platform QtPlatform::platform() {
     return {parts_->serialPortManager,

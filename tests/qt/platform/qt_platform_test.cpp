@@ -1,10 +1,12 @@
 #include "qt/platform/qt_platform.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QThreadPool>
 
 #include "event_loop.h"
 #include "recording_delegate.h"
@@ -42,6 +44,25 @@ TEST(QtPlatformTest, EverythingWorksTogetherWithoutAnyService) {
     }
     EXPECT_LT(clock.elapsed(), 1000);
     EXPECT_TRUE(QFile::exists(folder.filePath("corvane.conf")));
+}
+
+TEST(QtPlatformDeathTest, TheProcessEndsAtOnceWithItsSettingsOnDisk) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";  // the test begins anew in the process that ends
+    const QTemporaryDir folder;
+    if (!qEnvironmentVariableIsSet("SETTINGS_OF_ENDING")) qputenv("SETTINGS_OF_ENDING", folder.path().toUtf8());
+    QtPlatformOptions options;
+    options.settingsPath = qEnvironmentVariable("SETTINGS_OF_ENDING") + "/corvane.conf";
+    const auto end = [&options] {
+        QtPlatform platform(options);
+        platform.platform().settings.setText("call", "N0CALL");
+        QThreadPool::globalInstance()->start([] { ::pause(); });  // as a name look-up on a dead network
+        platform.endProcess(3);
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(3), "");
+    qunsetenv("SETTINGS_OF_ENDING");
+    QFile settings(options.settingsPath);
+    ASSERT_TRUE(settings.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(settings.readAll().contains("call=N0CALL"));
 }
 
 TEST(QtPlatformTest, DefaultsComeFromTheEnvironmentAndTheInstalledLayout) {
