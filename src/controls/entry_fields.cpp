@@ -14,7 +14,6 @@ EntryFields::EntryFields(Display& display, Link& link, Mirror& mirror, Voice& vo
 void EntryFields::doTune(Button&) {
     TextField& field = display_.freqTextField;
     const TypedFrequency typed = typedFrequency(field.stringValue());
-    field.endEditing();
     // The field goes back to the tuned frequency; the transceiver's report then brings the new one.
     mirror_.showActiveFrequency();
     if (typed.verdict == TypedFrequency::Verdict::tooLowOrNoNumber)

@@ -156,6 +156,7 @@ void Mirror::setTunedBy(char vfo, std::string_view by) { side(vfo).tunedBy = by;
 
 void Mirror::showActiveFrequency() {
     const Button& active = state_.vqAorB == "A" ? display_.vqFreqAButton : display_.vqFreqBButton;
+    display_.freqTextField.endEditing();
     display_.freqTextField.setStringValue(withoutHertz(active.title()));
 }
 

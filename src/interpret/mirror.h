@@ -42,8 +42,8 @@ public:
     void takeMemoryInUse(std::string_view response);          // "MR001014250000+000000210000" outside a read
     void setActiveVfo(std::string_view vfo);                  // "A" or "B"
     void setTunedBy(char vfo, std::string_view by);           // 'A' or 'B'; "vfo" or "memory"
-    void showActiveFrequency();                               // in the field for a typed frequency
-    void highlightBand(int frequency);                        // hertz
+    void showActiveFrequency();         // in the field for a typed frequency, in place of what was typed
+    void highlightBand(int frequency);  // hertz
     void clearBandButtons();
     void enableTextMemoryControls();
     void disableTextMemoryControls();

@@ -2,16 +2,40 @@
 
 #include <QGraphicsOpacityEffect>
 #include <QKeyEvent>
+#include <QVariant>
+
+#include "qt/window/panel.h"
 
 namespace corvane {
 
 namespace {
 
+constexpr const char* keyboardOf = "keyboardOf";  // of a panel: the widget whose keyboard it holds
 const QString busySuffix = QStringLiteral(", busy");
 
 bool leaves(const QKeyEvent& event) { return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab; }
 
+// The panel around the widget, else its window.
+QWidget& surrounding(QWidget& widget) {
+    QWidget* parent = widget.parentWidget();
+    while (parent && !qobject_cast<Panel*>(parent) && !parent->isWindow()) parent = parent->parentWidget();
+    return parent ? *parent : widget;
+}
+
 }  // namespace
+
+void enableWidget(QWidget& widget, bool enabled) {
+    if (widget.isEnabled() == enabled) return;
+    QWidget& panel = surrounding(widget);
+    const bool handsOver = !enabled && widget.hasFocus() && &panel != &widget;
+    if (handsOver) {
+        panel.setFocus(Qt::OtherFocusReason);
+        panel.setProperty(keyboardOf, QVariant::fromValue(&widget));
+    }
+    widget.setEnabled(enabled);
+    const bool comesBack = panel.hasFocus() && panel.property(keyboardOf).value<QWidget*>() == &widget;
+    if (enabled && comesBack) widget.setFocus(Qt::OtherFocusReason);
+}
 
 bool heldBack(const Control& control, QEvent& event) {
     if (!control.busy()) return false;

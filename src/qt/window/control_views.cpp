@@ -1,6 +1,7 @@
 #include "qt/window/control_views.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QSignalBlocker>
@@ -19,7 +20,7 @@ SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent)
     setRange(model.minimum(), model.maximum());
     setPageStep(std::max(1, (model.maximum() - model.minimum()) / 16));
     const auto show = [this, &model] {
-        setEnabled(model.enabled() && model.action);
+        enableWidget(*this, model.enabled() && model.action);
         if (model.busy()) setSliderDown(false);
         fadeWhileBusy(*this, model);
         if (!isSliderDown() && value() != model.integerValue()) {
@@ -45,6 +46,9 @@ TextFieldView::TextFieldView(TextField& model, ChangeQueue& queue, QWidget* pare
     setProperty("shown", !takesText());
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { model_.edit(text.toStdString()); });
     connect(this, &QLineEdit::returnPressed, this, [this] { model_.performReturn(); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* from, QWidget* to) {
+        if (isOwnKey(from) && to && to != this && !isOwnKey(to)) model_.endEditing();
+    });
     view_ = model.addView(queue, [this] { showModel(); });
     showModel();
 }
@@ -52,7 +56,7 @@ TextFieldView::TextFieldView(TextField& model, ChangeQueue& queue, QWidget* pare
 void TextFieldView::showModel() {
     const QString shown = QString::fromStdString(model_.stringValue());
     if (text() != shown) setText(shown);
-    setEnabled(model_.enabled());
+    enableWidget(*this, model_.enabled());
     setReadOnly(!takesText() || model_.busy());
     fadeWhileBusy(*this, model_);
     setSpokenName(*this, model_, accessibleName());
@@ -68,7 +72,7 @@ void TextFieldView::keyPressEvent(QKeyEvent* event) {
 void TextFieldView::focusOutEvent(QFocusEvent* event) {
     // A menu or another window takes the keyboard only for a moment: editing goes on after it.
     const bool leaves = event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
-    if (leaves) model_.endEditing();
+    if (leaves && !isOwnKey(QApplication::focusWidget())) model_.endEditing();
     QLineEdit::focusOutEvent(event);
 }
 

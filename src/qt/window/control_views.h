@@ -7,6 +7,8 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSlider>
+#include <algorithm>
+#include <vector>
 
 #include "display/level_indicator.h"
 #include "display/pop_up_button.h"
@@ -39,6 +41,9 @@ class TextFieldView : public QLineEdit {
 public:
     TextFieldView(TextField& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
+    // A key that uses the text. Going there by keyboard does not end the editing; going on from there does.
+    void addOwnKey(const QWidget& key) { ownKeys_.push_back(&key); }
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;  // Escape takes back what was typed
     void focusOutEvent(QFocusEvent* event) override;
@@ -46,8 +51,10 @@ protected:
 private:
     void showModel();
     bool takesText() const { return model_.action || model_.onEdit; }
+    bool isOwnKey(const QWidget* widget) const { return std::ranges::find(ownKeys_, widget) != ownKeys_.end(); }
 
     TextField& model_;
+    std::vector<const QWidget*> ownKeys_;
     int resignations_;
     ViewHandle view_;
 };

@@ -16,6 +16,7 @@ QLayout* entryRow(TextField& field, const QString& example, const std::vector<Bu
     for (Button* key : keys) {
         auto* keyView = new KeyButton(*key, queue);
         keyView->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        view->addOwnKey(*keyView);
         row->addWidget(keyView);
     }
     return row;

@@ -67,7 +67,7 @@ void KeyButton::showModel() {
     showing_ = true;
     if (isCheckable()) setChecked(model_.bezelColor() != Color::none);
     showing_ = false;
-    if (isEnabled() != model_.enabled()) setEnabled(model_.enabled());
+    enableWidget(*this, model_.enabled());
     if (model_.busy()) setDown(false);
     if (shown_ != model_.visible()) {
         shown_ = model_.visible();

@@ -36,7 +36,7 @@ void Panel::paintEvent(QPaintEvent*) {
     const Theme& theme = Theme::current();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(theme.line, 1));
+    painter.setPen(hasFocus() ? QPen(theme.accent, 2) : QPen(theme.line, 1));
     painter.setBrush(theme.panel);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
 }

@@ -90,7 +90,7 @@ void PopUpView::showModel() {
         const QSignalBlocker quiet(this);
         entries_->reset();
     }
-    if (isEnabled() != model_.enabled()) setEnabled(model_.enabled());
+    enableWidget(*this, model_.enabled());
     setCurrentIndex(model_.indexOfSelectedItem());
     if (model_.busy()) hidePopup();
     fadeWhileBusy(*this, model_);

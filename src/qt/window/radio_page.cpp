@@ -53,7 +53,9 @@ Panel* tuningPanel(Display& display, ChangeQueue& queue) {
     frequency->setMinimumWidth(QFontMetrics(frequency->font()).horizontalAdvance("50.0000") + 6 * gridStep);
     row->addWidget(frequency, 2);
     row->addWidget(titleLabel(display.freqTextField, *frequency));
-    row->addWidget(tuneKey(display, queue));
+    auto* tune = tuneKey(display, queue);
+    frequency->addOwnKey(*tune);
+    row->addWidget(tune);
     row->addWidget(new GroupedPopUpView(display.presetPopUpButton), 1);
     panel->content().addLayout(row);
     panel->content().addLayout(keyGrid(display, KeyPanel::steps, queue, 4));

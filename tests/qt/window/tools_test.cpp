@@ -66,6 +66,60 @@ TEST(ToolsTest, ATypedFrequencyStaysWhileTheKnobTurnsAndTunesOnReturn) {
     EXPECT_TRUE(eventually([&] { return station.box() == nullptr; }));
 }
 
+TEST(ToolsTest, WhatIsTypedStaysOnTheWayToItsTuneKeyAndAVfoKeyReplacesIt) {
+    Tools station;
+    station.show(Display::radioPage);
+    auto* field = station.find<QLineEdit>("freqTextField");
+    auto* tune = station.find("tuneButton");
+    const auto knobTurnsTo = [&](int hertz, const char* shown) {
+        station.radio.operate([hertz](auto& radio) { radio.tune(hertz); });
+        ASSERT_TRUE(eventually([&] { return station.find("vqFreqAButton")->text() == shown; }));
+    };
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, "7.03");
+    tune->setFocus(Qt::TabFocusReason);
+    knobTurnsTo(14'260'000, "14.260.000");
+    EXPECT_EQ(field->text(), "7.03");
+    QTest::keyClick(tune, Qt::Key_Space);
+    EXPECT_TRUE(station.tunedTo(7'030'000));
+
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, "3.5");
+    tune->setFocus(Qt::TabFocusReason);
+    station.find("vqFreqAButton")->setFocus(Qt::TabFocusReason);
+    knobTurnsTo(14'261'000, "14.261.000");
+    EXPECT_EQ(field->text(), "14.261");
+
+    field->setFocus();
+    QTest::keyClicks(field, "99");
+    station.display.key(500).performClick();
+    EXPECT_TRUE(eventually([&] { return field->text() == "14.261"; }));
+}
+
+TEST(ToolsTest, AFieldThatIsDisabledHandsTheKeyboardToNoKey) {
+    Tools station;
+    station.show(Display::keyerPage);
+    const auto modeBecomes = [&](char code, bool texts) {
+        station.radio.operate([code](auto& radio) { radio.setMode(code); });
+        ASSERT_TRUE(eventually([&] { return station.find<QLineEdit>("textMemoryField")->isEnabled() == texts; }));
+    };
+    modeBecomes('3', true);
+    auto* field = station.find<QLineEdit>("textMemoryField");
+    field->setFocus();
+    QTest::keyClicks(field, "CQ ");
+    station.settle();
+    modeBecomes('2', false);
+    station.settle();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    runEventLoop(50ms);
+    EXPECT_TRUE(station.radio.takeReceived().empty());
+    modeBecomes('3', true);
+    EXPECT_TRUE(field->hasFocus());
+    EXPECT_EQ(field->text(), "CQ ");
+}
+
 TEST(ToolsTest, KeysOpenAPopUpAndOnlyAChoiceIsSent) {
     Tools station;
     station.show(Display::radioPage);
