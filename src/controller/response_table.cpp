@@ -116,6 +116,7 @@ private:
 
 void SerialPortDemoController::serialPortDidReceiveData(ORSSerialPort&, std::string_view bytes) {
     if (!isUtf8(bytes)) return;
+    const auto reporting = display.report();
     mirror.takeSignal(bytes);
     interpretResponses(bytes);
     link.noteAnswer();

@@ -47,6 +47,7 @@ SerialPortDemoController::~SerialPortDemoController() {
 void SerialPortDemoController::wire() {
     link.onReady = [this](bool ready) { memories.setKeysEnabled(ready); };
     link.onClosed = [this] {
+        display.keepAsLastKnown();
         memories.linkClosed();
         setupMenu.endRead(": stopped, the link is closed.");
     };

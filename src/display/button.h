@@ -14,10 +14,10 @@ public:
     explicit Button(const Outlet& outlet) : Control(outlet), title_(outlet.title) {}
 
     const std::string& title() const { return title_; }
-    void setTitle(std::string_view title) { assign(title_, title); }
+    void setTitle(std::string_view title) { assignValue(title_, title); }
 
     Color bezelColor() const { return bezelColor_; }
-    void setBezelColor(Color color) { assign(bezelColor_, color); }
+    void setBezelColor(Color color) { assignValue(bezelColor_, color); }
 
     Image image() const { return image_; }
     void setImage(Image image) { assign(image_, image); }

@@ -6,7 +6,7 @@
 
 namespace corvane {
 
-Control::Control(const Outlet& outlet) : outlet_(outlet), tag_(outlet.tag) { ControlList::enter(*this); }
+Control::Control(const Outlet& outlet) : outlet_(outlet), tag_(outlet.tag), list_(ControlList::enter(*this)) {}
 
 Control::~Control() {
     for (View* view : views_) {
@@ -24,6 +24,17 @@ ViewHandle Control::addView(ChangeQueue& queue, std::function<void()> show) {
     views_.push_back(view.get());
     allWait_ = false;
     return ViewHandle(std::move(view));
+}
+
+void Control::noteReport() {
+    if (!list_ || !list_->reporting()) return;
+    reported_ = true;
+    if (std::exchange(lastKnown_, false)) markChanged();
+}
+
+void Control::keepAsLastKnown() {
+    if (!reported_) return;
+    assign(lastKnown_, true);
 }
 
 // By index: a queue may call back, and views may join meanwhile.

@@ -11,6 +11,8 @@
 
 namespace corvane {
 
+class ControlList;
+
 enum class Color { none, blue, green, orange, red, purple, pink, brown, gray, darkGray };
 
 // What the interface says of a control: fixed texts, which live as long as the program.
@@ -49,6 +51,10 @@ public:
     bool visible() const { return visible_; }
     void setVisible(bool visible) { assign(visible_, visible); }
 
+    // Whether the value is the last known one of a transceiver that is out of reach: shown, but not to be relied on.
+    bool lastKnown() const { return lastKnown_; }
+    void keepAsLastKnown();  // until the transceiver reports again; a value that it never reported stays as it is
+
     // Joins a view of this control to a queue: `queue.refresh()` calls `show` after changes, until the handle goes. A
     // control may have views in several queues.
     ViewHandle addView(ChangeQueue& queue, std::function<void()> show);
@@ -66,6 +72,13 @@ protected:
         field = value;
         markChanged();
     }
+    // The same for a value that the transceiver may report: also a report of the same value is news.
+    template <typename T, typename V>
+    void assignValue(T& field, V value) {
+        noteReport();
+        assign(field, value);
+    }
+    void noteReport();
     void markChanged() {
         if (!allWait_) tellQueues();
     }
@@ -77,6 +90,9 @@ private:
 
     const Outlet outlet_;
     int tag_;
+    const ControlList* const list_;  // or nullptr
+    bool reported_ = false;          // by the transceiver, in this run
+    bool lastKnown_ = false;
     bool enabled_ = true;
     bool busy_ = false;
     bool visible_ = true;

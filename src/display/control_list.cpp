@@ -1,5 +1,7 @@
 #include "display/control_list.h"
 
+#include "display/control.h"
+
 namespace corvane {
 
 thread_local ControlList* ControlList::open_ = nullptr;
@@ -8,8 +10,13 @@ void ControlList::close() {
     if (open_ == this) open_ = outer_;
 }
 
-void ControlList::enter(Control& control) {
+ControlList* ControlList::enter(Control& control) {
     if (open_) open_->controls_.push_back(&control);
+    return open_;
+}
+
+void ControlList::keepAsLastKnown() {
+    for (Control* control : controls_) control->keepAsLastKnown();
 }
 
 }  // namespace corvane

@@ -39,6 +39,10 @@ struct Display {
     Button& key(int firstTag) { return keys.at(frontPanelKeyIndex(firstTag)); }
     // All controls. A new member need not be named elsewhere: it enters itself.
     std::span<Control* const> controls() const { return made.controls(); }
+    // While the result lives, what the controls are set to is a report of the transceiver.
+    [[nodiscard]] ControlList::Reporting report() { return ControlList::Reporting(made); }
+    // The transceiver is out of reach: what it has reported is shown as last known until it is reported again.
+    void keepAsLastKnown() { made.keepAsLastKnown(); }
 
 private:
     ControlList made;         // before any control
@@ -53,6 +57,11 @@ public:
     Button& vqFreqAButton = key(500);
     Button& vqFreqBButton = key(501);
     Button& vqMemAButton = key(502);
+    // The frequency that side A or B receives on its memory channel, "14.250.000"; empty while the side is on its VFO.
+    TextField channelFrequencyAField{
+        {"channelFrequencyAField", 0, "Channel", "Memory channel of side A", "What the memory channel receives."}};
+    TextField channelFrequencyBField{
+        {"channelFrequencyBField", 0, "Channel", "Memory channel of side B", "What the memory channel receives."}};
     TextField activeVfoField{{"activeVfoField", 0, "", "Active VFO", "The VFO that receives and transmits."}};
     TextField modeField{{"modeField", 0, "", "Mode", "Operating mode, as the transceiver reports it."}};
     LevelIndicator sMeter{{"sMeter", 0, "S", "S-meter", "Strength of the received signal in S units."}, 10};

@@ -13,7 +13,7 @@ public:
 
     int maximum() const { return maximum_; }
     int integerValue() const { return value_; }
-    void setIntegerValue(int value) { assign(value_, std::clamp(value, 0, maximum_)); }
+    void setIntegerValue(int value) { assignValue(value_, std::clamp(value, 0, maximum_)); }
 
 private:
     const int maximum_;

@@ -59,7 +59,7 @@ public:
     }
 
     // An index without an entry selects nothing.
-    void selectItem(int index) { assign(selected_, index >= 0 && index < titles_.size() ? index : noSelection); }
+    void selectItem(int index) { assignValue(selected_, index >= 0 && index < titles_.size() ? index : noSelection); }
     // A title that no entry has leaves the selection as it is.
     void selectItemWithTitle(std::string_view title) {
         if (const auto index = titles_.indexOf(title)) selectItem(*index);

@@ -22,7 +22,7 @@ public:
         if (moving_)
             waiting_ = value;
         else
-            assign(value_, value);
+            assignValue(value_, value);
     }
 
     // What a move does. A slider without an action only shows its value.

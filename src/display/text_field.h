@@ -18,7 +18,7 @@ public:
         if (editing_)
             waiting_ = text;
         else
-            assign(text_, text);
+            assignValue(text_, text);
     }
 
     int maximumLength() const { return maximumLength_; }  // in characters as they are typed; 0 is any length

@@ -10,6 +10,14 @@ namespace corvane {
 
 namespace {
 
+bool isFrequency(std::string_view digits) { return digits.size() == 9 && isAscii(digits); }
+
+// "014250000" gives "14.250.000".
+std::string dotted(std::string_view digits) {
+    std::string shown = std::to_string(decimalOrZero(digits.substr(0, 3)));
+    return shown.append(".").append(digits.substr(3, 3)).append(".").append(digits.substr(6, 3));
+}
+
 // A VFO's title without its hertz: "14.250.000" gives "14.250".
 std::string_view withoutHertz(std::string_view title) {
     return title.substr(0, title.size() > 4 ? title.size() - 4 : 0);
@@ -27,6 +35,7 @@ struct Mirror::Side {
     std::string& frequency;        // vqFreqA or vqFreqB
     std::string& tunedBy;          // vqModeA or vqModeB
     std::string& spoken;           // vqVFOA or vqVFOB
+    std::string& received;
     Button& frequencyButton;
     Button& otherFrequencyButton;
     Color highlight;
@@ -35,21 +44,11 @@ struct Mirror::Side {
 
 Mirror::Side Mirror::side(char vfo) {
     if (vfo == 'A')
-        return {"FA",
-                state_.vqFreqA,
-                state_.vqModeA,
-                state_.vqVFOA,
-                display_.vqFreqAButton,
-                display_.vqFreqBButton,
-                Color::red,
+        return {"FA",       state_.vqFreqA,         state_.vqModeA,         state_.vqVFOA,
+                receivedA_, display_.vqFreqAButton, display_.vqFreqBButton, Color::red,
                 "A"};
-    return {"FB",
-            state_.vqFreqB,
-            state_.vqModeB,
-            state_.vqVFOB,
-            display_.vqFreqBButton,
-            display_.vqFreqAButton,
-            Color::green,
+    return {"FB",       state_.vqFreqB,         state_.vqModeB,         state_.vqVFOB,
+            receivedB_, display_.vqFreqBButton, display_.vqFreqAButton, Color::green,
             "B"};
 }
 
@@ -60,22 +59,20 @@ void Mirror::takeFrequency(std::string_view response, char vfo) {
     const Side reported = side(vfo);
     reported.frequency = without(response, reported.commandName);
     const std::string_view digits = reported.frequency;
-    if (digits.size() != 9 || !isAscii(digits)) return;
+    if (!isFrequency(digits)) return;
     highlightBand(decimalOrZero(digits));
+    reported.received = digits;
 
-    const std::string_view kilohertz = digits.substr(3, 3);
-    const std::string_view hertz = digits.substr(6, 3);
-    std::string shown = std::to_string(decimalOrZero(digits.substr(0, 3)));
-    std::string exact = shown + '.';
-    exact.append(kilohertz).append(hertz);
-    shown.append(".").append(kilohertz);
-    display_.freqTextField.setStringValue(shown);
+    const std::string shown = dotted(digits);
+    std::string exact = shown;
+    exact.erase(exact.rfind('.'), 1);
+    display_.freqTextField.setStringValue(withoutHertz(shown));
     setActiveVfo(reported.vfo);
     if (reported.tunedBy == "vfo") {
         reported.spoken = spokenFrequency(digits);
-        shown.append(".").append(hertz);
         reported.frequencyButton.setTitle(shown);
     }
+    showChannelFrequency(vfo);
     link_.sendCommand("GT0;RA0;RF0;");
     onFrequency(exact);
 }
@@ -90,6 +87,14 @@ void Mirror::takeMemoryChannel(std::string_view response) {
 void Mirror::takeInformation(std::string_view response) { takeSideInformation(response, 'A'); }
 void Mirror::takeOppositeInformation(std::string_view response) { takeSideInformation(response, 'B'); }
 
+// The VFO keys keep their titles meanwhile.
+void Mirror::showChannelFrequency(char vfo) {
+    const Side shown = side(vfo);
+    TextField& field = vfo == 'A' ? display_.channelFrequencyAField : display_.channelFrequencyBField;
+    const bool known = shown.tunedBy == "memory" && !shown.received.empty();
+    field.setStringValue(known ? dotted(shown.received) : std::string());
+}
+
 void Mirror::takeSideInformation(std::string_view response, char vfo) {
     const std::string_view channel = positions(response, 3, 3);
     if (channel.size() != 3 || !isAscii(channel)) return;
@@ -99,10 +104,11 @@ void Mirror::takeSideInformation(std::string_view response, char vfo) {
         memory.setBezelColor(Color::none);
         reported.frequencyButton.setBezelColor(reported.highlight);
         reported.otherFrequencyButton.setBezelColor(Color::none);
-        reported.tunedBy = "vfo";
+        setTunedBy(vfo, "vfo");
         return;
     }
-    reported.tunedBy = "memory";
+    if (const auto digits = positions(response, 6, 9); isFrequency(digits)) reported.received = digits;
+    setTunedBy(vfo, "memory");
     const std::string number(channel.substr(1));
     if (channel.starts_with('5')) {
         memory.setTitle("  5-" + number);
@@ -145,14 +151,17 @@ void Mirror::takeMemoryInUse(std::string_view response) {
     if (state_.vqAorB == "A") {
         state_.vqMemATag = tag;
         display_.vqMemAButton.setTitle("  M-" + std::string(lastOf(state_.vqMemChA, 2)) + ' ' + state_.vqMemATag);
-        state_.vqModeA = state_.vqMemFreq == state_.vqFreqA ? "memory" : "vfo";
+        setTunedBy('A', state_.vqMemFreq == state_.vqFreqA ? "memory" : "vfo");
     } else if (state_.vqAorB == "B") {
         state_.vqMemBTag = tag;
-        state_.vqModeB = state_.vqMemFreq == state_.vqFreqB ? "memory" : "vfo";
+        setTunedBy('B', state_.vqMemFreq == state_.vqFreqB ? "memory" : "vfo");
     }
 }
 
-void Mirror::setTunedBy(char vfo, std::string_view by) { side(vfo).tunedBy = by; }
+void Mirror::setTunedBy(char vfo, std::string_view by) {
+    side(vfo).tunedBy = by;
+    showChannelFrequency(vfo);
+}
 
 void Mirror::showActiveFrequency() {
     const Button& active = state_.vqAorB == "A" ? display_.vqFreqAButton : display_.vqFreqBButton;

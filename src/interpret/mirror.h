@@ -85,12 +85,16 @@ private:
     Side side(char vfo);
     void takeFrequency(std::string_view response, char vfo);
     void takeSideInformation(std::string_view response, char vfo);
+    void showChannelFrequency(char vfo);
     void takeMemoryText(const ModeGroup& group, int memory, std::string_view text);
 
     Display& display_;
     Link& link_;
     Voice& voice_;
     RadioState state_;
+    // What side A and side B receive, nine digits of hertz, by their latest report of any kind.
+    std::string receivedA_;
+    std::string receivedB_;
 };
 
 }  // namespace corvane

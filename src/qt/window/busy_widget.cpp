@@ -11,8 +11,6 @@ namespace corvane {
 namespace {
 
 constexpr const char* keyboardOf = "keyboardOf";  // of a panel: the widget whose keyboard it holds
-const QString busySuffix = QStringLiteral(", busy");
-
 bool leaves(const QKeyEvent& event) { return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab; }
 
 // The panel around the widget, else its window.
@@ -54,18 +52,25 @@ bool heldBack(const Control& control, QEvent& event) {
     }
 }
 
-void fadeWhileBusy(QWidget& widget, const Control& control) {
+Condition conditionOf(const Control& control) {
+    if (control.busy()) return Condition::busy;
+    return control.lastKnown() ? Condition::lastKnown : Condition::usual;
+}
+
+void fade(QWidget& widget, Condition condition) {
     constexpr double faded = 0.45;
-    if ((widget.graphicsEffect() != nullptr) == control.busy()) return;
-    auto* effect = control.busy() ? new QGraphicsOpacityEffect : nullptr;
+    const bool fades = condition != Condition::usual;
+    if ((widget.graphicsEffect() != nullptr) == fades) return;
+    auto* effect = fades ? new QGraphicsOpacityEffect : nullptr;
     if (effect) effect->setOpacity(faded);
     widget.setGraphicsEffect(effect);
 }
 
-void setSpokenName(QWidget& widget, const Control& control, QString name) {
-    if (name.endsWith(busySuffix)) name.chop(busySuffix.size());
-    if (control.busy()) name += busySuffix;
-    if (widget.accessibleName() != name) widget.setAccessibleName(name);
+void setSpokenName(QWidget& widget, Condition condition, const QString& name) {
+    QString spoken = name;
+    if (condition == Condition::busy) spoken += QStringLiteral(", busy");
+    if (condition == Condition::lastKnown) spoken += QStringLiteral(", last known");
+    if (widget.accessibleName() != spoken) widget.setAccessibleName(spoken);
 }
 
 }  // namespace corvane

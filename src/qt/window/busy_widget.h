@@ -1,4 +1,5 @@
-// How a widget shows that its control cannot be used: it is busy for a moment, or disabled.
+// How a widget shows the condition of its control: disabled, busy for a moment, or with a value that is only the last
+// known one.
 #pragma once
 
 #include <QEvent>
@@ -16,10 +17,13 @@ void enableWidget(QWidget& widget, bool enabled);
 // Whether the widget ignores this key or mouse event because its control is busy. Tab still moves on.
 bool heldBack(const Control& control, QEvent& event);
 
-// Fades the widget while its control is busy.
-void fadeWhileBusy(QWidget& widget, const Control& control);
+enum class Condition { usual, busy, lastKnown };
+Condition conditionOf(const Control& control);
 
-// Gives the widget its accessible name, followed by ", busy" while its control is: "Power on, busy".
-void setSpokenName(QWidget& widget, const Control& control, QString name);
+// Fades the widget in any but its usual condition.
+void fade(QWidget& widget, Condition condition);
+
+// Gives the widget its accessible name, followed by its condition: "Power on, busy", "Mode, USB, last known".
+void setSpokenName(QWidget& widget, Condition condition, const QString& name);
 
 }  // namespace corvane

@@ -22,12 +22,12 @@ SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent)
     const auto show = [this, &model] {
         enableWidget(*this, model.enabled() && model.action);
         if (model.busy()) setSliderDown(false);
-        fadeWhileBusy(*this, model);
+        fade(*this, conditionOf(model));
         if (!isSliderDown() && value() != model.integerValue()) {
             const QSignalBlocker quiet(this);
             setValue(model.integerValue());
         }
-        setSpokenName(*this, model, spokenWithValue(model, std::to_string(model.integerValue())));
+        setSpokenName(*this, conditionOf(model), spokenWithValue(model, std::to_string(model.integerValue())));
     };
     connect(this, &QSlider::valueChanged, this, [&model](int value) { model.drag(value); });
     connect(this, &QSlider::sliderReleased, this, show);
@@ -58,8 +58,9 @@ void TextFieldView::showModel() {
     if (text() != shown) setText(shown);
     enableWidget(*this, model_.enabled());
     setReadOnly(!takesText() || model_.busy());
-    fadeWhileBusy(*this, model_);
-    setSpokenName(*this, model_, accessibleName());
+    const Condition condition = model_.busy() ? Condition::busy : Condition::usual;  // a text to type is no report
+    fade(*this, condition);
+    setSpokenName(*this, condition, labelOf(model_));
     if (std::exchange(resignations_, model_.resignations()) != model_.resignations()) clearFocus();
 }
 

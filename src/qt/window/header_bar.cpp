@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPainter>
 
+#include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/control_views.h"
 #include "qt/window/key_button.h"
@@ -61,7 +62,8 @@ public:
         const auto show = [this, &mode] {
             const std::string& name = mode.stringValue();
             setText(name.empty() ? QStringLiteral("\u2013") : QString::fromStdString(name));
-            setAccessibleName(spokenWithValue(mode, name));
+            fade(*this, conditionOf(mode));
+            setSpokenName(*this, conditionOf(mode), spokenWithValue(mode, name));
         };
         view_ = mode.addView(queue, show);
         show();
@@ -79,8 +81,10 @@ HeaderBar::HeaderBar(Display& display, ChangeQueue& queue, QWidget* parent) : QW
     rows->setSpacing(2 * gridStep);
     auto* row = new QHBoxLayout;
     row->setSpacing(3 * gridStep);
-    row->addWidget(new VfoButton(display.vqFreqAButton, display.activeVfoField, "A", queue), 4);
-    row->addWidget(new VfoButton(display.vqFreqBButton, display.activeVfoField, "B", queue), 4);
+    row->addWidget(
+        new VfoButton(display.vqFreqAButton, display.activeVfoField, display.channelFrequencyAField, "A", queue), 4);
+    row->addWidget(
+        new VfoButton(display.vqFreqBButton, display.activeVfoField, display.channelFrequencyBField, "B", queue), 4);
     row->addWidget(makeStatusBlock(display, queue), 4);
     rows->addLayout(row);
     rows->addWidget(new NoticeLabel(display.linkMessageField, queue));

@@ -32,6 +32,12 @@ void paintLoudspeaker(QPainter& painter, const QRectF& square, bool mute, const 
     painter.restore();
 }
 
+// Two thirds of `ground`, one of `color`.
+QColor blended(const QColor& color, const QColor& ground) {
+    const auto mix = [](int a, int b) { return (a + 2 * b) / 3; };
+    return {mix(color.red(), ground.red()), mix(color.green(), ground.green()), mix(color.blue(), ground.blue())};
+}
+
 // A screen reader calls a key that lights pressed or not pressed.
 bool lights(const Button& model) {
     const std::size_t index = frontPanelKeyIndex(model.outlet().tag);
@@ -79,8 +85,15 @@ void KeyButton::showModel() {
     if (text() != plain) setText(plain);
     // A title from the transceiver may be longer than its key.
     if (model_.outlet().title.empty() && !title.isEmpty()) setToolTip(title.trimmed() + "\n" + toolTipOf(model_));
-    setSpokenName(*this, model_, spokenName());
+    setSpokenName(*this, condition(), spokenName());
     update();
+}
+
+// A dark key says nothing about the transceiver, so it has nothing to be last known.
+Condition KeyButton::condition() const {
+    if (model_.busy()) return Condition::busy;
+    const bool shows = model_.bezelColor() != Color::none || model_.outlet().title.empty();
+    return shows && model_.lastKnown() ? Condition::lastKnown : Condition::usual;
 }
 
 QString KeyButton::spokenName() const {
@@ -108,11 +121,13 @@ void KeyButton::paintEvent(QPaintEvent*) {
     const bool lit = model_.bezelColor() != Color::none;
     QColor fill = theme.of(model_.bezelColor(), underMouse() && model_.action ? theme.keyHover : theme.key);
     if (!model_.action && !lit) fill = theme.panel;
+    const bool stale = condition() == Condition::lastKnown;
+    if (stale) fill = blended(fill, theme.panel);
     if (isDown()) fill = fill.darker(120);
     const bool grey = !isEnabled() || model_.busy();
     if (grey) fill = theme.panel;
     paintCap(painter, fill);
-    QColor ink = lit ? readableOn(fill) : theme.text;
+    QColor ink = lit ? readableOn(fill) : stale ? theme.quietText : theme.text;
     if (grey) ink = palette().color(QPalette::Disabled, QPalette::ButtonText);
     paintFace(painter, rect().adjusted(2, 0, -2, 0), ink);
 }

@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "display/button.h"
+#include "qt/window/busy_widget.h"
 
 namespace corvane {
 
@@ -31,6 +32,7 @@ protected:
     // The face of the key on its cap; `ink` reads well on it.
     virtual void paintFace(QPainter& painter, const QRect& face, const QColor& ink);
     virtual QString spokenName() const;
+    virtual Condition condition() const;
 
 private:
     void showModel();

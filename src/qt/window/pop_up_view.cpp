@@ -93,8 +93,8 @@ void PopUpView::showModel() {
     enableWidget(*this, model_.enabled());
     setCurrentIndex(model_.indexOfSelectedItem());
     if (model_.busy()) hidePopup();
-    fadeWhileBusy(*this, model_);
-    setSpokenName(*this, model_,
+    fade(*this, conditionOf(model_));
+    setSpokenName(*this, conditionOf(model_),
                   model_.action ? labelOf(model_) : spokenWithValue(model_, model_.titleOfSelectedItem()));
 }
 

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
 
@@ -13,7 +14,11 @@ SMeterView::SMeterView(LevelIndicator& model, ChangeQueue& queue, QWidget* paren
     setTextVisible(false);
     setFont(typeface(TypeSize::small));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    const auto show = [this, &model] { setValue(model.integerValue()); };
+    const auto show = [this, &model] {
+        setValue(model.integerValue());
+        fade(*this, conditionOf(model));
+        setSpokenName(*this, conditionOf(model), labelOf(model));
+    };
     view_ = model.addView(queue, show);
     show();
 }

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <utility>
 
+#include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
 
@@ -16,19 +17,40 @@ const QString emptyDisplay = QStringLiteral("--.---.---");
 
 }  // namespace
 
-VfoButton::VfoButton(Button& model, TextField& activeVfo, std::string letter, ChangeQueue& queue, QWidget* parent)
-    : KeyButton(model, queue, typeface(TypeSize::digits), parent), activeVfo_(activeVfo), letter_(std::move(letter)) {
-    view_ = activeVfo_.addView(queue, [this] {
-        setAccessibleName(spokenName());
+VfoButton::VfoButton(Button& model, TextField& activeVfo, TextField& channel, std::string letter, ChangeQueue& queue,
+                     QWidget* parent)
+    : KeyButton(model, queue, typeface(TypeSize::digits), parent),
+      activeVfo_(activeVfo),
+      channel_(channel),
+      letter_(std::move(letter)) {
+    const auto show = [this] {
+        setSpokenName(*this, condition(), spokenName());
         update();
-    });
-    setAccessibleName(spokenName());
+    };
+    activeView_ = activeVfo_.addView(queue, show);
+    channelView_ = channel_.addView(queue, show);
+    show();
 }
 
 QString VfoButton::spokenName() const {
-    QString name = spokenWithValue(model(), model().title());
-    if (!model().title().empty()) name += " MHz";
+    QString name = labelOf(model());
+    if (onChannel()) name += ", memory channel";
+    if (!frequency().empty()) name += ", " + toQString(frequency()) + " MHz";
     return active() ? name + ", active" : name;
+}
+
+Condition VfoButton::condition() const {
+    const Control& shown = onChannel() ? static_cast<const Control&>(channel_) : model();
+    return shown.lastKnown() ? Condition::lastKnown : Condition::usual;
+}
+
+QString VfoButton::corner() const {
+    QString words = onChannel() ? QStringLiteral("MEMORY CHANNEL \u00b7 ") : QString();
+    if (condition() == Condition::lastKnown)
+        words += QStringLiteral("LAST KNOWN \u00b7 ");
+    else if (active())
+        words += QStringLiteral("ACTIVE \u00b7 ");
+    return words + "MHz";
 }
 
 QSize VfoButton::sizeHint() const {
@@ -45,27 +67,27 @@ void VfoButton::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 8, 8);
 
     // A bar in the colour of the side that the transceiver works on.
-    const QColor lamp = theme.of(model().bezelColor(), active() ? theme.accent : theme.line);
+    const bool live = condition() == Condition::usual;
+    const QColor lamp = live ? theme.of(model().bezelColor(), active() ? theme.accent : theme.line) : theme.line;
     painter.setPen(Qt::NoPen);
     painter.setBrush(lamp);
     painter.drawRoundedRect(QRectF(8, 10, 4, height() - 20), 2, 2);
 
-    painter.setPen(active() ? theme.text : theme.quietText);
+    painter.setPen(active() && live ? theme.text : theme.quietText);
     painter.setFont(typeface(TypeSize::small, QFont::DemiBold));
     painter.drawText(QRect(20, 6, width() - 32, labelHeight()), Qt::AlignLeft | Qt::AlignVCenter, labelOf(model()));
     painter.setPen(theme.quietText);
-    painter.drawText(QRect(20, 6, width() - 32, labelHeight()), Qt::AlignRight | Qt::AlignVCenter,
-                     active() ? QStringLiteral("ACTIVE \u00b7 MHz") : QStringLiteral("MHz"));
+    painter.drawText(QRect(20, 6, width() - 32, labelHeight()), Qt::AlignRight | Qt::AlignVCenter, corner());
 
-    const QString title = model().title().empty() ? emptyDisplay : QString::fromStdString(model().title());
+    const bool known = !frequency().empty();
+    const QString title = known ? toQString(frequency()) : emptyDisplay;
     const QRect digits(16, labelHeight(), width() - 28, height() - labelHeight());
     // The hertz matter least: they are a little less bright.
     const qsizetype hertzAt = title.lastIndexOf('.');
     const QFontMetrics metrics(font());
     const int hertzWidth = metrics.horizontalAdvance(title.mid(hertzAt));
-    const bool known = !model().title().empty();
     painter.setFont(font());
-    painter.setPen(active() && known ? theme.accent : theme.quietText);
+    painter.setPen(active() && known && live ? theme.accent : theme.quietText);
     painter.drawText(digits.adjusted(0, 0, -hertzWidth, 0), Qt::AlignRight | Qt::AlignVCenter, title.left(hertzAt));
     QColor dim = painter.pen().color();
     dim.setAlphaF(0.85F);

@@ -10,8 +10,10 @@ class VfoButton : public KeyButton {
     Q_OBJECT
 
 public:
-    // `letter` is "A" or "B"; the digits are bright while `activeVfo` shows it.
-    VfoButton(Button& model, TextField& activeVfo, std::string letter, ChangeQueue& queue, QWidget* parent = nullptr);
+    // `letter` is "A" or "B"; the digits are bright while `activeVfo` shows it. While `channel` has a frequency, the
+    // side is on a memory channel, and that frequency stands in the place of the VFO's.
+    VfoButton(Button& model, TextField& activeVfo, TextField& channel, std::string letter, ChangeQueue& queue,
+              QWidget* parent = nullptr);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -19,13 +21,19 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     QString spokenName() const override;
+    Condition condition() const override;
 
 private:
     bool active() const { return activeVfo_.stringValue() == letter_; }
+    bool onChannel() const { return !channel_.stringValue().empty(); }
+    const std::string& frequency() const { return onChannel() ? channel_.stringValue() : model().title(); }
+    QString corner() const;  // the words at the upper right
 
     TextField& activeVfo_;
+    TextField& channel_;
     const std::string letter_;
-    ViewHandle view_;
+    ViewHandle activeView_;
+    ViewHandle channelView_;
 };
 
 }  // namespace corvane

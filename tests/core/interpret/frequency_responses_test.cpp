@@ -70,6 +70,26 @@ TEST(FrequencyResponses, OnAMemoryChannelTheFrequencyButtonKeepsItsTitle) {
     EXPECT_THAT(bench.markedBands(), ElementsAre(20));
 }
 
+TEST(FrequencyResponses, WhatAMemoryChannelReceivesIsInSightWhileASideIsOnIt) {
+    TestBench bench;
+    const auto shown = [&] {
+        return std::pair{bench.display.channelFrequencyAField.stringValue(),
+                         bench.display.channelFrequencyBField.stringValue()};
+    };
+    using Shown = std::pair<std::string, std::string>;
+    bench.receive("IF006014155000+012010200000;");
+    EXPECT_EQ(shown(), Shown("14.155.000", ""));
+    EXPECT_EQ(bench.display.vqFreqAButton.title(), "");
+    bench.receive("FA007100500;");
+    EXPECT_EQ(shown(), Shown("7.100.500", ""));
+    bench.receive("FB003600000;OI501014155000+012010200000;");
+    EXPECT_EQ(shown(), Shown("7.100.500", "14.155.000"));
+    bench.receive("FB003600000;IF000014155000+012010200000;");
+    EXPECT_EQ(shown(), Shown("", "3.600.000"));
+    bench.press(501);
+    EXPECT_EQ(shown(), Shown("", ""));
+}
+
 TEST(FrequencyResponses, BandsEndOnTheirLastHertz) {
     const struct {
         int lower, upper, tag;

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "tests/support/test_bench.h"
 
 namespace corvane {
@@ -92,6 +94,42 @@ TEST(SessionStart, StepsLeftOverFromAClosedProgramDoNothing) {
     port->receive("FA014250000;");
     around.scheduler.advance(60s);
     EXPECT_THAT(port->written, IsEmpty());
+}
+
+// Names what the display shows as last known.
+ControlNames lastKnown(const Display& display) {
+    ControlNames names;
+    for (const Control* control : display.controls())
+        if (control->lastKnown()) names.insert(control->objectName());
+    return names;
+}
+
+TEST(SessionStart, ReportedValuesAreLastKnownAfterTheClosingUntilTheyAreReportedAgain) {
+    TestBench bench;
+    bench.receive("FA014250000;MD02;RM1100000;GT04;");
+    const ControlNames reported{"AGCPopUpButton", "licenseClassButton", "modeField", "modesPopUpButton",
+                                "sMeter",         "vqFreqAButton"};
+    EXPECT_EQ(lastKnown(bench.display), ControlNames{});
+    for (const bool unplugged : {false, true}) {
+        if (unplugged)
+            bench.port->unplug();
+        else
+            bench.display.openCloseButton.performClick();
+        EXPECT_TRUE(std::ranges::includes(lastKnown(bench.display), reported));
+        EXPECT_FALSE(lastKnown(bench.display).contains("vqFreqBButton")) << "never reported";
+        bench.display.vqFreqAButton.setTitle("14.250.000");
+        bench.controller.setSerialPort(bench.port);
+        bench.display.openCloseButton.performClick();
+        EXPECT_TRUE(lastKnown(bench.display).contains("vqFreqAButton")) << "the port is open, but nothing has come";
+        bench.takeChanges();
+        bench.receive("FA014250000;");
+        EXPECT_TRUE(bench.takeChanges().contains("vqFreqAButton"));
+        EXPECT_FALSE(lastKnown(bench.display).contains("vqFreqAButton"));
+        EXPECT_FALSE(lastKnown(bench.display).contains("m20Button"));
+        EXPECT_TRUE(lastKnown(bench.display).contains("modeField"));
+        bench.receive("MD02;RM1100000;GT04;");
+        EXPECT_FALSE(lastKnown(bench.display).contains("modeField"));
+    }
 }
 
 }  // namespace
