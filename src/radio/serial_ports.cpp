@@ -96,8 +96,9 @@ void Link::serialPortWasOpened(ORSSerialPort& port) {
     startSession();
 }
 
-void Link::serialPortWasClosed(ORSSerialPort&) {
+void Link::serialPortWasClosed(ORSSerialPort& port) {
     ++session_;
+    serialPortDidStall(port, false);
     display_.openCloseButton.setTitle("Connect");
     display_.openCloseButton.setBezelColor(Color::red);
     onReady(false);

@@ -153,6 +153,9 @@ TEST_F(SerialPortsTest, ADeviceThatTakesNoDataIsToldUntilItDoes) {
     EXPECT_THAT(display.linkMessageField.stringValue(), HasSubstr("Press Connected to close the port"));
     first->stall(false);
     EXPECT_EQ(display.linkMessageField.stringValue(), "");
+    first->stall(true);
+    display.openCloseButton.performClick();
+    EXPECT_EQ(display.linkMessageField.stringValue(), "");
 }
 
 TEST_F(SerialPortsTest, AnErrorOnAnOpenPortLeavesItAsItIs) {
