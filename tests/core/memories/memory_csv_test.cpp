@@ -14,8 +14,8 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 const std::string titles =
-    "Location,Name,Frequency,Duplex,Offset,Tone,rToneFreq,cToneFreq,DtcsCode,DtcsPolarity,Mode,TStep,Skip,Comment,"
-    "URCALL,RPT1CALL,RPT2CALL,DVCODE\r\n";
+    "Location,Name,Frequency,Duplex,Offset,Tone,rToneFreq,cToneFreq,DtcsCode,DtcsPolarity,RxDtcsCode,"
+    "CrossMode,Mode,TStep,Skip,Power,Comment,URCALL,RPT1CALL,RPT2CALL,DVCODE\r\n";
 
 // A channel in every mode, with names that are hard to quote.
 MemoryTable everyMode() {
@@ -60,9 +60,10 @@ TEST(MemoryCsv, HoldsTheProgrammedChannelsInTheColumnsOfTheTools) {
     table[4] = {"007074000", "C", "40M, FT8    "};
     table[98] = {"014070000", "E", ""};
     table[5] = {"000000000", "2", "no frequency"};
-    EXPECT_EQ(memoryCsv(table), titles +
-                                    "5,\"40M, FT8\",7.074000,,0.000000,,88.5,88.5,023,NN,DIG,5.00,,,,,,\r\n"
-                                    "99,,14.070000,,0.000000,,88.5,88.5,023,NN,DIG,5.00,,PSK,,,,\r\n");
+    EXPECT_EQ(memoryCsv(table),
+              titles +
+                  "5,\"40M, FT8\",7.074000,,0.000000,,88.5,88.5,023,NN,023,Tone->Tone,DIG,5.00,,50W,,,,,\r\n"
+                  "99,,14.070000,,0.000000,,88.5,88.5,023,NN,023,Tone->Tone,DIG,5.00,,50W,PSK,,,,\r\n");
 }
 
 TEST(MemoryCsv, ComesBackAsItWasInEveryMode) {
@@ -96,6 +97,8 @@ TEST(MemoryCsv, TakesWhatItCanAndSaysWhyNotTheRest) {
         {"Location;Frequency\n", {"Its first line has no column \"Location\".", {}, {}}},
         {"location\n", {"Its first line has no column \"Frequency\".", {}, {}}},
         {"Location,Frequency\n", {}},
+        {" ,, \n,,\n", {"The file is empty.", {}, {}}},
+        {",,\nLocation,Frequency,Mode\n \t,,\n,,,,,\n3,7.1,LSB\n,,\n", {"", {taken(5, 2, {"007100000", "1", ""})}, {}}},
         // another order, other columns, lower case, no Name; the usual side band if there is no mode
         {"\xef\xbb\xbf"
          "FREQUENCY ,Power,location\r\n7.1,5W, 09 \r\n14,5W,10\r\n",
