@@ -10,6 +10,7 @@
 namespace corvane {
 namespace {
 
+using namespace std::chrono_literals;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -174,6 +175,41 @@ TEST(MemoryCsv, TellsWhatAWriteWouldChange) {
     for (const MemoryChannel& other :
          {MemoryChannel{}, {"014074001", "C", "20M FT8"}, {"014074000", "2", "20M FT8"}, {"014074000", "C", "20M"}})
         EXPECT_FALSE(sameChannel(channel, other));
+}
+
+TEST(MemoryExport, SaysWhatTheTableLacks) {
+    TestBench bench;
+    bench.around.alerts.agree = false;
+    bench.around.files.choice = "/out.csv";
+    std::vector<std::string>& alerts = bench.around.alerts.shown;
+    std::string& exported = bench.around.files.files["/out.csv"];
+    const auto press = [&] {
+        alerts.clear();
+        bench.display.exportMemoriesButton.performClick();
+        return alerts.empty() ? "" : alerts[0];
+    };
+    EXPECT_THAT(press(), HasSubstr("There is nothing to export"));
+    bench.outlastOpening();
+    bench.display.readMemoriesButton.performClick();
+    EXPECT_THAT(press(), HasSubstr("are being read"));
+    for (const char* reply : {"MR001014250000+000000210000;", "MR001014250000+000000210000;", "?;"})
+        bench.receive(reply);
+    EXPECT_THAT(press(), HasSubstr("are being read"));
+    bench.advance(7s);
+    EXPECT_THAT(press(), HasSubstr("lack the channels from M-03 on, and all names:"));
+    bench.display.readMemoriesButton.performClick();
+    bench.around.alerts.answerLast();
+    EXPECT_THAT(exported, HasSubstr("\r\n1,,14.250000,")) << "as it was when the key was pressed";
+
+    for (int reply = 0; reply < 100; ++reply) bench.receive("MR005007074000+000000210000;");
+    bench.display.openCloseButton.performClick();
+    EXPECT_THAT(press(), HasSubstr("lack the names from M-01 on:"));
+    exported.clear();
+    bench.display.openCloseButton.performClick();
+    bench.display.readMemoriesButton.performClick();
+    for (int reply = 0; reply < 200; ++reply) bench.receive("MR005007074000+000000210000;MT0051FT8         ;");
+    EXPECT_EQ(press(), "");
+    EXPECT_THAT(exported, HasSubstr("\r\n5,FT8,7.074000,"));
 }
 
 struct ImportBench : RadioBench {
