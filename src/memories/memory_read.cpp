@@ -41,9 +41,8 @@ bool MemoryRead::settle(const Request& replied) {
 }
 
 MemoryReadStep MemoryRead::take(const MemoryReply& reply) {
+    if (settle({false, reply.channel})) return {};
     MemoryReadStep step;
-    step.outdated = settle({false, reply.channel});
-    if (step.outdated) return step;
     const bool describesRow = reply.channel != 0;
     if (vqMemRead != "run") {
         // After a read was restarted, or an error response to another command was counted, one reply more is on its
@@ -69,9 +68,8 @@ MemoryReadStep MemoryRead::take(const MemoryReply& reply) {
 }
 
 MemoryReadStep MemoryRead::take(const TagReply& reply) {
+    if (settle({true, reply.channel})) return {};
     MemoryReadStep step;
-    step.outdated = settle({true, reply.channel});
-    if (step.outdated) return step;
     if (reply.channel != 0) {
         step.row = static_cast<std::size_t>(reply.channel - 1);
         asRead[*step.row].row.tag = reply.tag;

@@ -19,7 +19,6 @@ struct MemoryReadStep {
     std::string request;             // what is asked next, e.g. "MR007;"; empty: nothing
     bool ended = false;              // it was the last reply of a whole read
     bool inUse = false;              // no read was waiting for it: it describes the channel in use
-    bool outdated = false;           // the read that asked for it has ended, and rows may have moved: it is dropped
 
     bool operator==(const MemoryReadStep&) const = default;
 };

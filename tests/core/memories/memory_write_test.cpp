@@ -108,7 +108,7 @@ struct RereadBench : RadioBench {
     }
     // Reads again, until the transceiver falls silent at this request.
     void readUntil(std::string_view request) {
-        port->onWrite = [this, request, serve = port->onWrite, silent = false](std::string_view bytes) mutable {
+        port->onWrite = [request, serve = port->onWrite, silent = false](std::string_view bytes) mutable {
             if (silent = silent || bytes == request; !silent) serve(bytes);
         };
         display.readMemoriesButton.performClick();
