@@ -88,7 +88,8 @@ void SerialPortDemoController::bindEntries() {
                                       std::pair{&display.pskMemoryPopUpButton, &display.pskMemoryField}}) {
         refuseIn(*text, display.memoryTextNoticeField);
         popUp->action = [this, text = text](PopUpButton& sender) {
-            if (acceptsText(*text, display.memoryTextNoticeField)) goSuperPopUp(sender);
+            if (!acceptsText(*text, display.memoryTextNoticeField)) return sender.takeBack();  // nothing was stored
+            goSuperPopUp(sender);
         };
     }
 }

@@ -35,6 +35,12 @@ std::vector<std::string> EntryTitles::list() const {
     return all;
 }
 
+void EntryTitles::insert(int index, std::string title) {
+    std::vector<std::string> texts = list();
+    texts.insert(texts.begin() + index, std::move(title));
+    titles_ = std::move(texts);
+}
+
 EntryTitles entryTitles(std::string_view entries) {
     if (const auto run = numberRun(entries)) return *run;
     return entryList(entries);

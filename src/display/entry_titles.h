@@ -25,6 +25,7 @@ public:
     std::string at(int index) const;                           // the index must be below size()
     std::optional<int> indexOf(std::string_view title) const;  // the first entry of this title
     std::vector<std::string> list() const;                     // all of them
+    void insert(int index, std::string title);                 // before the entry at `index`, or as the last one
 
     bool operator==(const EntryTitles&) const = default;
 

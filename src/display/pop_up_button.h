@@ -41,6 +41,17 @@ public:
     // Counts the changes of the entries, so that a view fills its list only when there is something new.
     int entriesVersion() const { return entriesVersion_; }
 
+    // Adds an entry before the one at `index`, from 0 to titles().size(); pictures, selection and groups stay with
+    // their entries.
+    void insertItem(int index, std::string title) {
+        titles_.insert(index, std::move(title));
+        if (index < static_cast<int>(images_.size())) images_.insert(images_.begin() + index, Image::none);
+        for (Group& group : groups_) group.first += group.first >= index ? 1 : 0;
+        selected_ += selected_ >= index ? 1 : 0;
+        ++entriesVersion_;
+        markChanged();
+    }
+
     Image itemImage(int index) const {
         return index < static_cast<int>(images_.size()) ? images_[static_cast<std::size_t>(index)] : Image::none;
     }

@@ -13,10 +13,11 @@ MenuGroupRead::MenuGroupRead(const MenuGroup& group, unsigned number)
     asked_ = static_cast<int>(waiting_.count());
 }
 
-bool MenuGroupRead::takeAnswer(const MenuItemRow& row) {
+bool MenuGroupRead::takeAnswer(const MenuItemRow& row, bool shown) {
     const auto place = static_cast<std::size_t>(&row - menuItems.data());
     if (stopped_ || !waiting_.test(place)) return false;
     waiting_.reset(place);
+    if (!shown) ++notShown_;
     return true;
 }
 
@@ -27,10 +28,12 @@ bool MenuGroupRead::takeRefusal() {
 }
 
 std::string MenuGroupRead::text() const {
-    const int answered = asked_ - static_cast<int>(waiting_.count());
-    if (handled() < asked_) return fmt::format("{} {} of {} items", stopped_ ? "Read" : "Reading", answered, asked_);
-    if (refused_ == 0) return fmt::format("{} items read", answered);
-    return fmt::format("{} items read, {} unknown to this transceiver", answered, refused_);
+    const int read = asked_ - static_cast<int>(waiting_.count()) - notShown_;
+    if (handled() < asked_) return fmt::format("{} {} of {} items", stopped_ ? "Read" : "Reading", read, asked_);
+    std::string text = fmt::format("{} items read", read);
+    if (refused_ > 0) text += fmt::format(", {} unknown to this transceiver", refused_);
+    if (notShown_ > 0) text += fmt::format(", {} not shown", notShown_);
+    return text;
 }
 
 }  // namespace corvane

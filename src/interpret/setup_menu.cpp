@@ -13,6 +13,34 @@ namespace {
 
 constexpr auto patience = 2s;  // without a response
 
+// Where a number that a run leaves out has its place among entries; nothing for one outside the run, or written in
+// another way.
+std::optional<int> placeOf(std::string_view value, const NumberRun& run, const EntryTitles& entries) {
+    const auto number = decimal(value);
+    if (!number || *number < run.first || *number > run.last) return {};
+    if (NumberRun{*number, *number, 1, run.digits, run.sign}.at(0) != value) return {};
+    int place = 0;
+    while (place < entries.size() && decimal(entries.at(place)).value_or(*number) < *number) ++place;
+    return place;
+}
+
+// The window shows what the transceiver holds, also a number between two entries. Gives whether the value is shown.
+bool selectTitle(PopUpButton& popUp, const MenuItemRow& row, const std::string& value) {
+    const auto run = numberRun(row.entries);
+    if (!popUp.titles().indexOf(value) && run)
+        if (const auto place = placeOf(value, *run, popUp.titles())) popUp.insertItem(*place, value);
+    const auto index = popUp.titles().indexOf(value);
+    if (index) popUp.selectItem(*index);
+    return index.has_value();
+}
+
+bool selectIndex(PopUpButton& popUp, std::string_view value) {
+    const auto index = decimal(value);
+    if (!index || *index < 0 || *index >= popUp.titles().size()) return false;
+    popUp.selectItem(*index);
+    return true;
+}
+
 }  // namespace
 
 SetupMenu::SetupMenu(Display& display, Link& link, SettingsStore& settings, Scheduler& scheduler)
@@ -33,10 +61,10 @@ void SetupMenu::fillMenuPopUps() {
         if (!row.hasDefault()) continue;
         const NumberRun numbers = *numberRun(row.entries);
         PopUpButton* popUp = display_.menu.popUp(row.page(), row.tag());
-        const int selected = popUp ? popUp->indexOfSelectedItem() : PopUpButton::noSelection;
+        const std::string selected = popUp ? popUp->titleOfSelectedItem() : std::string{};
         fillMenuPopUp(numbers.first / numbers.step, numbers.last / numbers.step, numbers.step, row.tag(),
                       numbers.digits, row.page(), row.defaultNumber);
-        if (again && popUp) popUp->selectItem(selected);
+        if (again && popUp && !selectTitle(*popUp, row, selected)) popUp->selectItem(PopUpButton::noSelection);
     }
     filled_ = true;
 }
@@ -46,13 +74,12 @@ void SetupMenu::takeMenuItem(std::string_view response) {
     if (!report) return;
     const auto& [row, value] = *report;
     if (row->take == MenuTake::text) takeCallSign(value);
+    bool shown = row->take == MenuTake::text;
     if (PopUpButton* popUp = display_.menu.popUp(row->page(), row->tag())) {
-        if (row->take == MenuTake::title) popUp->selectItemWithTitle(value);
-        if (const auto index = decimal(value);
-            row->take == MenuTake::index && index && *index >= 0 && *index < popUp->titles().size())
-            popUp->selectItem(*index);
+        if (row->take == MenuTake::title) shown = selectTitle(*popUp, *row, std::string(value));
+        if (row->take == MenuTake::index) shown = selectIndex(*popUp, value);
     }
-    if (read_.takeAnswer(*row)) showReadProgress();
+    if (read_.takeAnswer(*row, shown)) showReadProgress();
 }
 
 bool SetupMenu::takeRefusal() {

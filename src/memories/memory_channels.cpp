@@ -38,9 +38,19 @@ void MemoryChannels::setKeysEnabled(bool enabled) {
 }
 
 void MemoryChannels::startMemoryRead() {
+    forgetOtherSession();
+    saveBeforeReplacing();
     setRows({});
+    readNote_ = {};
     ask(read_.begin(link_.session()));
     watchMemoryRead();
+}
+
+// What another session reported may be of another transceiver.
+void MemoryChannels::forgetOtherSession() {
+    if (read_.asReadSession == link_.session()) return;
+    saveBeforeReplacing();
+    read_.forget(link_.session());
 }
 
 void MemoryChannels::ask(const MemoryReadStep& step) {
@@ -63,6 +73,7 @@ void MemoryChannels::takeMemoryReply(std::string_view response) {
 }
 
 void MemoryChannels::takeTagReply(std::string_view response) {
+    forgetOtherSession();
     const TagReply reply = tagReply(response);
     const bool unasked = read_.vqTagRead != "run";
     const MemoryReadStep step = read_.take(reply);
@@ -73,8 +84,9 @@ void MemoryChannels::takeTagReply(std::string_view response) {
 }
 
 void MemoryChannels::finishMemoryRead() {
-    display_.memoriesTable.setSortDescriptorPrototype(memoryFrequencyColumn, {});
+    forgetSorting();
     showChannels();
+    readNote_ = {};
     showReadProgress();
     showWhereChannelsAreSaved();
     voice_.playSound("Funk");
@@ -99,7 +111,12 @@ void MemoryChannels::showReadProgress(std::string_view problem) {
     const MemoryReadProgress progress = read_.progress(vqMemArray_);
     display_.memoryReadProgress.setVisible(progress.running);
     display_.memoryReadProgress.setIntegerValue(progress.handled);
-    display_.memoryReadField.setStringValue(progress.text + std::string(problem));
+    display_.memoryReadField.setStringValue(progress.text + std::string(problem.empty() ? readNote_ : problem));
+}
+
+void MemoryChannels::forgetSorting() {
+    for (const int column : {memoryFrequencyColumn, memoryTagColumn})
+        display_.memoriesTable.setSortDescriptorPrototype(column, {});
 }
 
 // Tells the operator when the chain has stopped; it goes on if the reply still comes.
@@ -115,14 +132,26 @@ void MemoryChannels::watchMemoryRead() {
 }
 
 void MemoryChannels::linkClosed() {
-    if (read_.running()) showReadProgress(": stopped, the link is closed.");
+    if (read_.running()) {
+        showReadProgress(": stopped, the link is closed.");
+        forgetSorting();
+    }
+    readNote_ = {};
     read_.endEarly();
     display_.memoryReadProgress.setVisible(false);
     endWriteEarly();
 }
 
+bool MemoryChannels::rowsMayMove() {
+    if (!read_.repliesAreComing()) return true;
+    readNote_ = ". Rows can be moved and sorted once all have been read.";
+    showReadProgress();
+    return false;
+}
+
 // A late reply names a channel, whose row may have moved: it would fill the wrong row.
-void MemoryChannels::endHaltedRead() {
+void MemoryChannels::prepareToMoveRows() {
+    read_.rowsMove();
     if (!read_.stalled) return;
     read_.endEarly();
     display_.memoryReadProgress.setVisible(false);

@@ -6,6 +6,7 @@
 //   files     export and import                         memories/memory_files.cpp
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <span>
@@ -79,14 +80,19 @@ private:
     void ask(const MemoryReadStep& step);
     void finishMemoryRead();
     void watchMemoryRead();
-    void endHaltedRead();
+    void forgetOtherSession();
+    void forgetSorting();  // the rows are in another order than a header says
+    bool rowsMayMove();    // says so if they may not
+    void prepareToMoveRows();
     void showChannels();
     void showStatus();  // of the last read
     void showReadProgress(std::string_view problem = {});
 
     void watchWrite(unsigned number);
     void endWriteEarly();
-    bool saveMemoriesAsRead();
+    SavedFile saveAsRead();
+    void saveBeforeReplacing();
+    bool saveBeforeWriting();
     void showWhereChannelsAreSaved();
 
     bool canTakeChannels() const;  // whether imported channels would stay: no read of this session is still to come
@@ -103,7 +109,10 @@ private:
     MemoryTable vqMemArray_;
     const std::vector<std::string> vqMemTagArray_ = std::vector<std::string>(memoryChannels, " ");
     MemoryRead read_;
-    std::optional<MemoryWrite> write_;  // while one is on its way
+    std::string_view readNote_;                      // what the progress of the present read also says
+    ChannelsAsRead saved_;                           // what the last file of saved channels holds
+    std::chrono::system_clock::time_point savedAt_;  // the second in its name
+    std::optional<MemoryWrite> write_;               // while one is on its way
     unsigned writeNumber_ = 0;
 };
 

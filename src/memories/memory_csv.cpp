@@ -41,9 +41,12 @@ constexpr std::array fileColumns{
     FileColumn{"cToneFreq", "88.5"},
     FileColumn{"DtcsCode", "023"},
     FileColumn{"DtcsPolarity", "NN"},
+    FileColumn{"RxDtcsCode", "023"},
+    FileColumn{"CrossMode", "Tone->Tone"},
     FileColumn{"Mode", "", Column::mode},
     FileColumn{"TStep", "5.00"},
     FileColumn{"Skip", ""},
+    FileColumn{"Power", "50W"},  // what the tools write if a channel has none, as here
     FileColumn{"Comment", "", Column::comment},
     FileColumn{"URCALL", ""},
     FileColumn{"RPT1CALL", ""},
@@ -82,6 +85,11 @@ private:
     std::array<std::size_t, columnCount> positions_{};
     std::size_t titles_ = 0;
 };
+
+bool isBlank(const CsvLine& line) {
+    return !line.quoteLeftOpen &&
+           std::ranges::all_of(line.fields, [](const auto& field) { return trimmed(field).empty(); });
+}
 
 // The tag as if the name had been typed; a name that is not UTF-8 keeps its ASCII characters.
 std::string tagOf(std::string_view name) {
@@ -181,7 +189,8 @@ std::string memoryCsv(const MemoryTable& channels) {
 }
 
 MemoryImport readMemoryCsv(std::string_view text) {
-    const std::vector<CsvLine> lines = csvLines(text);
+    std::vector<CsvLine> lines = csvLines(text);
+    std::erase_if(lines, isBlank);
     if (lines.empty()) return {"The file is empty.", {}, {}};
     if (lines.front().quoteLeftOpen) return {"Its first line has a quotation mark that is not closed.", {}, {}};
     const Header header(lines.front());

@@ -1,6 +1,6 @@
 // The memory channels in the file format of memory programming tools, and what such a file would change:
-//   Location,Name,Frequency,Duplex,Offset,Tone,rToneFreq,cToneFreq,DtcsCode,DtcsPolarity,Mode,TStep,Skip,Comment,...
-//   5,20M FT8,14.074000,,0.000000,,88.5,88.5,023,NN,DIG,5.00,,,,,,
+//   Location,Name,Frequency,Duplex,Offset,Tone,rToneFreq,cToneFreq,DtcsCode,DtcsPolarity,RxDtcsCode,CrossMode,Mode,...
+//   5,20M FT8,14.074000,,0.000000,,88.5,88.5,023,NN,023,Tone->Tone,DIG,5.00,,50W,,,,,
 #pragma once
 
 #include <string>
@@ -41,8 +41,8 @@ struct MemoryImport {
 
 // Takes any bytes. Columns are found by their titles in the first line, in any order, in upper or lower case; other
 // columns are ignored. Location (1 to 99) and Frequency (MHz, 0.03 to 75) must be present. A channel without a mode
-// gets the usual side band. A line that cannot be used is refused, and so is a second line for the same channel.
-// Channels that no line names stay unchanged.
+// gets the usual side band. A line of blanks and commas only is skipped. A line that cannot be used is refused, and so
+// is a second line for the same channel. Channels that no line names stay unchanged.
 MemoryImport readMemoryCsv(std::string_view text);
 
 // Whether writing either channel has the same result: blanks around a tag and the contents of an empty row do not

@@ -38,9 +38,9 @@ void MemoryChannels::modeEdited(PopUpButton& sender) {
 std::optional<int> MemoryChannels::acceptDrop(std::string_view plainText, int row) {
     const auto source = decimal(plainText);
     const bool drop = row >= 0 && row <= memoryChannels;
-    if (!drop || !source || *source < 0 || *source >= memoryChannels || read_.repliesAreComing()) return std::nullopt;
+    if (!drop || !source || *source < 0 || *source >= memoryChannels || !rowsMayMove()) return std::nullopt;
     const int destination = dropDestination(*source, row);
-    endHaltedRead();
+    prepareToMoveRows();
     moveChannel(vqMemArray_, *source, destination);
     display_.memoriesTable.reloadData();
     return destination;
@@ -48,8 +48,8 @@ std::optional<int> MemoryChannels::acceptDrop(std::string_view plainText, int ro
 
 bool MemoryChannels::mouseDownInHeader(int column) {
     TableView& table = display_.memoriesTable;
-    if (!table.column(column).sorts || read_.repliesAreComing()) return false;
-    endHaltedRead();
+    if (!table.column(column).sorts || !rowsMayMove()) return false;
+    prepareToMoveRows();
     const SortDirection before = table.sortDirection(column);
     if (column == memoryFrequencyColumn)
         sortByFrequency(vqMemArray_, before);

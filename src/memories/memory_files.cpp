@@ -1,7 +1,6 @@
 // Exporting and importing memory channels. Imported channels reach the transceiver with the next write.
 #include <algorithm>
 
-#include "display/table_columns.h"
 #include "memories/memory_channels.h"
 #include "memories/memory_commands.h"
 
@@ -19,13 +18,23 @@ void MemoryChannels::tell(std::string_view what, std::string_view why) {
 }
 
 void MemoryChannels::exportMemories(Button&) {
+    if (read_.repliesAreComing())
+        return tell("The memory channels are being read", "Wait until they have been read, then export them.");
     if (std::ranges::none_of(vqMemArray_, isProgrammed))
         return tell("There is nothing to export", "No memory channel is programmed. Read memories first.");
-    const auto write = [this](const std::string& path) {
-        const SavedFile file = around_.files.write(path, memoryCsv(vqMemArray_));
+    // The file holds the table as it is now: a read may begin before a file is chosen.
+    const auto write = [this, csv = memoryCsv(vqMemArray_)](const std::string& path) {
+        const SavedFile file = around_.files.write(path, csv);
         if (!file.error.empty()) tell("The memory channels were not exported", file.path + ": " + file.error);
     };
-    around_.files.chooseNew("Export memory channels", kind, "memory-channels.csv", tasks_.guarded(write));
+    const auto choose = [this, write] {
+        around_.files.chooseNew("Export memory channels", kind, "memory-channels.csv", tasks_.guarded(write));
+    };
+    const std::string missing = read_.missing();
+    if (missing.empty()) return choose();
+    around_.alerts.confirm("Export the memory channels that have been read?\n\nThe file will lack the " + missing +
+                               ": they have not been read.",
+                           "Export", tasks_.guarded(choose));
 }
 
 // Every opening of the port starts a read, which would replace imported channels.
@@ -61,11 +70,10 @@ void MemoryChannels::importFile(const std::string& path) {
 void MemoryChannels::takeImportedChannels(const MemoryTable& shown, std::span<const ImportedChannel> channels) {
     if (!canTakeChannels() || vqMemArray_ != shown)
         return voice_.warn("Nothing was imported: the channels have changed meanwhile", "Import the file again.");
-    endHaltedRead();
+    prepareToMoveRows();
     for (const ImportedChannel& imported : channels)
         vqMemArray_.at(static_cast<std::size_t>(imported.row)) = imported.channel;
-    for (const int column : {memoryFrequencyColumn, memoryTagColumn})
-        display_.memoriesTable.setSortDescriptorPrototype(column, {});
+    forgetSorting();
     display_.memoriesTable.reloadData();
     display_.memoryReadField.setStringValue(std::to_string(channels.size()) +
                                             (channels.size() == 1 ? " channel" : " channels") +

@@ -5,6 +5,8 @@
 #include <bitset>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "memories/memory_channel.h"
 #include "memories/memory_commands.h"
@@ -38,22 +40,41 @@ struct MemoryRead {
     bool whole = false;                    // whether the last read was completed
     bool stalled = false;                  // whether the present read waits for an overdue reply
     std::bitset<memoryChannels> answered;  // the rows that the present read has filled
-    ChannelsAsRead asRead;                 // what the transceiver is known to hold
-    bool unsaved = false;                  // whether `asRead` has changed since it was last saved
+    std::bitset<memoryChannels> named;     // the rows whose tag has come since it began
+    ChannelsAsRead asRead;       // what the transceiver is known to hold; a re-read keeps it until replies come
+    unsigned asReadSession = 0;  // the session in which it was reported
+    bool unsaved = false;        // whether `asRead` has changed since it was last saved
 
     MemoryReadStep begin(unsigned inSession);
     MemoryReadStep take(const MemoryReply& reply);
     MemoryReadStep take(const TagReply& reply);
-    void endEarly();  // later replies are not stored
+    void endEarly();                    // later replies are not stored
+    void rowsMove();                    // nor are the replies that are still to come: each names a channel, not a row
+    void forget(unsigned nextSession);  // what was read, and the replies that are still to come
 
     bool running() const { return vqMemRead == "run" || vqTagRead == "run"; }
     bool repliesAreComing() const { return running() && !stalled; }
     int handled() const { return vqMemReadCnt + vqTagReadCnt; }
+    bool wholeIsUnsaved() const { return whole && unsaved && session == asReadSession; }
     MemoryReadProgress progress(const MemoryTable& table) const;
+    // What a read that was not completed leaves out: "channels from M-37 on, and all names". Empty if nothing is known
+    // to be missing.
+    std::string missing() const;
 
 private:
+    struct Request {
+        bool forTag;
+        int channel;
+
+        bool operator==(const Request&) const = default;
+    };
+    std::string ask(const Request& request);
+    bool settle(const Request& replied);
     std::size_t fill(const MemoryReply& reply);
     void finish();
+
+    std::vector<Request> underWay_;  // requests without a reply, in the order in which they were sent
+    std::size_t outdated_ = 0;       // of these, the first ones whose replies are dropped
 };
 
 }  // namespace corvane

@@ -53,11 +53,12 @@ void MemoryChannels::askBeforeWriting() {
         voice_.warn("Nothing was written: the link or the channels have changed meanwhile",
                     "Look at the channels and press Write memories again.");
     };
-    around_.alerts.confirm(question(vqMemArray_, read_.whole), "Write", tasks_.guarded(confirmed));
+    const bool whole = read_.whole && read_.session == link_.session();
+    around_.alerts.confirm(question(vqMemArray_, whole), "Write", tasks_.guarded(confirmed));
 }
 
 void MemoryChannels::writeMemoriesToRadio() {
-    if (!saveMemoriesAsRead()) return;
+    if (!saveBeforeWriting()) return;
     write_.emplace(++writeNumber_, link_.isOpen() ? link_.waitingBytes() : 0);
     for (int row = 0; row < memoryChannels; ++row) {
         const MemoryChannel& channel = vqMemArray_[static_cast<std::size_t>(row)];
@@ -97,15 +98,35 @@ void MemoryChannels::endWriteEarly() {
         display_.memoryReadField.setStringValue(ended.endedEarlyText(link_.waitingBytes()));
 }
 
-bool MemoryChannels::saveMemoriesAsRead() {
+// Each file has a second of its own, so that none replaces another.
+SavedFile MemoryChannels::saveAsRead() {
+    const auto when = std::max(std::chrono::floor<std::chrono::seconds>(tasks_.now()),
+                               std::chrono::floor<std::chrono::seconds>(savedAt_ + 1s));
+    SavedFile file = around_.dataFolder.save(memoryBackupName(when), memoryTableCsv(read_.asRead));
+    if (file.error.empty()) {
+        read_.unsaved = false;
+        saved_ = read_.asRead;
+        savedAt_ = when;
+    }
+    return file;
+}
+
+// A whole read that no file holds, before another read or another session replaces it.
+void MemoryChannels::saveBeforeReplacing() {
+    if (!read_.wholeIsUnsaved() || read_.asRead == saved_) return;
+    if (const SavedFile file = saveAsRead(); !file.error.empty())
+        voice_.warn("The channels that were read before could not be saved", "To " + file.path + ": " + file.error);
+}
+
+bool MemoryChannels::saveBeforeWriting() {
+    forgetOtherSession();
     if (!read_.unsaved) return true;
-    const SavedFile file = around_.dataFolder.save(memoryBackupName(tasks_.now()), memoryTableCsv(read_.asRead));
+    const SavedFile file = saveAsRead();
     if (!file.error.empty()) {
         voice_.warn("Nothing was written: the channels as last read could not be saved",
                     "To " + file.path + ": " + file.error);
         return false;
     }
-    read_.unsaved = false;
     display_.memoryBackupField.setStringValue("The channels as they were are saved in " + file.path);
     return true;
 }

@@ -108,6 +108,17 @@ TEST(Keyer, AnEditorStoresItsTextAndAsksForItBack) {
     }
 }
 
+TEST(Keyer, ARefusedTextLeavesNoMemoryChosen) {
+    KeyerBench bench("MD03;");
+    bench.display.cwMemoryPopUpButton.selectItem(0);
+    bench.display.cwMemoryField.edit("CQ;TX1");
+    bench.display.cwMemoryPopUpButton.choose(3);
+    EXPECT_EQ(bench.display.cwMemoryPopUpButton.indexOfSelectedItem(), 0) << "nothing was stored in memory 3";
+    EXPECT_EQ(bench.display.memoryTextNoticeField.stringValue(), "The transceiver cannot hold \";\".");
+    EXPECT_EQ(bench.display.cwMemoryField.stringValue(), "CQ;TX1");
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
+}
+
 TEST(Keyer, TheClearKeyEmptiesWhatIsTyped) {
     KeyerBench bench("MD03;");
     bench.display.textMemoryField.edit("CQ;");

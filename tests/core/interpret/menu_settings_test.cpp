@@ -106,18 +106,40 @@ TEST(MenuSettingsTest, NumericPopUpsAreFilledOnceAndKeepWhatWasReported) {
         }
         EXPECT_EQ(marks, 1) << each.tag;
     }
-    bench.receive("EX010115077;");
+    bench.receive("EX010115077;EX0104201495;");
     bench.controller.restoreSettings();
     EXPECT_EQ(bench.display.menu.popUp(0, 2010115)->titleOfSelectedItem(), "077");
+    EXPECT_EQ(bench.display.menu.popUp(0, 2010420)->titleOfSelectedItem(), "1495");
     bench.controller.fillMenuPopUp(0, 9, 1, 2010115, 1, 3, 0);  // not on that page
     EXPECT_EQ(bench.display.menu.popUp(0, 2010115)->titles().size(), 101);
+}
+
+TEST(MenuSettingsTest, AValueBetweenTwoEntriesGetsAnEntryOfItsOwn) {
+    RadioBench bench;
+    bench.controller.restoreSettings();
+    PopUpButton& delay = *bench.display.menu.popUp(0, 2010104);  // in steps of 20
+    for (int report = 0; report < 2; ++report) bench.receive("EX0101040250;");
+    EXPECT_EQ(delay.titleOfSelectedItem(), "0250");
+    ASSERT_EQ(delay.titles().size(), 201);
+    EXPECT_EQ(delay.titles().at(11), "0240");
+    EXPECT_EQ(delay.titles().at(13), "0260");
+    bench.receive("EX0101040260;EX0101040021;");
+    EXPECT_EQ(delay.titles().at(1), "0021");
+    bench.takeWrites();
+    delay.choose(13);
+    EXPECT_THAT(bench.takeWrites(), ::testing::ElementsAre("EX0101040250;"));
+
+    PopUpButton& shift = *bench.display.menu.popUp(0, 2010420);  // its default is marked
+    bench.receive("EX0104201495;");
+    EXPECT_EQ(shift.titleOfSelectedItem(), "1495");
+    EXPECT_EQ(shift.titles().at(151), "1500");
+    EXPECT_EQ(shift.itemImage(150), Image::none);
+    EXPECT_EQ(shift.itemImage(151), Image::NSImageNameStatusPartiallyAvailable);
 }
 
 TEST(MenuSettingsTest, AReportThatSaysNothingChangesNothing) {
     RadioBench bench;
     bench.controller.restoreSettings();
-    bench.receive("EX0101040250;");
-    ASSERT_EQ(bench.display.menu.popUp(0, 2010104)->titleOfSelectedItem(), "") << "no such entry: the steps are 20";
     bench.receive("EX0101040260;EX01010712;EX0101081;");
     const auto shown = [&] {
         Texts titles;
@@ -128,8 +150,9 @@ TEST(MenuSettingsTest, AReportThatSaysNothingChangesNothing) {
     const Texts before = shown();
     ASSERT_EQ(bench.display.menu.popUp(0, 2010107)->indexOfSelectedItem(), 12);
     for (const char* report :
-         {"EX;", "EX0101;", "EX010104;", "EX010104026;", "EX0101041;", "EX010107xx;", "EX010107-1;", "EX01010799;",
-          "EX0101089;", "EX010108;", "EX010120000;", "EX990101000;", "EX+1010400;", "EX0106011;", "EX01010\xc3\xa9;"})
+         {"EX;", "EX0101;", "EX010104;", "EX010104026;", "EX0101041;", "EX0101040019;", "EX0101044001;",
+          "EX010104+250;", "EX010107xx;", "EX010107-1;", "EX01010799;", "EX0101089;", "EX010108;", "EX010120000;",
+          "EX990101000;", "EX+1010400;", "EX0106011;", "EX01010\xc3\xa9;"})
         bench.receive(report);
     EXPECT_EQ(shown(), before);
     bench.receive("EX01010403609;");  // characters after the value are ignored
@@ -159,7 +182,7 @@ TEST(MenuSettingsTest, ReadingAGroupTellsHowFarItIs) {
     EXPECT_EQ(field.stringValue(), "Reading 0 of 104 items");
     EXPECT_TRUE(progress.visible());
     bench.settle();
-    EXPECT_EQ(field.stringValue(), "104 items read");
+    EXPECT_EQ(field.stringValue(), "93 items read, 11 not shown") << "the encoders and decoders are only written";
     EXPECT_FALSE(progress.visible());
 
     // A transceiver without some sub-menus, one that stops answering, and a link that is closed.
@@ -174,6 +197,12 @@ TEST(MenuSettingsTest, ReadingAGroupTellsHowFarItIs) {
     EXPECT_EQ(bench.display.menu.readField(3).stringValue(), "14 items read, 2 unknown to this transceiver");
     bench.receive("?;");
     EXPECT_EQ(bench.display.menu.readField(3).stringValue(), "14 items read, 2 unknown to this transceiver");
+    EXPECT_FALSE(bench.display.menu.readProgress(3).visible());
+
+    // A value that no entry has is not read.
+    bench.display.key(2020100).performClick();
+    bench.receive("EX020107x;EX0201029999;EX020101+00;");
+    EXPECT_EQ(bench.display.menu.readField(1).stringValue(), "Reading 1 of 31 items");
 
     bench.display.key(2020100).performClick();
     bench.receive("EX020101+00;");

@@ -10,12 +10,13 @@
 namespace corvane {
 namespace {
 
+using namespace std::chrono_literals;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
 const std::string titles =
-    "Location,Name,Frequency,Duplex,Offset,Tone,rToneFreq,cToneFreq,DtcsCode,DtcsPolarity,Mode,TStep,Skip,Comment,"
-    "URCALL,RPT1CALL,RPT2CALL,DVCODE\r\n";
+    "Location,Name,Frequency,Duplex,Offset,Tone,rToneFreq,cToneFreq,DtcsCode,DtcsPolarity,RxDtcsCode,"
+    "CrossMode,Mode,TStep,Skip,Power,Comment,URCALL,RPT1CALL,RPT2CALL,DVCODE\r\n";
 
 // A channel in every mode, with names that are hard to quote.
 MemoryTable everyMode() {
@@ -60,9 +61,10 @@ TEST(MemoryCsv, HoldsTheProgrammedChannelsInTheColumnsOfTheTools) {
     table[4] = {"007074000", "C", "40M, FT8    "};
     table[98] = {"014070000", "E", ""};
     table[5] = {"000000000", "2", "no frequency"};
-    EXPECT_EQ(memoryCsv(table), titles +
-                                    "5,\"40M, FT8\",7.074000,,0.000000,,88.5,88.5,023,NN,DIG,5.00,,,,,,\r\n"
-                                    "99,,14.070000,,0.000000,,88.5,88.5,023,NN,DIG,5.00,,PSK,,,,\r\n");
+    EXPECT_EQ(memoryCsv(table),
+              titles +
+                  "5,\"40M, FT8\",7.074000,,0.000000,,88.5,88.5,023,NN,023,Tone->Tone,DIG,5.00,,50W,,,,,\r\n"
+                  "99,,14.070000,,0.000000,,88.5,88.5,023,NN,023,Tone->Tone,DIG,5.00,,50W,PSK,,,,\r\n");
 }
 
 TEST(MemoryCsv, ComesBackAsItWasInEveryMode) {
@@ -96,6 +98,8 @@ TEST(MemoryCsv, TakesWhatItCanAndSaysWhyNotTheRest) {
         {"Location;Frequency\n", {"Its first line has no column \"Location\".", {}, {}}},
         {"location\n", {"Its first line has no column \"Frequency\".", {}, {}}},
         {"Location,Frequency\n", {}},
+        {" ,, \n,,\n", {"The file is empty.", {}, {}}},
+        {",,\nLocation,Frequency,Mode\n \t,,\n,,,,,\n3,7.1,LSB\n,,\n", {"", {taken(5, 2, {"007100000", "1", ""})}, {}}},
         // another order, other columns, lower case, no Name; the usual side band if there is no mode
         {"\xef\xbb\xbf"
          "FREQUENCY ,Power,location\r\n7.1,5W, 09 \r\n14,5W,10\r\n",
@@ -171,6 +175,41 @@ TEST(MemoryCsv, TellsWhatAWriteWouldChange) {
     for (const MemoryChannel& other :
          {MemoryChannel{}, {"014074001", "C", "20M FT8"}, {"014074000", "2", "20M FT8"}, {"014074000", "C", "20M"}})
         EXPECT_FALSE(sameChannel(channel, other));
+}
+
+TEST(MemoryExport, SaysWhatTheTableLacks) {
+    TestBench bench;
+    bench.around.alerts.agree = false;
+    bench.around.files.choice = "/out.csv";
+    std::vector<std::string>& alerts = bench.around.alerts.shown;
+    std::string& exported = bench.around.files.files["/out.csv"];
+    const auto press = [&] {
+        alerts.clear();
+        bench.display.exportMemoriesButton.performClick();
+        return alerts.empty() ? "" : alerts[0];
+    };
+    EXPECT_THAT(press(), HasSubstr("There is nothing to export"));
+    bench.outlastOpening();
+    bench.display.readMemoriesButton.performClick();
+    EXPECT_THAT(press(), HasSubstr("are being read"));
+    for (const char* reply : {"MR001014250000+000000210000;", "MR001014250000+000000210000;", "?;"})
+        bench.receive(reply);
+    EXPECT_THAT(press(), HasSubstr("are being read"));
+    bench.advance(7s);
+    EXPECT_THAT(press(), HasSubstr("lack the channels from M-03 on, and all names:"));
+    bench.display.readMemoriesButton.performClick();
+    bench.around.alerts.answerLast();
+    EXPECT_THAT(exported, HasSubstr("\r\n1,,14.250000,")) << "as it was when the key was pressed";
+
+    for (int reply = 0; reply < 100; ++reply) bench.receive("MR005007074000+000000210000;");
+    bench.display.openCloseButton.performClick();
+    EXPECT_THAT(press(), HasSubstr("lack the names from M-01 on:"));
+    exported.clear();
+    bench.display.openCloseButton.performClick();
+    bench.display.readMemoriesButton.performClick();
+    for (int reply = 0; reply < 200; ++reply) bench.receive("MR005007074000+000000210000;MT0051FT8         ;");
+    EXPECT_EQ(press(), "");
+    EXPECT_THAT(exported, HasSubstr("\r\n5,FT8,7.074000,"));
 }
 
 struct ImportBench : RadioBench {

@@ -143,6 +143,17 @@ TEST(MemoryRead, RepliesThatSayNothingMoveTheChainAndChangeNothing) {
     }
 }
 
+// An empty row would be erased by a write; this one the transceiver refuses, and keeps the channel.
+TEST(MemoryRead, AShortReplyFillsItsRowWithTheCharactersItHas) {
+    TestBench bench;
+    bench.display.readMemoriesButton.performClick();
+    bench.takeWrites();
+    bench.receive("MR00501425;");
+    EXPECT_EQ(bench.controller.memories.vqMemArray()[4], (MemoryChannel{"R00501425", "5", ""}));
+    EXPECT_EQ(bench.display.memoriesTable.cell(4, 2), "");
+    EXPECT_THAT(bench.takeWrites(), ElementsAre("MR001;"));
+}
+
 TEST(MemoryRead, ATagThatComesUnaskedIsTaken) {
     TestBench bench;
     bench.receive("MT0071MY CHANNEL  ;MT1001NOT IN TABLE;");

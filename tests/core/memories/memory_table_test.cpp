@@ -7,6 +7,7 @@
 #include "memories/memory_order.h"
 #include "memories/table_cells.h"
 #include "tests/support/radio_bench.h"
+#include "wire/cat_command.h"
 #include "wire/operating_modes.h"
 
 namespace corvane {
@@ -219,6 +220,9 @@ TEST(MemoryTable, AnEditOrAReadForgetsThatItWasSortedByFrequency) {
     table.pressHeader(tagColumn);
     table.editCell(5, frequencyColumn, "7.1");
     EXPECT_EQ(directions().second, SortDirection::ascending);
+    bench.display.readMemoriesButton.performClick();
+    bench.settle();
+    EXPECT_EQ(directions(), none) << "the rows stand in the order of the channels";
 }
 
 TEST(MemoryTable, SortingIsStableWhateverTheRowsHold) {
@@ -264,9 +268,19 @@ TEST(MemoryTable, RowsStayInPlaceWhileAReadIsUnderWay) {
         const bool sorted = table.version() > version;
         return std::pair{sorted, table.drop("0", 2).has_value()};
     };
-    bench.display.readMemoriesButton.performClick();
+    constexpr std::string_view note = ". Rows can be moved and sorted once all have been read.";
+    const auto message = [&] { return bench.display.memoryReadField.stringValue(); };
+    for (const std::function<void()>& move :
+         {std::function<void()>([&] { table.pressHeader(tagColumn); }), {[&] { table.drop("0", 2); }}}) {
+        bench.display.readMemoriesButton.performClick();
+        EXPECT_THAT(message(), testing::Not(testing::EndsWith(note)));
+        move();
+        bench.receive("?;");
+        EXPECT_THAT(message(), testing::EndsWith(note)) << "still after the next reply";
+    }
     EXPECT_EQ(moves(), std::pair(false, false));
     bench.settle();
+    EXPECT_THAT(message(), testing::EndsWith(" empty"));
     EXPECT_EQ(moves(), std::pair(true, true));
 
     bench.port->onWrite = {};  // nothing answers
@@ -276,24 +290,49 @@ TEST(MemoryTable, RowsStayInPlaceWhileAReadIsUnderWay) {
     EXPECT_EQ(moves(), std::pair(true, true)) << "a read that has stopped blocks nothing";
 }
 
-// Late replies of a stopped read name channels, and their rows may have moved.
+// Late replies of a stopped read name channels, and their rows may have moved. As many are dropped as were asked for.
 TEST(MemoryTable, AMoveEndsAHaltedRead) {
-    TableBench bench;
-    bench.outlastOpening();
-    bench.display.readMemoriesButton.performClick();
-    bench.receive("MR001014250000+000000210000;");
-    bench.advance(7s);  // no further answer
-    bench.name({"1", "2", "3"});
-    EXPECT_EQ(bench.table.drop("0", 3), 2);
-    EXPECT_TRUE(bench.display.memoryReadField.stringValue().starts_with("Reading ended early"));
-    EXPECT_FALSE(bench.display.memoryReadProgress.visible());
-    const MemoryTable moved = bench.rows;
-    bench.takeWrites();
-    for (const char* late : {"MR002007100000+000000110000;", "?;", "MT0021LATE        ;"}) bench.receive(late);
-    EXPECT_THAT(bench.takeWrites(), IsEmpty());
-    EXPECT_EQ(bench.row(0).frequency, moved[0].frequency);
-    EXPECT_EQ(bench.row(1).frequency, moved[1].frequency);
-    EXPECT_FALSE(bench.controller.memories.read().whole);
+    for (const bool names : {false, true}) {
+        TableBench bench;
+        bench.outlastOpening();
+        bench.display.readMemoriesButton.performClick();
+        for (int reply = 0; reply < (names ? 100 : 0) + 2; ++reply) bench.receive("?;");
+        bench.advance(7s);  // no further answer
+        bench.name({"1", "2", "3"});
+        EXPECT_EQ(bench.table.drop("0", 3), 2);
+        EXPECT_TRUE(bench.display.memoryReadField.stringValue().starts_with("Reading ended early"));
+        EXPECT_FALSE(bench.display.memoryReadProgress.visible());
+        const MemoryTable moved = bench.rows;
+        bench.takeWrites();
+        const char* late = names ? "MT0021LATE        ;" : "MR002007100000+000000110000;";
+        bench.receive("?;");
+        bench.receive(late);
+        EXPECT_THAT(bench.takeWrites(), IsEmpty());
+        EXPECT_EQ(bench.rows, moved);
+        EXPECT_EQ(bench.radio.vqMemFreq, "") << "it is not about the channel in use";
+        EXPECT_FALSE(bench.controller.memories.read().whole);
+        bench.receive(late);  // this one was not asked for
+        EXPECT_EQ(bench.row(1).tag == "LATE        ", names);
+        EXPECT_EQ(bench.radio.vqMemFreq, names ? "" : "007100000");
+    }
+}
+
+// An error response to another command is counted, so that the reply for the last tag comes after the read has ended.
+TEST(MemoryTable, AReplyAfterAWholeReadFillsNoRowThatHasMoved) {
+    for (const bool moved : {false, true}) {
+        TableBench bench;
+        bench.outlastOpening();
+        bench.display.readMemoriesButton.performClick();
+        for (int reply = 0; reply < 100; ++reply) bench.receive("?;");
+        bench.receive("?;MT0011FIRST       ;");
+        for (int channel = 1; channel <= 98; ++channel) bench.receive("MT" + zeroPadded(channel, 3) + "1            ;");
+        ASSERT_TRUE(bench.controller.memories.read().whole);
+        if (moved) bench.table.pressHeader(tagColumn);
+        bench.receive("MT0991LAST        ;");
+        EXPECT_EQ(bench.row(98).tag == "LAST        ", !moved);
+        bench.receive("MT0991UNASKED     ;");
+        EXPECT_EQ(bench.row(98).tag, "UNASKED     ");
+    }
 }
 
 // Before a write the channels are saved as the transceiver reported them.

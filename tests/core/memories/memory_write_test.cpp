@@ -94,6 +94,76 @@ TEST(MemoryWrite, SavesWhatWasReadBeforeItIsWrittenOver) {
     EXPECT_EQ(files.size(), 2U);
 }
 
+// The files of saved channels, in the order of their names.
+std::vector<std::string> savedChannels(const TestBench& bench) {
+    std::vector<std::string> contents;
+    for (const auto& file : bench.around.dataFolder.files) contents.push_back(file.second);
+    return contents;
+}
+
+struct RereadBench : RadioBench {
+    RereadBench() {
+        advance(13s);  // the opening's own read
+        settle();
+    }
+    // Reads again, until the transceiver falls silent at this request.
+    void readUntil(std::string_view request) {
+        port->onWrite = [request, serve = port->onWrite, silent = false](std::string_view bytes) mutable {
+            if (silent = silent || bytes == request; !silent) serve(bytes);
+        };
+        display.readMemoriesButton.performClick();
+        settle();
+    }
+};
+
+TEST(MemoryWrite, SavesTheNamesThatAnInterruptedReadHasNotComeTo) {
+    RereadBench bench;
+    ASSERT_TRUE(bench.transceiver.programChannel(1, {{7'030'500, '3'}, "NEW NAME"}));
+    bench.readUntil("MT001;");
+    bench.display.writeMemoriesButton.performClick();
+    const std::vector<std::string> files = savedChannels(bench);
+    ASSERT_EQ(files.size(), 2U) << "one of the whole read, in the same second";
+    EXPECT_THAT(files[0], HasSubstr("\n1,20M PHONE,14.250000,USB,"));
+    EXPECT_THAT(files[1], HasSubstr("\n1,20M PHONE,7.030500,CW-U,"));
+}
+
+TEST(MemoryWrite, AWholeReadThatNoFileHoldsIsSavedBeforeAnotherReplacesIt) {
+    RereadBench bench;
+    const auto read = [&] {
+        bench.display.readMemoriesButton.performClick();
+        bench.settle();
+    };
+    read();
+    EXPECT_EQ(savedChannels(bench).size(), 1U);
+    read();
+    EXPECT_EQ(savedChannels(bench).size(), 1U) << "a file holds the same channels already";
+    ASSERT_TRUE(bench.transceiver.programChannel(2, {{7'030'500, '3'}, "CW"}));
+    read();
+    EXPECT_EQ(savedChannels(bench).size(), 1U);
+    bench.around.dataFolder.failure = "No space left on device.";
+    read();
+    EXPECT_THAT(bench.around.alerts.shown, ElementsAre(HasSubstr("No space left on device.")));
+    EXPECT_TRUE(bench.controller.memories.read().whole) << "the read went on";
+}
+
+TEST(MemoryWrite, ChannelsOfAnotherSessionAreNoPartOfWhatIsSaved) {
+    RereadBench bench;
+    bench.display.openCloseButton.performClick();
+    bench.display.openCloseButton.performClick();
+    bench.transceiver.programChannel(90, {{7'030'500, '3'}, "OTHER RADIO"});
+    bench.around.alerts.agree = false;
+    bench.display.writeMemoriesButton.performClick();
+    EXPECT_THAT(bench.around.alerts.shown.back(), HasSubstr("have not been read to the end"));
+    bench.around.alerts.agree = true;
+    bench.readUntil("MR002;");
+    EXPECT_EQ(savedChannels(bench).size(), 1U) << "of the first session";
+    bench.advance(1s);
+    bench.display.writeMemoriesButton.performClick();
+    const std::vector<std::string> files = savedChannels(bench);
+    ASSERT_EQ(files.size(), 2U);
+    EXPECT_EQ(files[1], "Location,Name,Frequency,Mode,Record\n1,,14.250000,USB,+000000210000\n");
+}
+
 TEST(MemoryWrite, SucceedsOnceItsLastByteHasLeft) {
     TestBench bench;
     bench.outlastOpening();
