@@ -156,6 +156,14 @@ void MainWindow::chooseTheme(const QString& name) {
     Theme::apply(name == "light" ? ThemeKind::light : ThemeKind::dark);
 }
 
+void MainWindow::comeToFront(const QString& token) {
+    if (!token.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());  // Qt's Wayland plugin takes it from there
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
 bool MainWindow::event(QEvent* event) {
     const bool handled = QMainWindow::event(event);
     if (event->type() == QEvent::Paint && !painted_) {

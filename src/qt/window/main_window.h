@@ -15,6 +15,9 @@ public:
     // Shows the controller's controls; it must outlive the window.
     explicit MainWindow(SerialPortDemoController& controller);
 
+    // For another start of the program. `token` is the desktop's permission to take the keyboard; it may be empty.
+    void comeToFront(const QString& token);
+
 signals:
     void firstPainted();  // once, after the window's first paint
 
