@@ -12,12 +12,12 @@ CheckIn::Next CheckIn::take(Event event) {
     const bool confirm = kind_ == Kind::confirm;
     switch (event) {
         case Event::begun:
-            return confirm ? Next::announce : Next::nothing;
-        case Event::answered:
-            if (confirm) return Next::nothing;
-            [[fallthrough]];
+            return confirm ? Next::announce : Next::holdList;
         case Event::timePassed:
-            return std::exchange(fetched_, true) ? Next::nothing : Next::fetchList;
+            if (confirm) return Next::fetchList;
+            [[fallthrough]];
+        case Event::answered:
+            return confirm || std::exchange(released_, true) ? Next::nothing : Next::releaseList;
         case Event::listShown:
             return confirm ? Next::nothing : Next::announce;
     }

@@ -30,7 +30,7 @@ void showValue(TextField& field, std::string_view text, Color color) {
 Conditions::Conditions(Display& display, HttpClient& http, Scheduler& scheduler, const ServiceHosts& hosts)
     : display_(display), hosts_(hosts), tasks_(scheduler), refresh_(http, tasks_) {}
 
-void Conditions::fetch(std::function<void()> then) {
+void Conditions::fetch(RefreshEnd end) {
     HttpRequest request;
     request.url = std::string(hosts_.solarData).append(path);
     display_.bandStatusField.setStringValue("Refreshing\u2026");
@@ -41,7 +41,7 @@ void Conditions::fetch(std::function<void()> then) {
             display_.bandStatusField.setStringValue(clockTime(tasks_.now()) + (problem.empty() ? "" : ": " + problem));
         };
     };
-    refresh_.start(request, read, std::move(then));
+    refresh_.start(request, read, std::move(end));
 }
 
 void Conditions::show(const BandConditions& conditions) {

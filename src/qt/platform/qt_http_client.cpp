@@ -72,11 +72,12 @@ std::string problemOf(const QNetworkReply& reply, const QList<QSslError>& sslErr
 class Exchange : public QObject {
 public:
     Exchange(QNetworkReply* reply, std::chrono::milliseconds timeout, std::function<void(HttpResponse)> ended)
-        : QObject(reply), reply_(reply), ended_(std::move(ended)) {
+        : QObject(reply), reply_(reply), at_(reply->url()), ended_(std::move(ended)) {
         connect(reply, &QNetworkReply::readyRead, this, [this] { collect(); });
         connect(reply, &QNetworkReply::finished, this, [this] { end(problemOf(*reply_, sslErrors_)); });
         connect(reply, &QNetworkReply::sslErrors, this,
                 [this](const QList<QSslError>& errors) { sslErrors_ = errors; });
+        connect(reply, &QNetworkReply::redirected, this, [this](const QUrl& target) { redirect(target); });
         // Qt's transfer time-out restarts with every byte, so a slow trickle would never end.
         deadline_.setSingleShot(true);
         connect(&deadline_, &QTimer::timeout, this, [this] { end("no answer in time"); });
@@ -96,6 +97,18 @@ private:
         end("the answer is larger than 8 MiB");
     }
 
+    // Asked only for a request with a key: Qt would send the key on to wherever a redirect leads.
+    void redirect(const QUrl& target) {
+        const QNetworkRequest& asked = reply_->request();
+        if (asked.attribute(QNetworkRequest::RedirectPolicyAttribute) != QNetworkRequest::UserVerifiedRedirectPolicy)
+            return;
+        const bool lessSafe = at_.scheme() == QLatin1String("https") && target.scheme() != QLatin1String("https");
+        if (lessSafe) return end("redirected to an unsafe address");
+        if (target.host() != at_.host()) return end("redirected to another server");
+        at_ = target;
+        emit reply_->redirectAllowed();
+    }
+
     void end(std::string problem) {
         const auto ended = std::exchange(ended_, {});
         disconnect(reply_, nullptr, this, nullptr);
@@ -110,6 +123,7 @@ private:
     }
 
     QNetworkReply* reply_;
+    QUrl at_;  // the reply itself tells the target before it has been allowed
     std::function<void(HttpResponse)> ended_;
     QList<QSslError> sslErrors_;
     QByteArray body_;
@@ -132,6 +146,10 @@ HttpClient::Cancel QtHttpClient::send(const HttpRequest& request, Completed comp
     }
     if (!request.contentType.empty())
         asked.setRawHeader("Content-Type", QByteArray::fromStdString(request.contentType));
+    if (!request.key.empty()) {
+        asked.setRawHeader("Authorization", "Bearer " + QByteArray::fromStdString(request.key));
+        asked.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
+    }
     QNetworkReply* reply = request.method == "POST" ? manager().post(asked, QByteArray::fromStdString(request.body))
                                                     : manager().get(asked);
     const auto wanted = std::make_shared<std::atomic<bool>>(true);

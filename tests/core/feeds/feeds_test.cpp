@@ -205,43 +205,96 @@ TEST(TuneCommand, FollowsTheRowsWordsAndUnits) {
     }
 }
 
+struct CheckInBench : FeedBench {
+    CheckInBench() {
+        controller.lists.setRows(listFeed(Feed::nets),
+                                 {{{"", "", "", "", "", "", ""}}, {{"Noon Net", "3.940", "", "LSB", "", "", "7"}}});
+    }
+    void confirm(int row) { display.netsTable.pressCell(row, 6); }
+    void retract(int row) { display.netsTable.pressCell(row, 7); }
+    std::string key() const { return around.settings.values.at("operator"); }
+    // "1", "0" for check-ins, "list" for a request for the list; since the last call.
+    std::vector<std::string> takeAsked() {
+        std::vector<std::string> asked;
+        for (const HttpRequest& request : std::exchange(http.requests, {}))
+            asked.push_back(request.method == "POST" ? request.body.substr(10, 1) : "list");
+        return asked;
+    }
+};
+
 TEST(CheckIns, ArePostedSpokenAndSeenInTheDirectory) {
-    FeedBench bench;
-    bench.controller.lists.setRows(listFeed(Feed::nets),
-                                   {{{"", "", "", "", "", "", ""}}, {{"Noon Net", "3.940", "", "LSB", "", "", "7"}}});
-    TableView& table = bench.display.netsTable;
-    table.pressCell(1, 6);
-    const std::string key = bench.around.settings.values["operator"];
+    CheckInBench bench;
+    bench.confirm(1);
+    const std::string key = bench.key();
     EXPECT_EQ(key.size(), 32U);
-    HttpRequest post{.method = "POST",
-                     .url = "http://127.0.0.1:8073/netconf.php",
-                     .timeout = 30s,
-                     .ignoreCaches = true,
-                     .contentType = "Application/json",
-                     .body = R"({"action":1,"key":")" + key + R"(","net_id":"7"})"};
+    const HttpRequest post{.method = "POST",
+                           .url = "http://127.0.0.1:8073/netconf.php",
+                           .timeout = 30s,
+                           .ignoreCaches = true,
+                           .contentType = "Application/json",
+                           .key = key,
+                           .body = R"({"action":1,"key":")" + key + R"(","net_id":"7"})"};
     EXPECT_EQ(bench.http.requests.at(0), post);
     EXPECT_THAT(bench.takeSpoken(), ElementsAre("thank you for confirming Noon Net"));
     bench.advance(1999ms);
     EXPECT_EQ(bench.http.requests.size(), 1U);
     bench.advance(1ms);
-    EXPECT_EQ(bench.http.requests.back().url, "http://127.0.0.1:8073/nets.php?key=" + key);
-    bench.http.answer(1, {nets, ""});
+    EXPECT_EQ(bench.http.requests.at(1).url, "http://127.0.0.1:8073/nets.php");
+    EXPECT_EQ(bench.http.requests.at(1).key, key);
+}
 
-    // Another refresh of the list does not lose the announcement.
-    table.pressCell(0, 7);
-    post.body = R"({"action":0,"key":")" + key + R"(","net_id":"7"})";
-    EXPECT_EQ(bench.http.requests.at(2), post);
-    bench.http.answer(2, {"", "status 500"});
-    EXPECT_EQ(bench.http.requests.back().url, "http://127.0.0.1:8073/nets.php?key=" + key);
+TEST(CheckIns, LeaveInTheOrderOfThePresses) {
+    CheckInBench bench;
+    bench.confirm(1);
+    bench.confirm(0);
+    bench.retract(1);
+    EXPECT_EQ(bench.display.netsTable.rows(), 0) << "emptied at once";
+    bench.http.answer(0, {"", "no answer in time"});
+    bench.http.answer(1, {});
+    EXPECT_THAT(bench.takeAsked(), ElementsAre("1", "1", "0"));
+    bench.takeSpoken();
+    // Other refreshes wait for the check-in, too, and do not lose its announcement.
+    bench.press(814);
+    bench.press(814);
+    EXPECT_THAT(bench.takeAsked(), IsEmpty());
+    bench.http.answer(2, {});
+    EXPECT_THAT(bench.takeAsked(), ElementsAre("list"));
     EXPECT_THAT(bench.takeSpoken(), IsEmpty());
-    bench.controller.fetchNets();
-    bench.http.answer(4, {nets, ""});
+    bench.http.answer(3, {nets, ""});
+    EXPECT_EQ(bench.display.netsTable.rows(), 1);
     EXPECT_THAT(bench.takeSpoken(), ElementsAre("your confirmation of this net has been retracted"));
+    EXPECT_THAT(bench.takeSounds(), ElementsAre("file Funk"));
+}
 
-    // A malformed key, written into the settings by hand, is put into no address.
-    bench.around.settings.values["operator"] = "me&all=1";
-    bench.controller.fetchNets();
-    EXPECT_EQ(bench.http.requests.back().url, "http://127.0.0.1:8073/nets.php");
+TEST(CheckIns, ARetractionShowsTheListWithinTwoSeconds) {
+    CheckInBench bench;
+    bench.confirm(0);
+    bench.advance(500ms);
+    bench.retract(1);
+    bench.advance(999ms);
+    EXPECT_THAT(bench.takeAsked(), ElementsAre("1"));
+    bench.advance(1ms);
+    EXPECT_THAT(bench.takeAsked(), ElementsAre("list"));
+    bench.advance(999ms);  // the time of the confirmation has come meanwhile
+    EXPECT_THAT(bench.takeSpoken(), ElementsAre("thank you for confirming "));
+    bench.advance(1ms);
+    EXPECT_THAT(bench.takeSpoken(), ElementsAre("your confirmation of this net has been retracted"));
+    EXPECT_EQ(bench.display.netsStatusField.stringValue(), "00:00 UTC: no answer within 2 s");
+    EXPECT_THAT(bench.takeAsked(), IsEmpty());
+}
+
+TEST(OperatorKey, ThatIsDamagedGoesNowhereAndIsRenewed) {
+    for (const std::string damaged :
+         {"me&all=1", "0123456789ABCDEF0123456789ABCDEF", "0123456789abcdef0123456789abcdef "}) {
+        CheckInBench bench;
+        bench.around.settings.values["operator"] = damaged;
+        bench.controller.fetchNets();
+        EXPECT_EQ(bench.http.requests.back().key, "");
+        bench.controller.lists.setRows(listFeed(Feed::nets), {{{"Noon Net", "", "", "", "", "", "7"}}});
+        bench.confirm(0);
+        EXPECT_THAT(bench.key(), testing::MatchesRegex("[0-9a-f]{32}")) << damaged;
+        EXPECT_EQ(bench.http.requests.back().key, bench.key());
+    }
 }
 
 TEST(FeedCells, ShowKilohertzMinutesAndDashes) {
