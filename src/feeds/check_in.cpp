@@ -3,9 +3,6 @@
 #include <nlohmann/json.hpp>
 #include <utility>
 
-#include "feeds/feed_row.h"
-#include "wire/utf8.h"
-
 namespace corvane {
 
 CheckIn::Next CheckIn::take(Event event) {
@@ -31,7 +28,7 @@ std::string CheckIn::body(const std::string& operatorKey) const {
 
 std::string CheckIn::announcement() const {
     if (kind_ == Kind::retract) return "your confirmation of this net has been retracted";
-    return "thank you for confirming " + std::string(utf8Prefix(name_, longestSpokenName));
+    return "thank you for confirming " + name_;
 }
 
 }  // namespace corvane

@@ -6,14 +6,12 @@
 
 #include "feeds/band_conditions.h"
 #include "feeds/clock_time.h"
-#include "wire/utf8.h"
 
 namespace corvane {
 
 namespace {
 
 constexpr std::string_view path = "/solarxml.php";
-constexpr std::size_t longestValue = 40;  // characters; the values of the service are shorter
 
 Color conditionColor(std::string_view value) {
     if (value == "Good") return Color::green;
@@ -21,7 +19,7 @@ Color conditionColor(std::string_view value) {
 }
 
 void showValue(TextField& field, std::string_view text, Color color) {
-    field.setStringValue(utf8Prefix(text, longestValue));
+    field.setStringValue(text);
     field.setTextColor(color);
 }
 
@@ -48,7 +46,7 @@ void Conditions::show(const BandConditions& conditions) {
     const std::array fields{&display_.day8040Field,   &display_.day3020Field,   &display_.day1715Field,
                             &display_.day1210Field,   &display_.night8040Field, &display_.night3020Field,
                             &display_.night1715Field, &display_.night1210Field};
-    display_.bandBox.setTitle("Band Conditions - " + std::string(utf8Prefix(conditions.heading, longestValue)));
+    display_.bandBox.setTitle("Band Conditions - " + conditions.heading);
     showValue(display_.solarFluxField, conditions.solarFlux, Color::green);
     for (std::size_t i = 0; i < fields.size(); ++i)
         showValue(*fields[i], conditions.bands[i], conditionColor(conditions.bands[i]));

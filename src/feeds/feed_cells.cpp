@@ -9,7 +9,6 @@
 
 #include "platform/web_address.h"
 #include "wire/decimal_number.h"
-#include "wire/utf8.h"
 
 namespace corvane {
 
@@ -29,7 +28,6 @@ struct CellRow {
     Link link = nullptr;
 };
 
-constexpr std::size_t longestCell = 200;  // characters
 constexpr double mostShown = 1e12;
 
 double shownNumber(std::string_view field) {
@@ -112,10 +110,7 @@ const CellRow* cellRow(Feed feed, std::string_view column, const FeedRow& row) {
     return cell == cells.end() || cell->position >= row.fields.size() ? nullptr : &*cell;
 }
 
-std::string shownText(const CellRow& cell, const FeedRow& row) {
-    const std::string& field = row[cell.position];
-    return cell.show(field.size() <= longestCell ? field : utf8Prefix(field, longestCell));
-}
+std::string shownText(const CellRow& cell, const FeedRow& row) { return cell.show(row[cell.position]); }
 
 }  // namespace
 
