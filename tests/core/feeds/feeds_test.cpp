@@ -28,6 +28,20 @@ struct FeedBench : TestBench {
         forgetWhatHappened();
         around.http = {};
     }
+    // Answers the n-th request. What decodes it must leave the rooms alone: ThreadSanitizer sees when it does not, and
+    // so do we if a control changes.
+    void answer(std::size_t index, HttpResponse response) {
+        takeChanges();
+        const auto rest = http.decode(index, std::move(response), [this] {
+            for (const ListFeed& feed : listFeeds) {
+                (display.*feed.table).rows();
+                (display.*feed.status).setStringValue((display.*feed.status).stringValue());
+            }
+            display.bandStatusField.setStringValue(display.bandStatusField.stringValue());
+        });
+        EXPECT_THAT(takeChanges(), IsEmpty()) << "decoding changes a control";
+        rest();
+    }
     RecordingHttpClient& http = around.http;
 };
 
@@ -54,7 +68,7 @@ TEST(Feeds, ARefreshEmptiesTheListAndTakesItsAnswerAtOnce) {
     plain.url = "https://api.pota.app/spot/activator";
     EXPECT_EQ(bench.http.requests.at(0), plain);
     bench.advance(1s);
-    bench.http.answer(0, {spots, ""});
+    bench.answer(0, {spots, ""});
     ASSERT_EQ(bench.display.potaTable.rows(), 1);
     EXPECT_EQ(bench.display.potaTable.cell(0, 2), "7185.5");
     EXPECT_EQ(bench.display.potaStatusField.stringValue(), "00:00 UTC: 1 spot");
@@ -73,15 +87,15 @@ TEST(Feeds, WhatComesLateOrForAnEarlierRefreshIsDropped) {
     bench.advance(1ms);
     EXPECT_EQ(bench.display.potaStatusField.stringValue(), "00:00 UTC: no answer within 2 s");
     EXPECT_THAT(bench.http.cancelled, ElementsAre(0));
-    bench.http.answer(0, {spots, ""});
+    bench.answer(0, {spots, ""});
     EXPECT_EQ(bench.display.potaTable.rows(), 0);
 
     bench.press(811);
     bench.press(811);
     EXPECT_THAT(bench.http.cancelled, ElementsAre(0, 1));
-    bench.http.answer(1, {spots, ""});
+    bench.answer(1, {spots, ""});
     EXPECT_EQ(bench.display.potaTable.rows(), 0);
-    bench.http.answer(2, {spots, ""});
+    bench.answer(2, {spots, ""});
     EXPECT_EQ(bench.display.potaTable.rows(), 1);
 }
 
@@ -97,7 +111,7 @@ TEST(Feeds, TheLineBesideAListSaysWhatWentWrong) {
     for (const auto& [response, line] : cases) {
         FeedBench bench;
         bench.controller.fetchPotaSpots();
-        bench.http.answer(0, response);
+        bench.answer(0, response);
         EXPECT_EQ(bench.display.potaStatusField.stringValue(), "00:00 UTC: " + std::string(line));
         EXPECT_THAT(bench.around.alerts.shown, IsEmpty());
         EXPECT_THAT(bench.takeSounds(), IsEmpty());
@@ -149,7 +163,7 @@ TEST(Feeds, LongTextsAreCutWhenTheyAreRead) {
             FeedBench bench;
             TableView& table = bench.display.*feed.table;
             bench.controller.lists.fetch(feed.feed);
-            bench.http.answer(0, {answerWith(feed, longText, frequency), ""});
+            bench.answer(0, {answerWith(feed, longText, frequency), ""});
             const FeedList& rows = bench.controller.lists.state().*feed.list;
             ASSERT_EQ(rows.size(), feed.feed == Feed::sota && frequency == digits ? 0U : 1U);
             for (const FeedRow& row : rows)
@@ -178,7 +192,7 @@ TEST(Feeds, BandConditionsAreShownInTheirColors) {
         body += std::string("<v>") + (line == 33 ? "Band Closed" : value) + "</v>\r\n";
     }
     bench.press(810);
-    bench.http.answer(0, {body, ""});
+    bench.answer(0, {body, ""});
     Display& display = bench.display;
     const auto shown = [](const TextField& field) { return std::pair{field.stringValue(), field.textColor()}; };
     using Shown = std::pair<std::string, Color>;
@@ -286,18 +300,18 @@ TEST(CheckIns, LeaveInTheOrderOfThePresses) {
     bench.confirm(0);
     bench.retract(1);
     EXPECT_EQ(bench.display.netsTable.rows(), 0) << "emptied at once";
-    bench.http.answer(0, {"", "no answer in time"});
-    bench.http.answer(1, {});
+    bench.answer(0, {"", "no answer in time"});
+    bench.answer(1, {});
     EXPECT_THAT(bench.takeAsked(), ElementsAre("1", "1", "0"));
     bench.takeSpoken();
     // Other refreshes wait for the check-in, too, and do not lose its announcement.
     bench.press(814);
     bench.press(814);
     EXPECT_THAT(bench.takeAsked(), IsEmpty());
-    bench.http.answer(2, {});
+    bench.answer(2, {});
     EXPECT_THAT(bench.takeAsked(), ElementsAre("list"));
     EXPECT_THAT(bench.takeSpoken(), IsEmpty());
-    bench.http.answer(3, {nets, ""});
+    bench.answer(3, {nets, ""});
     EXPECT_EQ(bench.display.netsTable.rows(), 1);
     EXPECT_THAT(bench.takeSpoken(), ElementsAre("your confirmation of this net has been retracted"));
     EXPECT_THAT(bench.takeSounds(), ElementsAre("file Funk"));

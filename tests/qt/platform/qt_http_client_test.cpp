@@ -229,7 +229,7 @@ TEST(QtHttpClientTest, ARedirectLeadsToNoLessSafeAServer) {
     EXPECT_EQ(problemWithKey(safe), "redirected to an unsafe address");
     target = "http://localhost" + plain.url().substr(16);
     EXPECT_EQ(problemWithKey(plain), "redirected to another server");
-    EXPECT_EQ(plain.requests.size(), 2U) << "both were asked by the test";
+    for (const std::string& request : plain.requests) EXPECT_TRUE(request.starts_with("GET /moved ")) << request;
 }
 
 }  // namespace
