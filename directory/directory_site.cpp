@@ -24,7 +24,8 @@ const DirectorySite::Route* DirectorySite::routeOf(const std::string& path) {
         Route{"/netconf.php", "POST",
               [](DirectorySite& site, const WebRequest& request, Reply reply) {
                   auto checkIn = checkInFrom(request.body);
-                  if (checkIn)
+                  const bool oneKey = checkIn && (request.key.empty() || request.key == checkIn->operatorKey);
+                  if (oneKey)
                       site.writer_.record(std::move(*checkIn), std::move(reply));
                   else
                       reply(textAnswer(400, "The body is not a check-in."));

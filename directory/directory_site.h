@@ -9,8 +9,10 @@
 
 namespace corvane::directory {
 
-// GET /nets.php?key=KEY, GET /mw.php, POST /netconf.php, GET /healthz, and the documents. Answers 400 to a malformed
-// key or body, 404 to other paths, 405 to other methods, 429 to an address that asks too often.
+// GET /nets.php, GET /mw.php, POST /netconf.php, GET /healthz, and the documents. An operator's key comes in the header
+// "Authorization: Bearer KEY" and, of a check-in, also in its body; of older programs as /nets.php?key=KEY, and in the
+// body only. Answers 400 to a malformed key or body, and to a check-in with two different keys, 404 to other paths, 405
+// to other methods, 429 to an address that asks too often.
 class DirectorySite : public WebSite {
 public:
     DirectorySite(CheckInWriter& writer, DirectoryReader& reader, const Documents& documents, int requestsAMinute)

@@ -2,6 +2,7 @@
 
 #include <microhttpd.h>
 #include <netdb.h>
+#include <strings.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -48,6 +49,18 @@ std::size_t announcedLength(MHD_Connection* connection) {
     std::size_t length = 0;
     std::from_chars(text.data(), text.data() + text.size(), length);
     return length;
+}
+
+// Older programs send the key in the query.
+std::string keyOf(MHD_Connection* connection) {
+    constexpr std::string_view scheme = "bearer ";
+    const std::string sent = header(connection, MHD_HTTP_HEADER_AUTHORIZATION);
+    if (strncasecmp(sent.c_str(), scheme.data(), scheme.size()) == 0) return sent.substr(scheme.size());
+    const char* key = nullptr;
+    std::size_t size = 0;
+    const bool asked =
+        MHD_lookup_connection_value_n(connection, MHD_GET_ARGUMENT_KIND, "key", 3, &key, &size) == MHD_YES && key;
+    return asked ? std::string(key, size) : std::string();
 }
 
 Answer tooLong() { return textAnswer(413, "A body may have 16 KiB at most."); }
@@ -149,10 +162,7 @@ int WebServer::begin(MHD_Connection* connection, Exchange& exchange) {
     exchange.begun = true;
     exchange.request.address = options_.behindProxy ? lastForwarded(header(connection, "X-Forwarded-For")) : "";
     if (exchange.request.address.empty()) exchange.request.address = peer(connection);
-    const char* key = nullptr;
-    std::size_t size = 0;
-    if (MHD_lookup_connection_value_n(connection, MHD_GET_ARGUMENT_KIND, "key", 3, &key, &size) == MHD_YES && key)
-        exchange.request.key.assign(key, size);
+    exchange.request.key = keyOf(connection);
     const auto answer = site_.answerAtOnce(exchange.request);
     if (answer) return send(connection, exchange, *answer);
     return announcedLength(connection) > longestBody ? send(connection, exchange, tooLong()) : int{MHD_YES};

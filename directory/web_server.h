@@ -17,7 +17,7 @@ namespace corvane::directory {
 struct WebRequest {
     std::string method;   // "GET"; "HEAD" comes as "GET"
     std::string path;     // "/nets.php", decoded
-    std::string key;      // the value of "key" in the query, or empty
+    std::string key;      // from "Authorization: Bearer KEY", else the value of "key" in the query, or empty
     std::string address;  // of the client: "192.0.2.1"
     std::string body;
 };

@@ -7,11 +7,11 @@ namespace corvane {
 
 namespace {
 
+constexpr std::string_view setting = "operator";
 constexpr std::size_t length = 32;
 constexpr std::string_view digits = "0123456789abcdef";
 
-}  // namespace
-
+// From the system's source of randomness.
 std::string randomKey() {
     std::random_device random;
     std::uniform_int_distribution<int> digit(0, 15);
@@ -20,18 +20,21 @@ std::string randomKey() {
     return key;
 }
 
-std::string operatorKey(SettingsStore& settings) {
-    std::string key = settings.text("operator").value_or("");
-    if (key.empty()) {
-        key = randomKey();
-        settings.setText("operator", key);
-    }
-    return key;
+}  // namespace
+
+std::string keptOperatorKey(const SettingsStore& settings) {
+    std::string key = settings.text(setting).value_or("");
+    const bool whole = key.size() == length && key.find_first_not_of(digits) == std::string::npos;
+    return whole ? key : std::string();
 }
 
-std::string keyQuery(const std::string& key) {
-    const bool isKey = key.size() == length && key.find_first_not_of(digits) == std::string::npos;
-    return isKey ? "?key=" + key : "";
+std::string operatorKey(SettingsStore& settings) {
+    std::string key = keptOperatorKey(settings);
+    if (key.empty()) {
+        key = randomKey();
+        settings.setText(setting, key);
+    }
+    return key;
 }
 
 }  // namespace corvane

@@ -7,14 +7,13 @@
 
 namespace corvane {
 
-// 32 hexadecimal digits from the system's source of randomness.
-std::string randomKey();
+// A key is 32 hexadecimal digits in lower case: "0123456789abcdef0123456789abcdef". It tells the directory which
+// confirmations are this operator's. Who knows it can change them: it stands in no address and no log.
 
-// Tells the directory which confirmations are this operator's. It is made at random when first needed, and kept.
+// The key in the settings; empty for an operator who has never confirmed a net, and for a damaged key.
+std::string keptOperatorKey(const SettingsStore& settings);
+
+// The same, for a request that needs one: in place of none, or of a damaged one, a key is made at random and kept.
 std::string operatorKey(SettingsStore& settings);
-
-// Tells the directory whose confirmations to show: "?key=0123456789abcdef0123456789abcdef". Empty for a text that is
-// not a key, above all for the empty text of an operator who has never confirmed a net.
-std::string keyQuery(const std::string& key);
 
 }  // namespace corvane

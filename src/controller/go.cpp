@@ -37,9 +37,9 @@ struct Press {
     void operator()(const RefreshKey& key) const {
         const auto sound = [&voice = face.voice] { voice.playSound("Funk"); };
         if (key.feed == Feed::bandConditions)
-            face.conditions.fetch(sound);
+            face.conditions.fetch({.sound = sound, .then = {}});
         else
-            face.lists.fetch(key.feed, sound);
+            face.lists.fetch(key.feed, {.sound = sound, .then = {}});
     }
 };
 

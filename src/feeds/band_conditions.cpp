@@ -14,12 +14,13 @@ constexpr std::size_t solarFluxLine = 5;
 constexpr std::size_t firstBandLine = 20;
 constexpr std::size_t magicBandLine = 33;
 constexpr std::size_t signalNoiseLine = 37;
+constexpr std::size_t longestValue = 40;  // characters; the values of the service are shorter
 
 std::string valueOf(std::string_view line) {
     const std::size_t tagEnd = line.find('>');
     if (tagEnd == std::string_view::npos) return {};
     line.remove_prefix(tagEnd + 1);
-    return std::string(line.substr(0, line.find_first_of("<>")));
+    return std::string(utf8Prefix(line.substr(0, line.find_first_of("<>")), longestValue));
 }
 
 std::string* slot(BandConditions& conditions, std::size_t line) {

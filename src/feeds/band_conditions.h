@@ -18,7 +18,7 @@ struct BandConditions {
 };
 
 // Finds each value by the number of its line; lines end with "\r\n". A value stands between the first ">" of its line
-// and the next tag. Values of missing lines stay empty.
+// and the next tag, and is cut to 40 characters. Values of missing lines stay empty.
 BandConditions decodeBandConditions(std::string_view body);
 
 }  // namespace corvane

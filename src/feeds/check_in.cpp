@@ -3,21 +3,18 @@
 #include <nlohmann/json.hpp>
 #include <utility>
 
-#include "feeds/feed_row.h"
-#include "wire/utf8.h"
-
 namespace corvane {
 
 CheckIn::Next CheckIn::take(Event event) {
     const bool confirm = kind_ == Kind::confirm;
     switch (event) {
         case Event::begun:
-            return confirm ? Next::announce : Next::nothing;
-        case Event::answered:
-            if (confirm) return Next::nothing;
-            [[fallthrough]];
+            return confirm ? Next::announce : Next::holdList;
         case Event::timePassed:
-            return std::exchange(fetched_, true) ? Next::nothing : Next::fetchList;
+            if (confirm) return Next::fetchList;
+            [[fallthrough]];
+        case Event::answered:
+            return confirm || std::exchange(released_, true) ? Next::nothing : Next::releaseList;
         case Event::listShown:
             return confirm ? Next::nothing : Next::announce;
     }
@@ -31,7 +28,7 @@ std::string CheckIn::body(const std::string& operatorKey) const {
 
 std::string CheckIn::announcement() const {
     if (kind_ == Kind::retract) return "your confirmation of this net has been retracted";
-    return "thank you for confirming " + std::string(utf8Prefix(name_, longestSpokenName));
+    return "thank you for confirming " + name_;
 }
 
 }  // namespace corvane

@@ -8,12 +8,6 @@ namespace corvane {
 
 using namespace std::chrono_literals;
 
-namespace {
-
-constexpr auto recordingTime = 2s;  // the time that the directory gets to store a check-in
-
-}  // namespace
-
 CheckIns::CheckIns(Lists& lists, Voice& voice, HttpClient& http, SettingsStore& settings, Scheduler& scheduler,
                    const ServiceHosts& hosts)
     : lists_(lists), voice_(voice), http_(http), settings_(settings), hosts_(hosts), tasks_(scheduler) {}
@@ -27,7 +21,7 @@ void CheckIns::begin(int row, CheckIn::Kind kind) {
     const auto checkIn = std::make_shared<CheckIn>(kind, (*net)[6], (*net)[0]);
     post(checkIn);
     take(checkIn, CheckIn::Event::begun);
-    tasks_.after(recordingTime, [this, checkIn] { take(checkIn, CheckIn::Event::timePassed); });
+    tasks_.after(checkIn->recordingTime(), [this, checkIn] { take(checkIn, CheckIn::Event::timePassed); });
 }
 
 void CheckIns::take(const std::shared_ptr<CheckIn>& checkIn, CheckIn::Event event) {
@@ -38,7 +32,18 @@ void CheckIns::take(const std::shared_ptr<CheckIn>& checkIn, CheckIn::Event even
             voice_.speak(checkIn->announcement());
             break;
         case CheckIn::Next::fetchList:
-            lists_.fetch(Feed::nets, [this, checkIn] { take(checkIn, CheckIn::Event::listShown); });
+            // The refresh of a retraction shows this check-in, too, and must not be put off.
+            if (!retracting_) lists_.fetch(Feed::nets);
+            break;
+        case CheckIn::Next::holdList:
+            retracting_ = true;
+            lists_.hold(Feed::nets, {.sound = {}, .then = [this, checkIn] {
+                                         retracting_ = false;
+                                         take(checkIn, CheckIn::Event::listShown);
+                                     }});
+            break;
+        case CheckIn::Next::releaseList:
+            lists_.release(Feed::nets);
     }
 }
 
@@ -50,9 +55,20 @@ void CheckIns::post(const std::shared_ptr<CheckIn>& checkIn) {
     request.timeout = 30s;
     request.ignoreCaches = true;
     request.contentType = "Application/json";
-    request.body = checkIn->body(operatorKey(settings_));
-    const auto answered = tasks_.guarded([this, checkIn] { take(checkIn, CheckIn::Event::answered); });
-    http_.send(request, [answered](const HttpResponse&) -> HttpClient::Rest { return answered; });
+    request.key = operatorKey(settings_);
+    request.body = checkIn->body(request.key);
+    posts_.push_back({std::move(request), checkIn});
+    if (posts_.size() == 1) sendNext();
+}
+
+void CheckIns::sendNext() {
+    const auto answered = tasks_.guarded([this] {
+        const auto checkIn = std::move(posts_.front().checkIn);
+        posts_.pop_front();
+        if (!posts_.empty()) sendNext();
+        take(checkIn, CheckIn::Event::answered);
+    });
+    http_.send(posts_.front().request, [answered](const HttpResponse&) -> HttpClient::Rest { return answered; });
 }
 
 }  // namespace corvane

@@ -1,6 +1,7 @@
 // Check-ins: the operator confirms a net, or takes a confirmation back.
 #pragma once
 
+#include <deque>
 #include <memory>
 
 #include "app/service_hosts.h"
@@ -13,6 +14,8 @@
 
 namespace corvane {
 
+// They leave one after the other: each waits until the one before it has been answered or has failed. So the directory
+// stores them in the order of the presses.
 class CheckIns {
 public:
     CheckIns(Lists& lists, Voice& voice, HttpClient& http, SettingsStore& settings, Scheduler& scheduler,
@@ -26,6 +29,12 @@ private:
     void begin(int row, CheckIn::Kind kind);
     void take(const std::shared_ptr<CheckIn>& checkIn, CheckIn::Event event);
     void post(const std::shared_ptr<CheckIn>& checkIn);
+    void sendNext();
+
+    struct Post {
+        HttpRequest request;
+        std::shared_ptr<CheckIn> checkIn;
+    };
 
     Lists& lists_;
     Voice& voice_;
@@ -33,6 +42,8 @@ private:
     SettingsStore& settings_;
     const ServiceHosts& hosts_;
     Tasks tasks_;
+    std::deque<Post> posts_;   // the first one is under way
+    bool retracting_ = false;  // its refresh of the list is under way
 };
 
 }  // namespace corvane

@@ -6,14 +6,12 @@
 
 #include "feeds/band_conditions.h"
 #include "feeds/clock_time.h"
-#include "wire/utf8.h"
 
 namespace corvane {
 
 namespace {
 
 constexpr std::string_view path = "/solarxml.php";
-constexpr std::size_t longestValue = 40;  // characters; the values of the service are shorter
 
 Color conditionColor(std::string_view value) {
     if (value == "Good") return Color::green;
@@ -21,7 +19,7 @@ Color conditionColor(std::string_view value) {
 }
 
 void showValue(TextField& field, std::string_view text, Color color) {
-    field.setStringValue(utf8Prefix(text, longestValue));
+    field.setStringValue(text);
     field.setTextColor(color);
 }
 
@@ -30,7 +28,7 @@ void showValue(TextField& field, std::string_view text, Color color) {
 Conditions::Conditions(Display& display, HttpClient& http, Scheduler& scheduler, const ServiceHosts& hosts)
     : display_(display), hosts_(hosts), tasks_(scheduler), refresh_(http, tasks_) {}
 
-void Conditions::fetch(std::function<void()> then) {
+void Conditions::fetch(RefreshEnd end) {
     HttpRequest request;
     request.url = std::string(hosts_.solarData).append(path);
     display_.bandStatusField.setStringValue("Refreshing\u2026");
@@ -41,14 +39,14 @@ void Conditions::fetch(std::function<void()> then) {
             display_.bandStatusField.setStringValue(clockTime(tasks_.now()) + (problem.empty() ? "" : ": " + problem));
         };
     };
-    refresh_.start(request, read, std::move(then));
+    refresh_.start(request, read, std::move(end));
 }
 
 void Conditions::show(const BandConditions& conditions) {
     const std::array fields{&display_.day8040Field,   &display_.day3020Field,   &display_.day1715Field,
                             &display_.day1210Field,   &display_.night8040Field, &display_.night3020Field,
                             &display_.night1715Field, &display_.night1210Field};
-    display_.bandBox.setTitle("Band Conditions - " + std::string(utf8Prefix(conditions.heading, longestValue)));
+    display_.bandBox.setTitle("Band Conditions - " + conditions.heading);
     showValue(display_.solarFluxField, conditions.solarFlux, Color::green);
     for (std::size_t i = 0; i < fields.size(); ++i)
         showValue(*fields[i], conditions.bands[i], conditionColor(conditions.bands[i]));

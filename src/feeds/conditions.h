@@ -1,8 +1,6 @@
 // The band conditions: fetching and showing them.
 #pragma once
 
-#include <functional>
-
 #include "app/service_hosts.h"
 #include "display/display.h"
 #include "feeds/feed_refresh.h"
@@ -16,8 +14,8 @@ class Conditions {
 public:
     Conditions(Display& display, HttpClient& http, Scheduler& scheduler, const ServiceHosts& hosts);
 
-    // `then` is called when the conditions of this fetch, or of one that has replaced it, are shown.
-    void fetch(std::function<void()> then = {});
+    // `end` is called when the conditions of this fetch, or of one that has replaced it, are shown.
+    void fetch(RefreshEnd end = {});
 
 private:
     void show(const BandConditions& conditions);

@@ -7,8 +7,8 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/web_address.h"
 #include "wire/decimal_number.h"
-#include "wire/utf8.h"
 
 namespace corvane {
 
@@ -17,7 +17,7 @@ namespace {
 // Formats are compiled: a filter asks for the texts of ten thousand rows while the operator types.
 using Show = std::string (*)(std::string_view field);
 
-// The web address behind a cell; empty for none.
+// The address behind a cell, which may be any text; empty for none.
 using Link = std::string (*)(const FeedRow& row, const ServiceHosts& hosts);
 
 struct CellRow {
@@ -28,7 +28,6 @@ struct CellRow {
     Link link = nullptr;
 };
 
-constexpr std::size_t longestCell = 200;  // characters
 constexpr double mostShown = 1e12;
 
 double shownNumber(std::string_view field) {
@@ -111,10 +110,7 @@ const CellRow* cellRow(Feed feed, std::string_view column, const FeedRow& row) {
     return cell == cells.end() || cell->position >= row.fields.size() ? nullptr : &*cell;
 }
 
-std::string shownText(const CellRow& cell, const FeedRow& row) {
-    const std::string& field = row[cell.position];
-    return cell.show(field.size() <= longestCell ? field : utf8Prefix(field, longestCell));
-}
+std::string shownText(const CellRow& cell, const FeedRow& row) { return cell.show(row[cell.position]); }
 
 }  // namespace
 
@@ -126,9 +122,10 @@ std::string feedCell(Feed feed, std::string_view column, const FeedRow& row) {
 TableCell feedTableCell(Feed feed, std::string_view column, const FeedRow& row, const ServiceHosts& hosts) {
     const CellRow* cell = cellRow(feed, column, row);
     if (!cell) return {};
-    std::string address = cell->link && !row[cell->position].empty() ? cell->link(row, hosts) : std::string();
+    const std::string built = cell->link && !row[cell->position].empty() ? cell->link(row, hosts) : std::string();
+    const std::string_view address = webAddress(built);
     if (address.empty()) return TextCell{shownText(*cell, row)};
-    return LinkCell{shownText(*cell, row), std::move(address)};
+    return LinkCell{shownText(*cell, row), std::string(address)};
 }
 
 }  // namespace corvane

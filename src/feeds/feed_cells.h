@@ -15,7 +15,7 @@ namespace corvane {
 std::string feedCell(Feed feed, std::string_view column, const FeedRow& row);
 
 // The same as a cell, with a link where there is one. A park's reference links to "https://pota.app/#/park/US-0001",
-// its name to the map, a net or a station to the web page that the list gives for it.
+// its name to the map, a net or a station to the web page that the list gives for it. What is no webAddress is no link.
 TableCell feedTableCell(Feed feed, std::string_view column, const FeedRow& row, const ServiceHosts& hosts);
 
 }  // namespace corvane

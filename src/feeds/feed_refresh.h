@@ -3,8 +3,6 @@
 
 #include <functional>
 #include <memory>
-#include <string>
-#include <vector>
 
 #include "platform/http_client.h"
 #include "platform/tasks.h"
@@ -15,6 +13,14 @@ namespace corvane {
 struct ResponseBox {
     HttpClient::Rest show;
     HttpClient::Cancel cancel;
+    std::function<void()> send;  // while the request is held back
+};
+
+// What is called once a refresh has shown its result. A newer refresh that replaces it inherits what it does not bring
+// itself: so several presses of a key end with one sound.
+struct RefreshEnd {
+    std::function<void()> sound;
+    std::function<void()> then;
 };
 
 // Refreshes of one feed never overlap: a new one ends the running one, whose answer is dropped.
@@ -32,10 +38,12 @@ public:
     FeedRefresh& operator=(const FeedRefresh&) = delete;
 
     // Ends exactly once: with the answer, or after `patience` with an empty response whose problem is "no answer within
-    // 2 s", for which `read` runs at once. A later answer is dropped. `then` is called at the end; if a newer refresh
-    // replaces this one, at the end of that.
-    void start(const HttpRequest& request, const Read& read, std::function<void()> then = {});
-    bool running() const { return box_ != nullptr; }
+    // 2 s", for which `read` runs at once. A later answer is dropped. If the refresh that this one replaces is held
+    // back, so is this one.
+    void start(const HttpRequest& request, const Read& read, RefreshEnd end = {});
+    // The same, but the request waits for release(). Its patience does not.
+    void hold(const HttpRequest& request, const Read& read, RefreshEnd end = {});
+    void release();
 
 private:
     void finish();
@@ -44,7 +52,7 @@ private:
     HttpClient& client_;
     const Tasks& tasks_;
     std::shared_ptr<ResponseBox> box_;
-    std::vector<std::function<void()>> ends_;
+    RefreshEnd end_;
 };
 
 }  // namespace corvane

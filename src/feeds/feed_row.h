@@ -17,7 +17,13 @@ struct FeedRow {
 
 using FeedList = std::vector<FeedRow>;
 
-inline constexpr std::size_t longestSpokenName = 200;  // characters
+// The limit of every field but an address; services send less. Nothing that shows, speaks or sends a field has another.
+inline constexpr std::size_t longestField = 200;  // characters
+inline constexpr std::size_t noAddress = std::size_t(-1);
+
+// The row as the lists keep it: fields cut to `longestField`; the one at `address` emptied if it is longer than
+// longestAddress, as the rest of an address leads elsewhere. The fields must be well-formed UTF-8.
+FeedRow withinLimits(FeedRow row, std::size_t address = noAddress);
 
 // The row with this index, or nullptr if a refreshed list has become too short, or the row has fewer fields.
 inline const FeedRow* rowAt(const FeedList& list, int index, std::size_t fields) {

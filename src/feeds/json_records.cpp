@@ -14,34 +14,47 @@ namespace {
 
 using Json = nlohmann::json;
 
-// The fields of the record that is being decoded; if a field occurs twice, the last one counts.
+using MakeRow = std::function<std::optional<FeedRow>(JsonRecord&)>;
+
+// The fields of the record that is being decoded, as far as rows are made of them; if a field occurs twice, the last
+// one counts.
 class OpenRecord final : public JsonRecord {
 public:
+    struct Absent {};
     struct Other {};  // true, false, a list or an object
-    using Value = std::variant<Other, std::nullptr_t, double, std::string>;
+    using Value = std::variant<Absent, Other, std::nullptr_t, double, std::string>;
+
+    explicit OpenRecord(const MakeRow& makeRow) {
+        learning_ = true;
+        makeRow(*this);
+        learning_ = false;
+    }
 
     void begin() {
-        fields_.clear();
+        for (Field& field : fields_) field.value = Absent{};
+        current_ = fields_.end();
         problem_.clear();
     }
-    void name(std::string name) { fields_.emplace_back(std::move(name), Other{}); }
-    void value(Value value) { fields_.back().second = std::move(value); }
+    void name(std::string_view name) {
+        current_ = std::ranges::find(fields_, name, &Field::name);
+        value(Other{});
+    }
+    void value(Value value) {
+        if (current_ != fields_.end()) current_->value = std::move(value);
+    }
 
     std::string text(std::string_view name) override {
-        const Value* field = find(name);
-        const auto* text = field ? std::get_if<std::string>(field) : nullptr;
+        const auto* text = std::get_if<std::string>(&find(name));
         if (!text) fail("text", name);
         return text ? *text : std::string();
     }
     std::optional<std::string> optionalText(std::string_view name) override {
-        const Value* field = find(name);
-        if (!field || std::holds_alternative<std::nullptr_t>(*field)) return std::nullopt;
-        return text(name);
+        return isMissing(find(name)) ? std::nullopt : std::optional(text(name));
     }
     std::optional<float> optionalNumber(std::string_view name) override {
-        const Value* field = find(name);
-        if (!field || std::holds_alternative<std::nullptr_t>(*field)) return std::nullopt;
-        const auto* number = std::get_if<double>(field);
+        const Value& value = find(name);
+        if (isMissing(value)) return std::nullopt;
+        const auto* number = std::get_if<double>(&value);
         if (number && std::abs(*number) <= std::numeric_limits<float>::max()) return static_cast<float>(*number);
         fail("number", name);
         return std::nullopt;
@@ -50,16 +63,28 @@ public:
     const std::string& problem() const { return problem_; }
 
 private:
-    const Value* find(std::string_view name) const {
-        const auto field =
-            std::find_if(fields_.rbegin(), fields_.rend(), [&](const auto& f) { return f.first == name; });
-        return field == fields_.rend() ? nullptr : &field->second;
+    struct Field {
+        std::string name;
+        Value value;
+    };
+
+    static bool isMissing(const Value& value) {
+        return std::holds_alternative<Absent>(value) || std::holds_alternative<std::nullptr_t>(value);
+    }
+    const Value& find(std::string_view name) {
+        static const Value absent;
+        const auto field = std::ranges::find(fields_, name, &Field::name);
+        if (field != fields_.end()) return field->value;
+        if (learning_) fields_.push_back({std::string(name), Absent{}});
+        return absent;
     }
     void fail(std::string_view kind, std::string_view name) {
         if (problem_.empty()) problem_ = fmt::format("has no {} \"{}\"", kind, name);
     }
 
-    std::vector<std::pair<std::string, Value>> fields_;
+    std::vector<Field> fields_;
+    std::vector<Field>::iterator current_;
+    bool learning_ = false;
     std::string problem_;
 };
 
@@ -67,9 +92,7 @@ private:
 // Values nested in a record's fields are skipped. An event that returns false ends the parse.
 class RecordReader final : public nlohmann::json_sax<Json> {
 public:
-    using MakeRow = std::function<std::optional<FeedRow>(JsonRecord&)>;
-
-    explicit RecordReader(const MakeRow& makeRow) : makeRow_(makeRow) {}
+    explicit RecordReader(const MakeRow& makeRow) : makeRow_(makeRow), record_(makeRow) {}
 
     DecodedFeed decoded;
 
@@ -81,7 +104,7 @@ public:
     bool string(string_t& text) override { return value(std::move(text)); }
     bool binary(binary_t&) override { return value(OpenRecord::Other{}); }
     bool key(string_t& name) override {
-        if (depth_ == insideRecord) record_.name(std::move(name));
+        if (depth_ == insideRecord) record_.name(name);
         return true;
     }
     bool start_array(std::size_t) override {
@@ -105,7 +128,7 @@ public:
         auto row = makeRow_(record_);
         if (!record_.problem().empty())
             return fail(fmt::format("unreadable: record {} {}", records_, record_.problem()));
-        if (row) decoded.rows.push_back(std::move(*row));
+        if (row) decoded.rows.push_back(withinLimits(std::move(*row)));
         return true;
     }
     bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override {
@@ -135,7 +158,7 @@ private:
 
 }  // namespace
 
-DecodedFeed decodeRecords(std::string_view body, const std::function<std::optional<FeedRow>(JsonRecord&)>& makeRow) {
+DecodedFeed decodeRecords(std::string_view body, const MakeRow& makeRow) {
     RecordReader reader(makeRow);
     Json::sax_parse(body, &reader);
     return std::move(reader.decoded);

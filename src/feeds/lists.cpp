@@ -79,13 +79,27 @@ void Lists::fetchAll() {
     for (const ListFeed& row : listFeeds) fetch(row.feed);
 }
 
-void Lists::fetch(Feed list, std::function<void()> then) {
-    const ListFeed& row = listFeed(list);
+FeedRefresh& Lists::refreshOf(Feed list) {
+    return refreshes_[static_cast<std::size_t>(&listFeed(list) - listFeeds.data())];
+}
+
+void Lists::fetch(Feed list, RefreshEnd end) {
+    const Question question = emptied(listFeed(list));
+    refreshOf(list).start(question.request, question.read, std::move(end));
+}
+
+void Lists::hold(Feed list, RefreshEnd end) {
+    const Question question = emptied(listFeed(list));
+    refreshOf(list).hold(question.request, question.read, std::move(end));
+}
+
+// Empties the list, and says what to ask for its new rows and how to read the answer.
+Lists::Question Lists::emptied(const ListFeed& row) {
     setRows(row, {});
     (display_.*row.status).setStringValue("Refreshing\u2026");
     HttpRequest request;
     request.url = std::string(around_.hosts.*row.host).append(row.path);
-    if (list == Feed::nets) request.url += keyQuery(around_.settings.text("operator").value_or(""));
+    if (row.feed == Feed::nets) request.key = keptOperatorKey(around_.settings);
     request.ignoreCaches = row.ignoreCaches;
     const auto read = [this, &row, now = tasks_.now()](const HttpResponse& response) -> HttpClient::Rest {
         return [this, &row, answer = listAnswer(row, response, now)]() mutable {
@@ -95,7 +109,7 @@ void Lists::fetch(Feed list, std::function<void()> then) {
             (display_.*row.status).setStringValue(clockTime(tasks_.now()) + ": " + line);
         };
     };
-    refreshes_[static_cast<std::size_t>(&row - listFeeds.data())].start(request, read, std::move(then));
+    return {request, read};
 }
 
 int Lists::numberOfRows(const TableView& table) const {

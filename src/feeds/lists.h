@@ -5,7 +5,6 @@
 #pragma once
 
 #include <deque>
-#include <functional>
 #include <string>
 
 #include "app/service_hosts.h"
@@ -37,9 +36,12 @@ public:
     // Puts these rows into a list's table.
     void setRows(const ListFeed& feed, FeedList rows);
 
-    // Empties the list and fetches it again. `then` is called when the rows of this fetch, or of one that has replaced
-    // it, are shown.
-    void fetch(Feed list, std::function<void()> then = {});
+    // Empties the list and fetches it again. `end` is called when the rows of this fetch, or of one that has replaced
+    // it, are shown, 2.0 s from now at the latest.
+    void fetch(Feed list, RefreshEnd end = {});
+    // The same, but the request waits for release().
+    void hold(Feed list, RefreshEnd end);
+    void release(Feed list) { refreshOf(list).release(); }
     void fetchAll();  // in the order of listFeeds
 
     int numberOfRows(const TableView& table) const;  // 0 for a table of another room
@@ -53,6 +55,12 @@ public:
     void goMWTune(Button& sender);
 
 private:
+    struct Question {
+        HttpRequest request;
+        FeedRefresh::Read read;
+    };
+    Question emptied(const ListFeed& feed);
+    FeedRefresh& refreshOf(Feed list);
     void tuneTo(std::string command, const std::string& name);
 
     Display& display_;

@@ -21,7 +21,10 @@ constexpr int unknownCount = 99'999'999;
 
 DecodedFeed decodeTagged(std::string_view body, std::span<const std::string_view> tags) {
     if (!isUtf8(body)) return {{}, "unreadable: not text"};
-    return {rowsOf(scrapeTags(body, tags)), {}};
+    DecodedFeed decoded{rowsOf(scrapeTags(body, tags)), {}};
+    const auto address = static_cast<std::size_t>(std::ranges::find(tags, "URL") - tags.begin());
+    for (FeedRow& row : decoded.rows) row = withinLimits(std::move(row), address);
+    return decoded;
 }
 
 }  // namespace

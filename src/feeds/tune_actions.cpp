@@ -4,7 +4,6 @@
 #include "feeds/hertz.h"
 #include "feeds/lists.h"
 #include "feeds/tune_command.h"
-#include "wire/utf8.h"
 
 namespace corvane {
 
@@ -20,7 +19,7 @@ void Lists::goPotaTune(Button& sender) {
     const auto frequency = spot ? hertz((*spot)[1], kilohertz) : std::nullopt;
     if (!frequency) return;
     link_.send(tuneCommandForSpot(*frequency, (*spot)[2], ModeWords::spots, mirror_.state().vqAorB));
-    voice_.speak(utf8Prefix((*spot)[4], longestSpokenName));
+    voice_.speak((*spot)[4]);
 }
 
 void Lists::goSotaTune(Button& sender) {
@@ -54,7 +53,7 @@ void Lists::goMWTune(Button& sender) {
 
 void Lists::tuneTo(std::string command, const std::string& name) {
     link_.write(std::move(command));
-    voice_.speak(utf8Prefix(name, longestSpokenName));
+    voice_.speak(name);
 }
 
 }  // namespace corvane

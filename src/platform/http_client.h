@@ -13,6 +13,7 @@ struct HttpRequest {
     std::chrono::milliseconds timeout{60000};  // for the whole exchange
     bool ignoreCaches = false;                 // neither a local nor a remote cache may answer
     std::string contentType;                   // of the body; empty: no such header
+    std::string key;                           // sent as "Authorization: Bearer KEY"; empty: no such header
     std::string body;
 
     bool operator==(const HttpRequest&) const = default;
@@ -39,7 +40,8 @@ public:
     // which is called once from the event loop.
     //
     // The returned Cancel ends the exchange early; then the rest is not called. After the exchange has ended it does
-    // nothing. Certificates are checked; redirects are followed to the same scheme or a safer one.
+    // nothing. Certificates are checked; redirects are followed to the same scheme or a safer one, and with a key only
+    // to the same host.
     virtual Cancel send(const HttpRequest& request, Completed completed) = 0;
 };
 

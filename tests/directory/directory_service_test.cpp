@@ -89,6 +89,22 @@ TEST_P(DirectoryServiceTest, ConfirmsAndRetractsForOneSession) {
     EXPECT_EQ(rows("confirmations"), 1);
 }
 
+TEST_P(DirectoryServiceTest, TakesTheKeyFromTheHeaderToo) {
+    import(twoNets);
+    const RunningService running(database->location());
+    const auto withKey = [&](const char* method, const std::string& path, const std::string& header,
+                             const std::string& body = "") {
+        return ask(running.port(), method, path, body, "Authorization: " + header + "\r\n");
+    };
+    const std::string checkedIn = checkIn(alice, "noon", 1);
+    EXPECT_EQ(withKey("POST", "/netconf.php", "Bearer " + bob, checkedIn).status, 400) << "two keys";
+    EXPECT_EQ(withKey("POST", "/netconf.php", "Bearer " + alice, checkedIn).status, 200);
+    EXPECT_THAT(withKey("GET", "/nets.php", "bearer " + alice).body, HasSubstr("yes (1)</Confirmed><NetID>noon"));
+    EXPECT_THAT(withKey("GET", "/nets.php", "Bearer " + bob).body, HasSubstr("no (1)</Confirmed><NetID>noon"));
+    EXPECT_THAT(withKey("GET", "/nets.php?key=" + alice, "Basic eDp5").body, HasSubstr("yes (1)"));
+    EXPECT_EQ(withKey("GET", "/nets.php", "Bearer " + alice + "0").status, 400);
+}
+
 TEST_P(DirectoryServiceTest, AnImportKeepsTheConfirmationsOfItsNets) {
     import(twoNets);
     RunningService running(database->location());

@@ -72,6 +72,7 @@ TEST_F(HostileRequests, TheLogHasNoKeysAndOneLineEach) {
     running.confirm(alice, "intercon");
     running.nets(alice);
     ask(running.port(), "GET", "/nets.php?key=" + alice.substr(1));
+    ask(running.port(), "GET", "/nets.php", "", "Authorization: Bearer " + alice + "\r\n");
     ask(running.port(), "GET", "/x%0a%22forged%22%ff?" + alice);
     Client(running.port()).send("GET /nets.php?key=" + alice + " HTTP/1.1\r\n");  // and disconnects
     const std::string log = running.logged();
@@ -83,7 +84,7 @@ TEST_F(HostileRequests, TheLogHasNoKeysAndOneLineEach) {
         EXPECT_EQ(entry["event"], "request");
         EXPECT_EQ(entry["address"], "127.0.0.1");
     }
-    EXPECT_EQ(requests, 4);
+    EXPECT_EQ(requests, 5);
 }
 
 TEST_F(HostileRequests, OneAddressMayAskOnlySoOften) {

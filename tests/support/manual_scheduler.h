@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/scheduler.h"
+#include "tests/support/own_thread.h"
 
 namespace corvane {
 
@@ -12,9 +13,13 @@ class ManualScheduler final : public Scheduler {
 public:
     // Starts at the beginning of 2026-11-23 UTC.
     std::chrono::system_clock::time_point now() const override {
+        thread_.check();
         return std::chrono::sys_days{std::chrono::year{2026} / 11 / 23} + now_;
     }
-    void after(Duration delay, std::function<void()> task) override { tasks_.emplace(now_ + delay, std::move(task)); }
+    void after(Duration delay, std::function<void()> task) override {
+        thread_.check();
+        tasks_.emplace(now_ + delay, std::move(task));
+    }
 
     // Runs what falls due within `time`, what those tasks plan included, in the order of time.
     void advance(Duration time) {
@@ -28,6 +33,7 @@ public:
     }
 
 private:
+    OwnThread thread_;
     Duration now_{0};
     std::multimap<Duration, std::function<void()>> tasks_;  // equal times keep the order given
 };

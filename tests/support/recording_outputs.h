@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -15,12 +16,17 @@
 #include "platform/sound_player.h"
 #include "platform/speech_synthesizer.h"
 #include "platform/web_browser.h"
+#include "tests/support/own_thread.h"
 
 namespace corvane {
 
 struct RecordingSpeechSynthesizer final : SpeechSynthesizer {
-    void speak(std::string_view text, std::string_view) override { spoken.emplace_back(text); }
+    void speak(std::string_view text, std::string_view) override {
+        thread.check();
+        spoken.emplace_back(text);
+    }
     std::vector<std::string> spoken;
+    OwnThread thread;
 };
 
 struct RecordingSoundPlayer final : SoundPlayer {
@@ -62,20 +68,32 @@ private:
     std::function<void()> last_;  // the question that has no answer yet
 };
 
-// Requests in the order sent; a test answers them one by one.
+// Requests in the order sent; a test answers them one by one. Like the real client it decodes on another thread.
 struct RecordingHttpClient final : HttpClient {
     Cancel send(const HttpRequest& request, Completed completed) override {
+        thread.check();
         requests.push_back(request);
         pending.push_back(std::move(completed));
         return [this, index = pending.size() - 1] { cancelled.push_back(index); };
     }
     // Answers the n-th request, even if it has been cancelled.
     void answer(std::size_t index, HttpResponse response) {
-        if (const Rest rest = pending.at(index)(std::move(response))) rest();
+        if (const Rest rest = decode(index, std::move(response))) rest();
+    }
+    // The first half of that; `meanwhile` runs beside it on this thread.
+    Rest decode(std::size_t index, HttpResponse response, const std::function<void()>& meanwhile = {}) {
+        Rest rest;
+        std::thread decoder([&rest, completed = pending.at(index), answered = std::move(response)]() mutable {
+            rest = completed(std::move(answered));
+        });
+        if (meanwhile) meanwhile();
+        decoder.join();
+        return rest;
     }
     std::vector<HttpRequest> requests;
     std::vector<std::size_t> cancelled;
     std::vector<Completed> pending;
+    OwnThread thread;
 };
 
 struct RecordingDataFolder final : DataFolder {
@@ -113,8 +131,12 @@ private:
 };
 
 struct RecordingLog final : Log {
-    void line(std::string_view text) override { lines.emplace_back(text); }
+    void line(std::string_view text) override {
+        thread.check();
+        lines.emplace_back(text);
+    }
     std::vector<std::string> lines;
+    OwnThread thread;
 };
 
 }  // namespace corvane

@@ -4,12 +4,14 @@
 #include <QString>
 #include <QUrl>
 
+#include "platform/web_address.h"
+
 namespace corvane {
 
 void DesktopWebBrowser::open(std::string_view url) {
-    const QUrl address(QString::fromUtf8(url.data(), static_cast<qsizetype>(url.size())), QUrl::StrictMode);
-    const bool web = address.scheme() == QLatin1String("http") || address.scheme() == QLatin1String("https");
-    if (web && !address.host().isEmpty()) QDesktopServices::openUrl(address);
+    const std::string_view web = webAddress(url);
+    const QUrl address(QString::fromUtf8(web.data(), static_cast<qsizetype>(web.size())), QUrl::TolerantMode);
+    if (!web.empty() && address.isValid()) QDesktopServices::openUrl(address);
 }
 
 }  // namespace corvane

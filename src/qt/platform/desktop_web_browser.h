@@ -5,7 +5,7 @@
 
 namespace corvane {
 
-// Opens addresses of the schemes http and https only; anything else is dropped.
+// Opens each webAddress, with what may not stand in one replaced by its code ("%20" for a blank); drops anything else.
 class DesktopWebBrowser final : public WebBrowser {
 public:
     void open(std::string_view url) override;

@@ -17,6 +17,8 @@ QString toolTipOf(const Control& control) {
     return shortcut.isEmpty() ? help : help + " (" + shortcut + ")";
 }
 
+QString plainToolTip(const QString& text) { return "<p>" + text.toHtmlEscaped().replace('\n', "<br>") + "</p>"; }
+
 void describe(QWidget& widget, const Control& control) {
     widget.setObjectName(QString::fromStdString(control.objectName()));
     widget.setAccessibleName(labelOf(control));

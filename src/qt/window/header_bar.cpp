@@ -21,6 +21,7 @@ class LinkLabel : public QLabel {
 public:
     LinkLabel(TextField& link, ChangeQueue& queue) : link_(link) {
         describe(*this, link);
+        setTextFormat(Qt::PlainText);
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         view_ = link.addView(queue, [this] { showModel(); });
         showModel();
@@ -44,7 +45,7 @@ protected:
 private:
     void showModel() {
         setText(QString::fromStdString(link_.stringValue()));
-        setToolTip("<p>" + text().toHtmlEscaped() + "</p>");
+        setToolTip(plainToolTip(text()));
         setAccessibleName(spokenWithValue(link_, link_.stringValue()));
         update();
     }
@@ -58,6 +59,7 @@ class ModeLabel : public QLabel {
 public:
     ModeLabel(TextField& mode, ChangeQueue& queue) {
         describe(*this, mode);
+        setTextFormat(Qt::PlainText);
         setFont(typeface(TypeSize::value, QFont::DemiBold));
         const auto show = [this, &mode] {
             const std::string& name = mode.stringValue();

@@ -84,7 +84,8 @@ void KeyButton::showModel() {
     const QString plain = QString(title).replace('&', "&&");
     if (text() != plain) setText(plain);
     // A title from the transceiver may be longer than its key.
-    if (model_.outlet().title.empty() && !title.isEmpty()) setToolTip(title.trimmed() + "\n" + toolTipOf(model_));
+    if (model_.outlet().title.empty() && !title.isEmpty())
+        setToolTip(plainToolTip(title.trimmed() + "\n" + toolTipOf(model_)));
     setSpokenName(*this, condition(), spokenName());
     update();
 }

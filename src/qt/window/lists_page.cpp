@@ -81,6 +81,7 @@ class ConditionLabel : public QLabel {
 public:
     ConditionLabel(TextField& model, ChangeQueue& queue) : model_(model) {
         describe(*this, model);
+        setTextFormat(Qt::PlainText);
         setAlignment(Qt::AlignCenter);
         setMinimumWidth(16 * gridStep);
         setContentsMargins(gridStep, gridStep, gridStep, gridStep);

@@ -61,7 +61,7 @@ QTableWidget* listOf(const QStringList& titles, int rows, const QString& name) {
 
 void setCell(QTableWidget& list, int row, int column, const QString& text) {
     auto* cell = new QTableWidgetItem(text);
-    cell->setToolTip("<p>" + text.toHtmlEscaped() + "</p>");  // else Qt may take it for mark-up
+    cell->setToolTip(plainToolTip(text));
     list.setItem(row, column, cell);
 }
 

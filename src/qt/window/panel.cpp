@@ -9,6 +9,7 @@
 namespace corvane {
 
 Panel::Panel(const QString& title, QWidget* parent) : QFrame(parent), title_(new QLabel(this)) {
+    title_->setTextFormat(Qt::PlainText);
     title_->setFont(typeface(TypeSize::small, QFont::DemiBold));
     setTitleQuiet(true);
     content_ = new QVBoxLayout(this);

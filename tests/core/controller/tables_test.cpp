@@ -19,7 +19,7 @@ struct ListBench : TestBench {
         put(Feed::sota, {{{"N0CALL", "Not recognised", "14.062", "CW", "", "", "A Summit", "", "", "7"}}});
         put(Feed::netLogger, {{{"Noon Net", "14.25", "SSB", "12"}}});
         put(Feed::nets, {{{"With", "3.94", "17:00", "LSB", "https://net.example/a b", "yes", "7"}},
-                         {{"Without", "3.94", "17:00", "LSB", "", "", "8"}}});
+                         {{"Without", "3.94", "17:00", "LSB", "javascript:alert(1)", "", "8"}}});
         put(Feed::mediumWave, {{{"WAAA", "540", "Town", "50", "http://waaa.example"}}, {{"short"}}});
         keepAutoMemory(controller, "VS0;MD02;FA014074000;");
         display.autoMemTable.editCell(0, 4, "note");

@@ -1,4 +1,5 @@
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 
 #include "feeds/band_conditions.h"
 #include "feeds/hertz.h"
@@ -146,6 +147,26 @@ TEST(SotaSpots, KeepTheirOrderAndTheBandsOfTheTransceiver) {
     EXPECT_THAT(decodeSotaSpots(R"([{"comments":"x"}])", now).problem, HasSubstr("has no text"));
 }
 
+long mostMemory() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+TEST(JsonRecords, KeepOnlyTheFieldsOfARow) {
+    constexpr std::size_t size = 2 * 1024 * 1024;
+    std::string others;
+    others.reserve(size + 1000);
+    others = potaSpot("A", "2026-11-23T13:55:00", "cq");
+    others.insert(0, 1, '[').back() = ',';
+    while (others.size() < size - 100) others += "\"\":1,";
+    others += R"("activator":"B"}])";
+    const long before = mostMemory();
+    const DecodedFeed spots = decodePotaSpots(others, now);
+    EXPECT_LT(mostMemory() - before, 4 * 1024) << "KiB";
+    EXPECT_THAT(column(spots.rows, 0), ElementsAre("B")) << "the last of two";
+}
+
 std::string net(const std::string& name, const std::string& mode, const std::string& count) {
     return "<NetName>" + name + "</NetName>\n<Frequency>7.255 MHz</Frequency>\n<Mode>" + mode +
            "</Mode>\n<SubscriberCount>" + count + "</SubscriberCount>\n";
@@ -170,6 +191,9 @@ TEST(Directory, ListsNetsAndStationsInTheirOrder) {
     for (const char* station : {"WAAA", "WBBB", "WCCC"})
         body += std::string("<Station>") + station +
                 "</Station>\n<Frequency>1000 kHz</Frequency>\n<City>X</City>\n<Power>50</Power>\n<URL>u</URL>\n";
+    const std::string address = "http://" + std::string(1993, 'x');
+    EXPECT_EQ(decodeMWStations(replaced(body, ">u<", '>' + address + '<')).rows[0][4], address);
+    EXPECT_EQ(decodeMWStations(replaced(body, ">u<", '>' + address + "x<")).rows[0][4], "");
     const DecodedFeed stations = decodeMWStations(body);
     EXPECT_THAT(column(stations.rows, 0), ElementsAre("WAAA", "WBBB", "WCCC"));
     EXPECT_EQ(stations.rows[0], (FeedRow{{"WAAA", "1000", "X", "50", "u"}}));
@@ -185,6 +209,7 @@ TEST(BandConditions, AreTheValuesOfCertainLines) {
                                               "value 26", "value 27"));
     EXPECT_EQ(conditions.magicBand, "value 33");
     EXPECT_EQ(conditions.signalNoise, "value 37");
+    EXPECT_EQ(decodeBandConditions("\r\n\r\n\r\n\r\n<v>" + std::string(41, 'x')).heading, std::string(40, 'x'));
     std::erase(body, '\r');
     EXPECT_EQ(decodeBandConditions(body), BandConditions{}) << "one single line";
     const BandConditions cut = decodeBandConditions("\r\n\r\n\r\n\r\nno tag\r\n<a>cut");

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "event_loop.h"
+#include "platform/web_address.h"
 #include "qt/platform/background_worker.h"
 #include "qt/platform/desktop_web_browser.h"
 #include "qt/platform/home_data_folder.h"
@@ -22,14 +23,49 @@ namespace {
 
 using std::chrono::milliseconds;
 
+// Each is a link in a list if it opens, and only then.
 TEST(DesktopWebBrowserTest, OpensWebAddressesOnly) {
-    const UrlCatcher catcher({"http", "https", "file"});
+    UrlCatcher catcher({"http", "https", "file", "javascript"});
     DesktopWebBrowser browser;
-    for (const char* url : {"https://example.org/corvane/", "file:///etc/passwd", "not an address", "", "https://",
-                            "http://127.0.0.1:8080/a?b=c"}) {
-        browser.open(url);
+    const std::string longest = "http://a.example/" + std::string(longestAddress - 17, 'x');
+    const std::pair<std::string, std::string> opened[] = {
+        {"https://example.org/corvane/", "https://example.org/corvane/"},
+        {" HTTP://127.0.0.1:8080/a?b=c\n", "http://127.0.0.1:8080/a?b=c"},
+        {"http://a.example/a net|100%", "http://a.example/a%20net%7C100%25"},
+        {"http://a.example?q=<b>\\", "http://a.example?q=%3Cb%3E%5C"},
+        {"http://m\u00fcller.example.", "http://xn--mller-kva.example."},
+        {"http://[::1]:80/", "http://[::1]:80/"},
+        {longest, longest},
+    };
+    for (const auto& [text, address] : opened) {
+        browser.open(text);
+        EXPECT_EQ(std::exchange(catcher.taken, {}), std::vector{address});
+        EXPECT_NE(webAddress(text), "");
     }
-    EXPECT_EQ(catcher.taken, (std::vector<std::string>{"https://example.org/corvane/", "http://127.0.0.1:8080/a?b=c"}));
+    const std::vector<std::string> refused{"file:///etc/passwd",
+                                           "javascript:alert(1)",
+                                           "not an address",
+                                           "",
+                                           "https://",
+                                           "https:///path",
+                                           "http://:80/",
+                                           "http:a",
+                                           "http://a b.example/",
+                                           "http://-a.example/",
+                                           "http://a..example/",
+                                           "http://a.example:65536/",
+                                           "http://a.example:8x/",
+                                           "http://[::1/",
+                                           "http://bank.example@a.example/",
+                                           "http://a\\b/",
+                                           "http://\u2025/",
+                                           "http://a\xff/",
+                                           longest + 'x'};
+    for (const std::string& text : refused) {
+        browser.open(text);
+        EXPECT_TRUE(catcher.taken.empty()) << text;
+        EXPECT_EQ(webAddress(text), "");
+    }
 }
 
 TEST(HomeDataFolderTest, SavesWholeFilesAndSaysWhyItCannot) {

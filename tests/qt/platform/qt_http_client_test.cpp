@@ -44,18 +44,20 @@ TEST(QtHttpClientTest, SendsWhatIsAskedAndGivesTheBody) {
     EXPECT_EQ(answer->problem, "");
     ASSERT_EQ(server.requests.size(), 1U);
     EXPECT_TRUE(server.requests[0].starts_with("GET /nets.php HTTP/1.1\r\n"));
-    for (const char* header : {"Cache-Control", "Content-Type", "Content-Length"})
+    for (const char* header : {"Cache-Control", "Content-Type", "Content-Length", "Authorization"})
         EXPECT_EQ(server.requests[0].find(header), std::string::npos) << header;
 
     HttpRequest post = get(server.url("/netconf.php"));
     post.method = "POST";
     post.ignoreCaches = true;
     post.contentType = "Application/json";
+    post.key = "0123";
     post.body = R"({"action":1})";
     ASSERT_TRUE(fetched(post));
     EXPECT_TRUE(server.requests[1].starts_with("POST /netconf.php"));
     EXPECT_NE(server.requests[1].find("Content-Type: Application/json\r\n"), std::string::npos);
     EXPECT_NE(server.requests[1].find("Cache-Control: no-cache"), std::string::npos);
+    EXPECT_NE(server.requests[1].find("Authorization: Bearer 0123\r\n"), std::string::npos);
     EXPECT_TRUE(server.requests[1].ends_with("\r\n\r\n{\"action\":1}"));
 }
 
@@ -212,6 +214,22 @@ TEST(QtHttpClientTest, ARedirectLeadsToNoLessSafeAServer) {
     ASSERT_TRUE(up);
     EXPECT_EQ(up->problem, "");
     EXPECT_EQ(up->body, "here");
+
+    // A key stays with its host.
+    const auto problemWithKey = [](const LocalServer& asked) {
+        HttpRequest request = get(asked.url("/moved"));
+        request.key = "0123";
+        const auto answer = fetched(request);
+        return answer ? answer->problem : "no answer at all";
+    };
+    plain.requests.clear(), safe.requests.clear();
+    EXPECT_EQ(problemWithKey(plain), "");
+    EXPECT_NE(safe.requests.at(0).find("Bearer 0123"), std::string::npos);
+    target = plain.url();
+    EXPECT_EQ(problemWithKey(safe), "redirected to an unsafe address");
+    target = "http://localhost" + plain.url().substr(16);
+    EXPECT_EQ(problemWithKey(plain), "redirected to another server");
+    for (const std::string& request : plain.requests) EXPECT_TRUE(request.starts_with("GET /moved ")) << request;
 }
 
 }  // namespace

@@ -88,6 +88,31 @@ TEST(WindowTest, EveryControlHasItsOwnNameAndExplainsItself) {
     }
 }
 
+// Mark-up in a text from the web, a file or the line is shown, not followed.
+TEST(WindowTest, TextsOfOthersAreShownAsTheyStand) {
+    Station station;
+    const std::string text = "<img src='http://127.0.0.1:1/'>";
+    std::set<QString> labels;
+    forEachPage(station, [&] {
+        for (Control* control : station.display.controls()) {
+            auto* button = dynamic_cast<Button*>(control);
+            if (button && button->outlet().title.empty()) button->setTitle(text);
+            if (auto* box = dynamic_cast<Box*>(control)) box->setTitle(text);
+            if (auto* field = dynamic_cast<TextField*>(control)) field->setStringValue(text);
+        }
+        QCoreApplication::processEvents();
+        for (auto* widget : station.window.findChildren<QWidget*>()) {
+            EXPECT_FALSE(widget->toolTip().contains("<img")) << describe(widget);
+            const auto* label = qobject_cast<QLabel*>(widget);
+            if (!label || !label->text().contains("<img")) continue;
+            EXPECT_EQ(label->textFormat(), Qt::PlainText) << describe(label);
+            labels.insert(label->objectName());
+        }
+    });
+    for (const char* shown : {"linkStatusField", "potaStatusField", "day8040Field", "portDetailsField", ""})
+        EXPECT_TRUE(labels.contains(shown)) << shown << " (the title of a panel has no name)";
+}
+
 TEST(WindowTest, TheTabKeyReachesEveryEnabledControlOfEveryPage) {
     Station station;
     station.controller.enableTextMemoryControls();
