@@ -7,6 +7,12 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     add_compile_options(-Wno-restrict)
 endif()
 
+# A release is hardened as Debian's own packages are (dpkg-buildflags). Debian's compilers make PIEs by themselves.
+add_compile_options($<$<CONFIG:Release>:-fstack-protector-strong> $<$<CONFIG:Release>:-Wformat>
+                    $<$<CONFIG:Release>:-Werror=format-security> $<$<CONFIG:Release>:-U_FORTIFY_SOURCE>
+                    $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
+add_link_options($<$<CONFIG:Release>:-Wl,-z,relro> $<$<CONFIG:Release>:-Wl,-z,now>)
+
 find_program(MOLD mold)
 if(MOLD)
     add_link_options(-fuse-ld=mold)
