@@ -100,6 +100,7 @@ void MemoryChannels::showReadProgress(std::string_view problem) {
     display_.memoryReadProgress.setVisible(progress.running);
     display_.memoryReadProgress.setIntegerValue(progress.handled);
     display_.memoryReadField.setStringValue(progress.text + std::string(problem));
+    if (!progress.running || !problem.empty()) display_.announcements.say(display_.memoryReadField.stringValue());
 }
 
 // Tells the operator when the chain has stopped; it goes on if the reply still comes.

@@ -117,7 +117,6 @@ void PopUpView::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Space:
         case Qt::Key_Return:
         case Qt::Key_Enter:
-        case Qt::Key_F4:
             if (model_.action) return showPopup();
             [[fallthrough]];
         default:

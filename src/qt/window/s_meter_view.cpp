@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "display/spoken_state.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
 
@@ -11,9 +12,13 @@ SMeterView::SMeterView(LevelIndicator& model, ChangeQueue& queue, QWidget* paren
     describe(*this, model);
     setRange(0, model.maximum());
     setTextVisible(false);
+    setFocusPolicy(Qt::TabFocus);
     setFont(typeface(TypeSize::small));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    const auto show = [this, &model] { setValue(model.integerValue()); };
+    const auto show = [this, &model] {
+        setValue(model.integerValue());
+        setAccessibleName(spokenWithValue(model, spokenMeter(model.integerValue())));
+    };
     view_ = model.addView(queue, show);
     show();
 }
@@ -27,6 +32,7 @@ void SMeterView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(font());
+    paintFocus(*this, painter);
     const int segments = maximum();
     const int textHeight = QFontMetrics(font()).height();
     const double step = width() / static_cast<double>(segments);

@@ -26,7 +26,8 @@ public:
     int allRows() const;
 
 signals:
-    void rowsChanged();  // the number of rows, or of those that are shown
+    void rowsChanged();                 // the number of rows, or of those that are shown
+    void sorted(const QString& order);  // "Sorted by Memory Name, ascending"
 
 protected:
     // Enter and Space do what a cell is there for: press, open, choose, edit. Ctrl+Enter presses the row's first
@@ -35,7 +36,10 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    // Only a table with the keyboard tells a screen reader of its current cell; it does so as soon as it gets it.
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void focusInEvent(QFocusEvent* event) override;
 
     // A row is dragged as plain text, its index; a line shows the gap where it would be dropped.
     void startDrag(Qt::DropActions actions) override;
@@ -48,6 +52,7 @@ protected:
 private:
     void setUpHeaders();
     void reload();
+    void tellCurrentCell();
     void act(const QModelIndex& cell);
     void pressCell(const QModelIndex& cell);
     void openPopUp(const QModelIndex& cell);
