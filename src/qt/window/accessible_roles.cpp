@@ -21,7 +21,10 @@ public:
 // Pressing is its one action, whatever its role.
 class KeyInterface : public QAccessibleWidget {
 public:
-    KeyInterface(KeyButton& key, QAccessible::Role role) : QAccessibleWidget(&key, role), key_(key) {}
+    explicit KeyInterface(KeyButton& key) : QAccessibleWidget(&key), key_(key) {}
+
+    // Qt may ask for the interface before the key is complete.
+    QAccessible::Role role() const override { return key_.role(); }
 
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
@@ -48,7 +51,7 @@ QAccessibleInterface* roleInterface(const QString&, QObject* object) {
     if (!object || !object->isWidgetType()) return nullptr;
     const QAccessible::Role role = accessibleRole(*object);
     if (role == QAccessible::NoRole) return nullptr;
-    if (auto* key = qobject_cast<KeyButton*>(object)) return new KeyInterface(*key, role);
+    if (auto* key = qobject_cast<KeyButton*>(object)) return new KeyInterface(*key);
     return new NamedWidget(static_cast<QWidget*>(object), role);
 }
 

@@ -63,6 +63,7 @@ void Announcer::announce() {
     said_.start();
     QAccessibleEvent shows(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&shows);
+    emit announced(accessibleName());
 }
 
 }  // namespace corvane

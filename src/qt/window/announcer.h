@@ -19,6 +19,9 @@ class Announcer : public QWidget {
 public:
     Announcer(Display& display, ChangeQueue& queue, QWidget* parent = nullptr);
 
+signals:
+    void announced(const QString& text);
+
 private:
     void follow(TextField& field, ChangeQueue& queue);
     void collect();

@@ -172,9 +172,8 @@ void MainWindow::addWay(const QKeySequence& keys, std::function<void()> go) {
 // Shows the page, and moves the keyboard into the control; of a field it selects the text, so that typing replaces it.
 void MainWindow::addWayTo(const Control& control, int page) {
     addWay(QKeySequence(toQString(control.outlet().shortcut)), [this, &control, page] {
-        controller_.display.mainTab.selectItem(page);
-        queue_.refresh();
         enterPage(page);
+        queue_.refresh();
         auto* view = findChild<QWidget*>(QString::fromStdString(control.objectName()));
         if (view && view->isEnabled()) return view->setFocus(Qt::ShortcutFocusReason);
         controller_.display.announcements.say(std::string(control.outlet().label) + ", not available now");

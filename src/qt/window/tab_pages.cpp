@@ -1,6 +1,5 @@
 #include "qt/window/tab_pages.h"
 
-#include <QApplication>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -26,10 +25,6 @@ TabPages::TabPages(TabView& model, ChangeQueue& queue, QWidget* parent) : QTabWi
     connect(this, &QTabWidget::currentChanged, this, [this](int index) {
         makePage(index);
         model_.selectItem(index);
-        // A page that was not made yet had nothing that could take the keyboard from the page before it.
-        QWidget* focused = QApplication::focusWidget();
-        if (!focused || focused == currentWidget() || !focused->isVisible()) return takeKeyboard();
-        if (focused != tabBar() && !currentWidget()->isAncestorOf(focused)) emit pageShown(tabText(index));
     });
     view_ = model.addView(queue, [this] { showModel(); });
 }
@@ -45,22 +40,38 @@ void TabPages::addPage(const QString& title, std::function<QWidget*()> make) {
 }
 
 void TabPages::enterPage(int index) {
-    setCurrentIndex(index);
-    const QWidget* focused = QApplication::focusWidget();
+    if (index != currentIndex()) bringToFront(index);
+    const QWidget* focused = window()->focusWidget();
     if (!focused || !currentWidget()->isAncestorOf(focused)) takeKeyboard();
 }
 
+// By itself Qt would give the keyboard to whatever comes next, and then to the empty place of a page not made yet: a
+// screen reader would say them all.
+bool TabPages::bringToFront(int index) {
+    QWidget* focused = window()->focusWidget();
+    const bool leaves = focused && currentWidget()->isAncestorOf(focused);
+    if (leaves) {
+        static_cast<PageArea*>(currentWidget())->lastFocus = focused;
+        focused->clearFocus();
+    }
+    makePage(index);
+    setCurrentIndex(index);
+    if (leaves) takeKeyboard();
+    return leaves || focused == tabBar();
+}
+
 void TabPages::takeKeyboard() {
-    QWidget* before = currentWidget()->focusWidget();
-    const bool usable = before && before->isVisible() && before->isEnabled() && before != currentWidget();
-    QWidget* next = usable ? before : firstTabStop(*currentWidget());
+    QWidget* last = static_cast<PageArea*>(currentWidget())->lastFocus;
+    const bool usable = last && last->isVisibleTo(this) && last->isEnabled();
+    QWidget* next = usable ? last : firstTabStop(*currentWidget());
     (next ? next : tabBar())->setFocus(Qt::OtherFocusReason);
 }
 
 void TabPages::showModel() {
     for (int index = 0; index < count(); ++index)
         if (model_.viewRequested(index)) makePage(index);
-    if (model_.indexOfSelectedItem() < count()) setCurrentIndex(model_.indexOfSelectedItem());
+    const int selected = model_.indexOfSelectedItem();
+    if (selected < count() && selected != currentIndex() && !bringToFront(selected)) emit pageShown(tabText(selected));
 }
 
 void TabPages::makePage(int index) {

@@ -1,6 +1,7 @@
 // A tab view whose pages are made when they are first shown or asked for.
 #pragma once
 
+#include <QPointer>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <functional>
@@ -16,6 +17,8 @@ class PageArea : public QScrollArea {
 
 public:
     explicit PageArea(const QString& title);
+
+    QPointer<QWidget> lastFocus;  // where the keyboard was when the page was left
 };
 
 class TabPages : public QTabWidget {
@@ -37,6 +40,7 @@ public:
 private:
     void showModel();
     void makePage(int index);
+    bool bringToFront(int index);  // whether the keyboard tells of the page
     void takeKeyboard();
 
     TabView& model_;
