@@ -2,6 +2,8 @@
 
 #include <fmt/core.h>
 
+#include "wire/wire_text.h"
+
 namespace corvane {
 
 namespace {
@@ -19,8 +21,14 @@ std::string spokenMeter(int level) { return level > 9 ? "above S9" : fmt::format
 std::string spokenTuning(const Display& display) {
     const bool sideB = display.activeVfoField.stringValue() == "B";
     const std::string& frequency = (sideB ? display.vqFreqBButton : display.vqFreqAButton).title();
-    std::string text = frequency.empty() ? std::string() : frequency + " MHz";
+    // On a memory channel the VFO keeps the frequency it had; the field has the one in use.
+    const TextField& inUse = display.freqTextField;
+    const bool onVfo = inUse.editing() || frequency.starts_with(inUse.stringValue());
+    const std::string& shown = onVfo ? frequency : inUse.stringValue();
+    std::string text = shown.empty() ? std::string() : shown + " MHz";
     append(text, display.modeField.stringValue());
+    if (display.vqMemAButton.bezelColor() != Color::none)
+        append(text, std::string("memory ").append(trimmed(display.vqMemAButton.title())));
     return text;
 }
 

@@ -26,19 +26,21 @@ Announcer::Announcer(Display& display, ChangeQueue& queue, QWidget* parent) : QW
     views_.push_back(display.announcements.addView(queue, [this] { collect(); }));
     for (TextField* field : {&display.linkStatusField, &display.linkMessageField, &display.callNoticeField,
                              &display.textMemoryNoticeField, &display.memoryTextNoticeField})
-        follow(*field, queue);
-    for (Control* control : std::initializer_list<Control*>{&display.vqFreqAButton, &display.vqFreqBButton,
-                                                            &display.activeVfoField, &display.modeField})
+        follow(*field, queue, {});
+    follow(display.sentTextMemoryField, queue, "Sent: ");
+    for (Control* control :
+         std::initializer_list<Control*>{&display.vqFreqAButton, &display.vqFreqBButton, &display.activeVfoField,
+                                         &display.modeField, &display.freqTextField, &display.vqMemAButton})
         views_.push_back(control->addView(queue, [this] {
             if (tuning_) due_.start(settleTime);
         }));
 }
 
-// Says every new text of the field.
-void Announcer::follow(TextField& field, ChangeQueue& queue) {
-    views_.push_back(field.addView(queue, [this, &field, last = field.stringValue()]() mutable {
-        if (std::exchange(last, field.stringValue()) != field.stringValue())
-            display_.announcements.say(field.stringValue());
+// Says the first line of every new text of the field.
+void Announcer::follow(TextField& field, ChangeQueue& queue, const std::string& before) {
+    views_.push_back(field.addView(queue, [this, &field, before, last = field.stringValue()]() mutable {
+        if (std::exchange(last, field.stringValue()) == field.stringValue() || last.empty()) return;
+        display_.announcements.say(before + last.substr(0, last.find('\n')));
     }));
 }
 

@@ -23,7 +23,7 @@ signals:
     void announced(const QString& text);
 
 private:
-    void follow(TextField& field, ChangeQueue& queue);
+    void follow(TextField& field, ChangeQueue& queue, const std::string& before);
     void collect();
     void announce();
 

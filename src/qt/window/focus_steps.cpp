@@ -27,14 +27,12 @@ void forEachTabStop(const QWidget& area, Visit visit) {
 }
 
 const QWidget* panelOf(const QWidget* widget) {
-    const QWidget* found = nullptr;
-    for (; widget; widget = widget->parentWidget()) {
-        if (qobject_cast<const Panel*>(widget)) return widget;
-        const bool counts = qobject_cast<const HeaderBar*>(widget) || qobject_cast<const QTabBar*>(widget) ||
-                            qobject_cast<const PageArea*>(widget) || qobject_cast<const TableWidget*>(widget);
-        if (counts && !found) found = widget;
-    }
-    return found;
+    for (; widget; widget = widget->parentWidget())
+        if (qobject_cast<const Panel*>(widget) || qobject_cast<const HeaderBar*>(widget) ||
+            qobject_cast<const QTabBar*>(widget) || qobject_cast<const PageArea*>(widget) ||
+            qobject_cast<const TableWidget*>(widget))
+            return widget;
+    return nullptr;
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace corvane {
 QWidget* firstTabStop(const QWidget& area);
 
 // Moves the keyboard to the first control of the next panel of the window, or of the one before it, round and round.
-// The header, a row of tabs, a page without panels and a table outside of a panel count as panels.
+// The header, a row of tabs, a table and a page without panels count as panels.
 void stepPanel(QWidget& window, bool forward);
 
 }  // namespace corvane

@@ -145,9 +145,10 @@ void MainWindow::addPreference(QMenu& menu, MenuItem& item) {
     action->setObjectName(QString::fromStdString(item.objectName()));
     action->setToolTip(toolTipOf(item));
     action->setCheckable(true);
-    connect(action, &QAction::triggered, this, [action, &item] {
+    connect(action, &QAction::triggered, this, [this, action, &item] {
         item.performClick();
         action->setChecked(item.checked());
+        controller_.display.announcements.say(std::string(item.outlet().label) + (item.checked() ? " on" : " off"));
     });
     const auto show = [action, &item] { action->setChecked(item.checked()); };
     preferences_.push_back(item.addView(queue_, show));
@@ -172,11 +173,10 @@ void MainWindow::addWay(const QKeySequence& keys, std::function<void()> go) {
 // Shows the page, and moves the keyboard into the control; of a field it selects the text, so that typing replaces it.
 void MainWindow::addWayTo(const Control& control, int page) {
     addWay(QKeySequence(toQString(control.outlet().shortcut)), [this, &control, page] {
-        enterPage(page);
         queue_.refresh();
-        auto* view = findChild<QWidget*>(QString::fromStdString(control.objectName()));
-        if (view && view->isEnabled()) return view->setFocus(Qt::ShortcutFocusReason);
-        controller_.display.announcements.say(std::string(control.outlet().label) + ", not available now");
+        pages_->enterPage(page, QString::fromStdString(control.objectName()));
+        if (!control.enabled())
+            controller_.display.announcements.say(std::string(control.outlet().label) + ", not available now");
     });
 }
 

@@ -70,6 +70,7 @@ PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent)
     : QComboBox(parent), model_(model), entries_(new EntryModel(model, this)) {
     describe(*this, model);
     setModel(entries_);
+    view()->setAccessibleName(labelOf(model));
     if (auto* list = qobject_cast<QListView*>(view()))
         list->setUniformItemSizes(true);  // so that Qt does not measure each
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

@@ -39,8 +39,10 @@ void TabPages::addPage(const QString& title, std::function<QWidget*()> make) {
     if (index == currentIndex() || model_.viewRequested(index)) makePage(index);
 }
 
-void TabPages::enterPage(int index) {
-    if (index != currentIndex()) bringToFront(index);
+void TabPages::enterPage(int index, const QString& control) {
+    bringToFront(index);
+    auto* wanted = control.isEmpty() ? nullptr : currentWidget()->findChild<QWidget*>(control);
+    if (wanted && wanted->isEnabled()) return wanted->setFocus(Qt::ShortcutFocusReason);
     const QWidget* focused = window()->focusWidget();
     if (!focused || !currentWidget()->isAncestorOf(focused)) takeKeyboard();
 }
@@ -48,6 +50,7 @@ void TabPages::enterPage(int index) {
 // By itself Qt would give the keyboard to whatever comes next, and then to the empty place of a page not made yet: a
 // screen reader would say them all.
 bool TabPages::bringToFront(int index) {
+    if (index == currentIndex()) return false;
     QWidget* focused = window()->focusWidget();
     const bool leaves = focused && currentWidget()->isAncestorOf(focused);
     if (leaves) {
@@ -56,8 +59,7 @@ bool TabPages::bringToFront(int index) {
     }
     makePage(index);
     setCurrentIndex(index);
-    if (leaves) takeKeyboard();
-    return leaves || focused == tabBar();
+    return leaves;
 }
 
 void TabPages::takeKeyboard() {

@@ -27,8 +27,9 @@ class TabPages : public QTabWidget {
 public:
     TabPages(TabView& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
-    // Brings a page to the front and gives the keyboard to where it was on it, at first to its first control.
-    void enterPage(int index);
+    // Brings a page to the front and gives the keyboard to the control with this object name. Without one, or if it
+    // cannot be used, the keyboard goes to where it was on the page, at first to its first control.
+    void enterPage(int index, const QString& control = {});
 
 signals:
     void pageShown(const QString& title);  // while the keyboard was elsewhere, so that a screen reader says nothing
@@ -40,7 +41,7 @@ public:
 private:
     void showModel();
     void makePage(int index);
-    bool bringToFront(int index);  // whether the keyboard tells of the page
+    bool bringToFront(int index);  // whether the keyboard was on the page before; then it is nowhere
     void takeKeyboard();
 
     TabView& model_;
