@@ -1,5 +1,6 @@
 #include "qt/window/tab_pages.h"
 
+#include <QAccessible>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -9,6 +10,17 @@
 #include "qt/window/focus_steps.h"
 
 namespace corvane {
+
+namespace {
+
+// Qt would tell a screen reader of the widget that loses the keyboard, as if it got it.
+void clearFocusQuietly(QWidget& widget) {
+    const QAccessible::UpdateHandler before = QAccessible::installUpdateHandler([](QAccessibleEvent*) {});
+    widget.clearFocus();
+    QAccessible::installUpdateHandler(before);
+}
+
+}  // namespace
 
 PageArea::PageArea(const QString& title) {
     setWidgetResizable(true);
@@ -55,7 +67,7 @@ bool TabPages::bringToFront(int index) {
     const bool leaves = focused && currentWidget()->isAncestorOf(focused);
     if (leaves) {
         static_cast<PageArea*>(currentWidget())->lastFocus = focused;
-        focused->clearFocus();
+        clearFocusQuietly(*focused);
     }
     makePage(index);
     setCurrentIndex(index);
@@ -73,7 +85,11 @@ void TabPages::showModel() {
     for (int index = 0; index < count(); ++index)
         if (model_.viewRequested(index)) makePage(index);
     const int selected = model_.indexOfSelectedItem();
-    if (selected < count() && selected != currentIndex() && !bringToFront(selected)) emit pageShown(tabText(selected));
+    if (selected >= count() || selected == currentIndex()) return;
+    if (bringToFront(selected))
+        takeKeyboard();
+    else if (!tabBar()->hasFocus())
+        emit pageShown(tabText(selected));
 }
 
 void TabPages::makePage(int index) {
