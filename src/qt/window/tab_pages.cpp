@@ -1,5 +1,6 @@
 #include "qt/window/tab_pages.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QSignalBlocker>
 #include <QTabBar>
@@ -66,7 +67,9 @@ bool TabPages::bringToFront(int index) {
     QWidget* focused = window()->focusWidget();
     const bool leaves = focused && currentWidget()->isAncestorOf(focused);
     if (leaves) {
-        static_cast<PageArea*>(currentWidget())->lastFocus = focused;
+        // An editor in a table ends with its focus.
+        auto* table = qobject_cast<QAbstractItemView*>(focused->parentWidget()->parentWidget());
+        static_cast<PageArea*>(currentWidget())->lastFocus = table ? table : focused;
         clearFocusQuietly(*focused);
     }
     makePage(index);

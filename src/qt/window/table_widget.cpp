@@ -1,6 +1,7 @@
 #include "qt/window/table_widget.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDrag>
 #include <QHeaderView>
@@ -93,7 +94,7 @@ void TableWidget::reload() {
         const QModelIndex cell = rows_->index(std::min(place_->first, shownRows() - 1), place_->second);
         selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect);
     }
-    rows_->watch(currentIndex());
+    if (currentIndex().isValid() || !left_.isValid()) rows_->watch(currentIndex());
     setDragEnabled(model_.takesDraggedText());
     setAcceptDrops(model_.takesDraggedText());
     emit rowsChanged();
@@ -112,7 +113,7 @@ void TableWidget::currentChanged(const QModelIndex& current, const QModelIndex& 
         QTableView::currentChanged(current, previous);
     else
         QAbstractItemView::currentChanged(current, previous);
-    rows_->watch(current);
+    if (current.isValid()) rows_->watch(current);
 }
 
 void TableWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
@@ -121,12 +122,34 @@ void TableWidget::selectionChanged(const QItemSelection& selected, const QItemSe
 }
 
 void TableWidget::focusInEvent(QFocusEvent* event) {
+    if (!currentIndex().isValid() && left_.isValid())
+        selectionModel()->setCurrentIndex(left_, QItemSelectionModel::NoUpdate);
     // A row is known by its call or name, which no table has in its first column.
     if (!currentIndex().isValid() && shownRows() > 0)
         selectionModel()->setCurrentIndex(rows_->index(0, model_.tellingColumn()), QItemSelectionModel::NoUpdate);
     QTableView::focusInEvent(event);
     // Qt itself tells of the table, after this event.
     QMetaObject::invokeMethod(this, &TableWidget::tellCurrentCell, Qt::QueuedConnection);
+}
+
+void TableWidget::focusOutEvent(QFocusEvent* event) {
+    QTableView::focusOutEvent(event);
+    const bool comesBack = event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+    if (!comesBack) leaveCell();
+}
+
+void TableWidget::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    QTableView::closeEditor(editor, hint);
+    leaveCell();
+}
+
+// Unless the keyboard is in the table or its editor.
+void TableWidget::leaveCell() {
+    const QWidget* focused = QApplication::focusWidget();
+    if (hasFocus() || (focused && isAncestorOf(focused)) || !currentIndex().isValid()) return;
+    left_ = currentIndex();
+    place_.reset();
+    selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
 }
 
 void TableWidget::tellCurrentCell() {

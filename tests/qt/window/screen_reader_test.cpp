@@ -125,7 +125,10 @@ TEST(ScreenReaderTest, TheKeyboardGoesWhereItIsOfUseAndNowhereElseOnTheWay) {
     memories.edit(memories.model()->index(4, 4));
     QTest::keySequence(memories.findChild<QLineEdit*>(), QKeySequence("F1"));
     EXPECT_TRUE(eventually([&] { return !memories.isVisible(); }));
+    EXPECT_FALSE(memories.currentIndex().isValid()) << "no cell has the keyboard";
     EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "F1, This page");
+    station.press("Alt+4");
+    EXPECT_EQ(memories.currentIndex(), memories.model()->index(4, 4)) << "where it was";
 }
 
 TEST(ScreenReaderTest, APageIsReachedFromAnOpenPopUp) {
