@@ -2,8 +2,9 @@
 
 namespace corvane {
 
-void Voice::speak(std::string_view text) {
-    if (preferences_.voiceGuide()) synth.speak(text, synthVoice);
+void Voice::speak(std::string_view text, std::string_view written) {
+    if (preferences_.voiceGuide()) return synth.speak(text, synthVoice);
+    onSilence(written);
 }
 
 void Voice::playSound(std::string_view name) {

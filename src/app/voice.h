@@ -2,6 +2,7 @@
 // always.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -17,7 +18,10 @@ public:
     Voice(const Preferences& preferences, SpeechSynthesizer& speech, SoundPlayer& sounds, Alerts& alerts)
         : synth(speech), preferences_(preferences), sounds_(sounds), alerts_(alerts) {}
 
-    void speak(std::string_view text);            // while the voice guide is on
+    void speak(std::string_view text) { speak(text, text); }  // while the voice guide is on
+    // While it is off, a screen reader says `written` instead; of an empty text it says nothing.
+    void speak(std::string_view text, std::string_view written);
+    std::function<void(std::string_view written)> onSilence = [](std::string_view) {};
     void playSound(std::string_view name);        // while sounds are on: "Seatbelts"
     void playSystemSound(std::string_view name);  // "Basso"
     // Shows a box over the window, with a sound: what went wrong, then what to do about it.

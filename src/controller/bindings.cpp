@@ -5,6 +5,7 @@
 #include "controller/cell_views.h"
 #include "controller/serial_port_demo_controller.h"
 #include "controls/sendable_text.h"
+#include "display/spoken_state.h"
 #include "feeds/feed_table.h"
 
 namespace corvane {
@@ -14,6 +15,7 @@ void SerialPortDemoController::bindControls() {
         display.key(row.outlet.tag).action = [this](Button& sender) { go(sender); };
     display.sendButton.action = [this](Button& sender) { sendBox(sender); };
     display.sendTextField.action = [this](TextField& sender) { returnPressedInTextField(sender); };
+    display.sayStateButton.action = [this](Button&) { speak(spokenState(display)); };
     display.openCloseButton.action = [this](Button& sender) { openOrClosePort(sender); };
     display.PortPopUpButton.action = [this](PopUpButton& sender) { link.choosePort(sender); };
     display.BaudPopUpButton.action = [this](PopUpButton& sender) { link.chooseBaudRate(sender); };
@@ -107,6 +109,17 @@ void SerialPortDemoController::bindTables() {
     bind(buttonCellViews);
     bind(popUpCellViews);
     bind(textCellViews);
+    // After each of these an operator who does not look waits for the frequency.
+    const auto sayTuningAfter = [this](auto& control) {
+        control.action = [this, act = std::move(control.action)](auto& sender) {
+            act(sender);
+            display.announcements.sayTuning();
+        };
+    };
+    for (const auto& row : buttonCellViews)
+        if (row.column.starts_with("tune")) sayTuningAfter(display.*row.control);
+    sayTuningAfter(display.presetPopUpButton);
+    sayTuningAfter(display.memPopUpButton);
 }
 
 }  // namespace corvane

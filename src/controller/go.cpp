@@ -3,6 +3,7 @@
 
 #include "controller/serial_port_demo_controller.h"
 #include "controls/setup_pop_ups.h"
+#include "feeds/feed_table.h"
 #include "interpret/menu_groups.h"
 
 namespace corvane {
@@ -35,7 +36,12 @@ struct Press {
     void operator()(const ClearAutoMemoriesKey&) const { face.autoMemories.clear(); }
     // Only a refresh that a key started ends with a sound.
     void operator()(const RefreshKey& key) const {
-        const auto sound = [&voice = face.voice] { voice.playSound("Funk"); };
+        const auto& status =
+            key.feed == Feed::bandConditions ? face.display.bandStatusField : face.display.*listFeed(key.feed).status;
+        const auto sound = [&face = face, &status] {
+            face.voice.playSound("Funk");
+            face.display.announcements.say(status.stringValue());
+        };
         if (key.feed == Feed::bandConditions)
             face.conditions.fetch({.sound = sound, .then = {}});
         else
@@ -46,9 +52,12 @@ struct Press {
 }  // namespace
 
 void SerialPortDemoController::go(Button& sender) {
-    if (const FrontPanelKey* key = frontPanelKey(sender.tag()))
+    if (const FrontPanelKey* key = frontPanelKey(sender.tag())) {
         std::visit(Press{*this, sender, key->outlet.tag}, key->action);
-    else
+        // The voice guide speaks the frequency of a VFO by itself.
+        const bool spoken = std::holds_alternative<VfoKey>(key->action) && preferences.voiceGuide();
+        if (tunes(key->panel) && !spoken) display.announcements.sayTuning();
+    } else
         frontPanel.pressWithoutAction(sender);
 }
 

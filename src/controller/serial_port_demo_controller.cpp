@@ -45,6 +45,7 @@ SerialPortDemoController::~SerialPortDemoController() {
 }
 
 void SerialPortDemoController::wire() {
+    voice.onSilence = [this](std::string_view written) { display.announcements.say(written); };
     link.onReady = [this](bool ready) { memories.setKeysEnabled(ready); };
     link.onClosed = [this] {
         display.keepAsLastKnown();

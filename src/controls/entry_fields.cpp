@@ -22,6 +22,7 @@ void EntryFields::doTune(Button&) {
         return voice_.warn(frequencyTooHigh.message, frequencyTooHigh.detail);
     const char vfo = mirror_.state().vqAorB == "A" ? 'A' : 'B';
     link_.write((typed.upperSideBand ? "MD02;F" : "MD01;F") + (vfo + zeroPadded(typed.hertz, 9)) + ";SS0670000;");
+    display_.announcements.sayTuning();
     field.resignFirstResponder();
 }
 

@@ -127,7 +127,8 @@ void FrontPanel::press(Button&, const VfoKey& key) {
     const std::string& title = (toA ? display_.vqFreqAButton : display_.vqFreqBButton).title();
     mirror_.highlightBand(decimalOrZero(without(title, ".")));
     mirror_.setTunedBy(key.vfo, "vfo");
-    voice_.speak(toA ? "VFO eh..." + mirror_.state().vqVFOA : "VFO bee..." + mirror_.state().vqVFOB);
+    voice_.speak(toA ? "VFO eh..." + mirror_.state().vqVFOA : "VFO bee..." + mirror_.state().vqVFOB,
+                 toA ? "VFO A" : "VFO B");
     finish(toA ? "VS1;ST0;MD0;VS0;IF;" : "VS0;ST0;MD0;VS1;OI;");
 }
 

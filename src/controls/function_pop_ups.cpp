@@ -34,7 +34,7 @@ void FunctionPopUps::goMode(PopUpButton& sender) {
     const std::string command = modeCommand(sender.indexOfSelectedItem());
     if (command.empty()) return;
     link_.send(command);
-    voice_.speak(sender.titleOfSelectedItem());
+    voice_.speak(sender.titleOfSelectedItem(), {});  // a screen reader reads the pop-up itself
 }
 
 void FunctionPopUps::goMemory(PopUpButton& sender) {
@@ -43,7 +43,7 @@ void FunctionPopUps::goMemory(PopUpButton& sender) {
     if (command.empty()) return;
     if (preferences_.memoryIpo()) command += "PA00;";
     link_.send(std::move(command));
-    if (index < memoryChannels) voice_.speak(mirror_.tagOfChannel(index));
+    if (index < memoryChannels) voice_.speak(mirror_.tagOfChannel(index), {});
 }
 
 // These two are sent without becoming `cmd`.
@@ -98,7 +98,8 @@ void FunctionPopUps::noteSent(std::string_view command) {
 void FunctionPopUps::send(PopUpButton& sender, const SetupPopUp& row) {
     const int index = sender.indexOfSelectedItem();
     link_.send(setupCommand(row, index, sender.titleOfSelectedItem()));
-    if (row.choice == SetupChoice::watts && index >= 0) voice_.speak(std::to_string(index + lowestPower) + " watts");
+    if (row.choice == SetupChoice::watts && index >= 0)
+        voice_.speak(std::to_string(index + lowestPower) + " watts", {});
 }
 
 }  // namespace corvane

@@ -7,6 +7,7 @@
 #include <span>
 #include <string_view>
 
+#include "display/announcements.h"
 #include "display/box.h"
 #include "display/button.h"
 #include "display/control_list.h"
@@ -44,6 +45,8 @@ struct Display {
     // The transceiver is out of reach: what it has reported is shown as last known until it is reported again.
     void keepAsLastKnown() { made.keepAsLastKnown(); }
 
+    Announcements announcements;  // no control: it is not among the controls
+
 private:
     ControlList made;         // before any control
     std::deque<Button> keys;  // in the order of frontPanelKeys
@@ -68,6 +71,9 @@ public:
     Button licenseClassButton{
         {"licenseClassButton", 0, "", "Operator class", "Operator class allowed on this frequency."}};
     TextField linkStatusField{{"linkStatusField", 0, "", "Link", "Whether the transceiver is connected."}};
+    Button sayStateButton{
+        {"sayStateButton", 0, "Say the state", "Say the state",
+         "Tell a screen reader the active VFO, its frequency, the mode, the meter and the operator class.", "Ctrl+I"}};
     TextField linkMessageField{{"linkMessageField", 0, "", "Message", "What went wrong, and what to do about it."}};
 
     // --- station page
@@ -113,10 +119,10 @@ public:
         {"presetPopUpButton", 0, "Presets", "Preset", "Go to a preset frequency with its mode and scope settings."}};
 
     // --- radio page: pop-ups and sliders
-    PopUpButton modesPopUpButton{{"modesPopUpButton", 0, "Mode", "Mode", "Operating mode."}};
-    PopUpButton memPopUpButton{{"memPopUpButton", 0, "Memory", "Memory channel", "Memory channel in use."}};
-    PopUpButton AGCPopUpButton{
-        {"AGCPopUpButton", 0, "AGC", "Automatic gain control", "Automatic gain control: how fast it recovers."}};
+    PopUpButton modesPopUpButton{{"modesPopUpButton", 0, "Mode", "Mode", "Operating mode.", "Alt+M"}};
+    PopUpButton memPopUpButton{{"memPopUpButton", 0, "Memory", "Memory channel", "Memory channel in use.", "Alt+N"}};
+    PopUpButton AGCPopUpButton{{"AGCPopUpButton", 0, "AGC", "Automatic gain control",
+                                "Automatic gain control: how fast it recovers.", "Alt+G"}};
     PopUpButton ATTPopUpButton{{"ATTPopUpButton", 0, "ATT", "Attenuator", "Attenuator before the receiver."}};
     PopUpButton ampPopUpButton{{"ampPopUpButton", 0, "IPO / AMP", "Pre-amplifier", "Pre-amplifier; IPO is none."}};
     PopUpButton RFILPopUpButton{
@@ -141,8 +147,8 @@ public:
     PopUpButton scopeLevelPopUpButton{
         {"", 2004, "Level", "Scope level in decibels", "Reference level of the scope in dB."}};
     PopUpButton scopeSpanPopUpButton{{"", 2005, "Span", "Scope span", "Width of the band that the scope shows."}};
-    Slider afGainSlider{{"afGainSlider", 0, "AF gain", "AF gain", "Volume, 0 to 255."}, 0, 255};
-    Slider rfGainSlider{{"rfGainSlider", 0, "RF gain", "RF gain", "Receiver gain, 0 to 255."}, 0, 255};
+    Slider afGainSlider{{"afGainSlider", 0, "AF gain", "AF gain", "Volume, 0 to 255.", "Alt+A"}, 0, 255};
+    Slider rfGainSlider{{"rfGainSlider", 0, "RF gain", "RF gain", "Receiver gain, 0 to 255.", "Alt+F"}, 0, 255};
 
     // --- keyer page
     Box sendBox{{"sendBox", 0, "Keyer / Encoder", "Keyer"}};
@@ -190,7 +196,7 @@ public:
     Button autoMemoryNowButton{{"autoMemoryNowButton", 0, "Keep frequency", "Keep the frequency",
                                 "Record the present frequency and mode as an auto memory.", "Ctrl+Shift+M"}};
     Slider autoMemSquelchSlider{{"autoMemSquelchSlider", 0, "Squelch", "Auto-memory squelch",
-                                 "How strong a signal must be for its frequency to be recorded."},
+                                 "How strong a signal must be for its frequency to be recorded.", "Alt+S"},
                                 0,
                                 15};
     TextField autoMemSquelchTextField{

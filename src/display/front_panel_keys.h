@@ -29,6 +29,12 @@ enum class KeyPanel {
     none
 };
 
+// Whether its keys change the frequency or the mode.
+constexpr bool tunes(KeyPanel panel) {
+    return panel == KeyPanel::header || panel == KeyPanel::bands || panel == KeyPanel::modes ||
+           panel == KeyPanel::vfo || panel == KeyPanel::steps;
+}
+
 struct FrontPanelKey {
     Outlet outlet;
     KeyPanel panel;
@@ -114,11 +120,11 @@ inline constexpr std::array frontPanelKeys{
     FrontPanelKey{{"vqMemAButton", 502, "", "Memory", "Go to the memory channel.", "F4"}, KeyPanel::header, MemoryKey{}},
     FrontPanelKey{{"", 503, "MEM B", "Memory on side B", "Put side B on its memory channel."}, KeyPanel::vfo, MemoryBKey{}},
 
-    FrontPanelKey{{"textMemory1Button", 601, "", "Text memory 1", "Transmit text memory 1 of the present mode.", "F5"}, KeyPanel::textMemories, TextMemoryKey{1}},
-    FrontPanelKey{{"textMemory2Button", 602, "", "Text memory 2", "Transmit text memory 2 of the present mode.", "F6"}, KeyPanel::textMemories, TextMemoryKey{2}},
-    FrontPanelKey{{"textMemory3Button", 603, "", "Text memory 3", "Transmit text memory 3 of the present mode.", "F7"}, KeyPanel::textMemories, TextMemoryKey{3}},
-    FrontPanelKey{{"textMemory4Button", 604, "", "Text memory 4", "Transmit text memory 4 of the present mode.", "F8"}, KeyPanel::textMemories, TextMemoryKey{4}},
-    FrontPanelKey{{"textMemory5Button", 605, "", "Text memory 5", "Transmit text memory 5 of the present mode.", "F9"}, KeyPanel::textMemories, TextMemoryKey{5}},
+    FrontPanelKey{{"textMemory1Button", 601, "", "Text memory 1", "Transmit text memory 1 of the present mode.", "Shift+F1"}, KeyPanel::textMemories, TextMemoryKey{1}},
+    FrontPanelKey{{"textMemory2Button", 602, "", "Text memory 2", "Transmit text memory 2 of the present mode.", "Shift+F2"}, KeyPanel::textMemories, TextMemoryKey{2}},
+    FrontPanelKey{{"textMemory3Button", 603, "", "Text memory 3", "Transmit text memory 3 of the present mode.", "Shift+F3"}, KeyPanel::textMemories, TextMemoryKey{3}},
+    FrontPanelKey{{"textMemory4Button", 604, "", "Text memory 4", "Transmit text memory 4 of the present mode.", "Shift+F4"}, KeyPanel::textMemories, TextMemoryKey{4}},
+    FrontPanelKey{{"textMemory5Button", 605, "", "Text memory 5", "Transmit text memory 5 of the present mode.", "Shift+F5"}, KeyPanel::textMemories, TextMemoryKey{5}},
     FrontPanelKey{{"", 606, "Clear log", "Clear the log of sent texts", "Empty the log of what was sent."}, KeyPanel::keyer, ClearLogKey{}},
     FrontPanelKey{{"muteButton", 610, "MUTE", "Mute", "Silence the receiver; press again for the volume as it was.", "Ctrl+M"}, KeyPanel::functions, MuteKey{}},
 

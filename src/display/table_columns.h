@@ -9,8 +9,8 @@ namespace corvane {
 
 inline constexpr std::array memoriesTableColumns{
     TableColumn{"handle", "", 1},
-    TableColumn{"memChan", "Channel", 8},
-    TableColumn{"frequency", "Frequency (MHz)", 18, TableColumn::Alignment::right, true},
+    TableColumn{"memChan", "Channel", 8, TableColumn::Alignment::left, false, TableColumn::Tells::name},
+    TableColumn{"frequency", "Frequency (MHz)", 18, TableColumn::Alignment::right, true, TableColumn::Tells::megahertz},
     TableColumn{"mode", "Mode", 13},
     TableColumn{"memTag", "Memory Name", 16, TableColumn::Alignment::left, true},
 };
@@ -24,7 +24,7 @@ static_assert(memoriesTableColumns[memoryTagColumn].identifier == "memTag");
 
 inline constexpr std::array autoMemTableColumns{
     TableColumn{"tune", "Tune", 8, TableColumn::Alignment::center},
-    TableColumn{"freq", "Frequency (Hz)", 16, TableColumn::Alignment::right},
+    TableColumn{"freq", "Frequency (Hz)", 16, TableColumn::Alignment::right, false, TableColumn::Tells::hertz},
     TableColumn{"mode", "Mode", 12},
     TableColumn{"clear", "Clear", 8, TableColumn::Alignment::center},
     TableColumn{"notes1", "Notes", 16},
@@ -35,8 +35,8 @@ static_assert(autoMemTableColumns[autoMemTableNotesColumn].identifier == "notes1
 // Of the on-line lists.
 inline constexpr std::array potaTableColumns{
     TableColumn{"tune", "Tune", 8, TableColumn::Alignment::center},
-    TableColumn{"activator", "Activator", 12},
-    TableColumn{"frequency", "kHz", 10, TableColumn::Alignment::right},
+    TableColumn{"activator", "Activator", 12, TableColumn::Alignment::left, false, TableColumn::Tells::name},
+    TableColumn{"frequency", "kHz", 10, TableColumn::Alignment::right, false, TableColumn::Tells::kilohertz},
     TableColumn{"mode", "Mode", 7},
     TableColumn{"reference", "Park", 10, TableColumn::Alignment::center},
     TableColumn{"name", "Name", 34},
@@ -46,9 +46,9 @@ inline constexpr std::array potaTableColumns{
 };
 inline constexpr std::array sotaTableColumns{
     TableColumn{"tune2", "Tune", 8, TableColumn::Alignment::center},
-    TableColumn{"activator2", "Activator", 12},
+    TableColumn{"activator2", "Activator", 12, TableColumn::Alignment::left, false, TableColumn::Tells::name},
     TableColumn{"activatorName", "Operator", 14},
-    TableColumn{"frequency2", "kHz", 10, TableColumn::Alignment::right},
+    TableColumn{"frequency2", "kHz", 10, TableColumn::Alignment::right, false, TableColumn::Tells::kilohertz},
     TableColumn{"mode2", "Mode", 7},
     TableColumn{"name2", "Summit", 26},
     TableColumn{"location2", "Height", 10},
@@ -58,15 +58,15 @@ inline constexpr std::array sotaTableColumns{
 };
 inline constexpr std::array netLoggerTableColumns{
     TableColumn{"tune", "Tune", 8, TableColumn::Alignment::center},
-    TableColumn{"netName", "Net", 40},
-    TableColumn{"freq", "kHz", 12, TableColumn::Alignment::right},
+    TableColumn{"netName", "Net", 40, TableColumn::Alignment::left, false, TableColumn::Tells::name},
+    TableColumn{"freq", "kHz", 12, TableColumn::Alignment::right, false, TableColumn::Tells::kilohertz},
     TableColumn{"mode2", "Mode", 8},
     TableColumn{"checkIns", "Subscribers", 12, TableColumn::Alignment::right},
 };
 inline constexpr std::array netsTableColumns{
     TableColumn{"tune3", "Tune", 8, TableColumn::Alignment::center},
-    TableColumn{"netName", "Net", 36},
-    TableColumn{"freq", "MHz", 10, TableColumn::Alignment::right},
+    TableColumn{"netName", "Net", 36, TableColumn::Alignment::left, false, TableColumn::Tells::name},
+    TableColumn{"freq", "MHz", 10, TableColumn::Alignment::right, false, TableColumn::Tells::megahertz},
     TableColumn{"utc", "UTC", 10},
     TableColumn{"mode", "Mode", 8},
     TableColumn{"confirmed", "Confirmed", 12},
@@ -74,8 +74,10 @@ inline constexpr std::array netsTableColumns{
     TableColumn{"unconfirm", "Retract", 10, TableColumn::Alignment::center},
 };
 inline constexpr std::array mwTableColumns{
-    TableColumn{"tune3", "Tune", 8, TableColumn::Alignment::center},  TableColumn{"station", "Station", 30},
-    TableColumn{"freq", "kHz", 10, TableColumn::Alignment::right},    TableColumn{"city", "City", 26},
+    TableColumn{"tune3", "Tune", 8, TableColumn::Alignment::center},
+    TableColumn{"station", "Station", 30, TableColumn::Alignment::left, false, TableColumn::Tells::name},
+    TableColumn{"freq", "kHz", 10, TableColumn::Alignment::right, false, TableColumn::Tells::kilohertz},
+    TableColumn{"city", "City", 26},
     TableColumn{"power", "Power", 12, TableColumn::Alignment::right},
 };
 

@@ -2,7 +2,36 @@
 
 #include <algorithm>
 
+#include "wire/decimal_number.h"
+
 namespace corvane {
+
+namespace {
+
+// "14285.0" in kilohertz gives "14.285 MHz"; a text that is no number stays.
+std::string spokenFrequency(std::string text, double inOneMegahertz) {
+    const double megahertz = numberOrZero(text) / inOneMegahertz;
+    if (megahertz <= 0) return text;
+    std::string digits = withDecimals(megahertz, 6);
+    digits.resize(digits.find_last_not_of('0') + 1);
+    if (digits.back() == '.') digits.pop_back();
+    return digits + " MHz";
+}
+
+std::string told(std::string text, TableColumn::Tells tells) {
+    switch (tells) {
+        case TableColumn::Tells::hertz:
+            return spokenFrequency(std::move(text), 1'000'000);
+        case TableColumn::Tells::kilohertz:
+            return spokenFrequency(std::move(text), 1'000);
+        case TableColumn::Tells::megahertz:
+            return spokenFrequency(std::move(text), 1);
+        default:
+            return text;
+    }
+}
+
+}  // namespace
 
 TableView::TableView(const Outlet& outlet, std::span<const TableColumn> columns)
     : Control(outlet), columns_(columns), controls_(columns.size()), prototypes_(columns.size()) {}
@@ -27,6 +56,37 @@ TableCell TableView::view(int row, int column) const {
     if (const Button* button = controlOf(column).button)
         return ButtonCell{button->title(), std::string(button->outlet().label), row};
     return source_ ? source_->viewFor(*this, row, column) : TableCell{};
+}
+
+int TableView::tellingColumn() const {
+    const auto telling = [](const TableColumn& column) { return column.tells != TableColumn::Tells::nothing; };
+    const auto found = std::ranges::find_if(columns_, telling);
+    return found == columns_.end() ? 0 : static_cast<int>(found - columns_.begin());
+}
+
+std::string TableView::spokenRow(int row) const {
+    std::string spoken;
+    for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
+        const auto tells = columns_[static_cast<std::size_t>(column)].tells;
+        const std::string text = tells == TableColumn::Tells::nothing ? std::string() : told(cell(row, column), tells);
+        if (!text.empty()) spoken.append(spoken.empty() ? "" : ", ").append(text);
+    }
+    return spoken;
+}
+
+std::string TableView::spokenPress(int row, int column) const {
+    const Button* button = controlOf(column).button;
+    if (!button) return {};
+    const std::string_view label = button->outlet().label;
+    const std::size_t place = label.find("this ");  // "Tune to this spot"
+    const bool named = place != std::string_view::npos;
+    return std::string(label.substr(0, place)).append(named ? "" : ", ").append(spokenRow(row));
+}
+
+std::string TableView::spokenCell(int row, int column) const {
+    if (isButton(column)) return spokenPress(row, column) + ", button";
+    const TableCell shown = view(row, column);
+    return std::holds_alternative<HandleCell>(shown) ? spokenRow(row) : spokenTextOf(shown);
 }
 
 bool TableView::exists(int row, int column) const {

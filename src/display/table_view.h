@@ -19,6 +19,9 @@ struct TableColumn {
     int width;                    // in characters; one column takes what is left
     Alignment alignment = Alignment::left;
     bool sorts = false;  // whether a press of the header sorts the rows
+    // What the column says of its row, for one who hears it: whose row it is, or its frequency in this unit.
+    enum class Tells { nothing, name, hertz, kilohertz, megahertz };
+    Tells tells = Tells::nothing;
 };
 
 struct CellPlace {
@@ -64,6 +67,11 @@ public:
     // The contents of a cell, which must exist, and its text.
     TableCell view(int row, int column) const;
     std::string cell(int row, int column) const { return textOf(view(row, column)); }
+    // The row and its cells as a screen reader says them: "K1ABC, 14.285 MHz"; "Tune to K1ABC, 14.285 MHz, button".
+    std::string spokenRow(int row) const;
+    std::string spokenCell(int row, int column) const;
+    std::string spokenPress(int row, int column) const;  // of a button: "Tune to K1ABC, 14.285 MHz"
+    int tellingColumn() const;                           // the first that tells of its row; 0: none does
 
     // The control that serves all rows of a column: what the operator does in a cell is done to it.
     void setCellControl(std::string_view column, Button& control) { controlOf(column).button = &control; }

@@ -128,6 +128,7 @@ void SetupMenu::showReadProgress(std::string_view problem) {
     progress.setVisible(read_.running());
     progress.setIntegerValue(read_.percent());
     display_.menu.readField(read_.page()).setStringValue(read_.text() + std::string(problem));
+    if (!read_.running()) display_.announcements.say(read_.text() + std::string(problem));
 }
 
 // The read ends when no response has come for `patience`.

@@ -112,6 +112,7 @@ void MemoryChannels::showReadProgress(std::string_view problem) {
     display_.memoryReadProgress.setVisible(progress.running);
     display_.memoryReadProgress.setIntegerValue(progress.handled);
     display_.memoryReadField.setStringValue(progress.text + std::string(problem.empty() ? readNote_ : problem));
+    if (!progress.running || !problem.empty()) display_.announcements.say(display_.memoryReadField.stringValue());
 }
 
 void MemoryChannels::forgetSorting() {

@@ -43,6 +43,7 @@ std::optional<int> MemoryChannels::acceptDrop(std::string_view plainText, int ro
     prepareToMoveRows();
     moveChannel(vqMemArray_, *source, destination);
     display_.memoriesTable.reloadData();
+    display_.announcements.say("Now channel " + std::to_string(destination + 1));
     return destination;
 }
 

@@ -87,6 +87,7 @@ void MemoryChannels::watchWrite(unsigned number) {
         return tasks_.after(writeInterval, [this, number] { watchWrite(number); });
     }
     write_.reset();
+    display_.announcements.say("The memory channels are written");
     showStatus();
     voice_.playSound("Seatbelts");
 }
@@ -94,8 +95,9 @@ void MemoryChannels::watchWrite(unsigned number) {
 void MemoryChannels::endWriteEarly() {
     if (!write_) return;
     const MemoryWrite ended = *std::exchange(write_, std::nullopt);
-    if (ended.rowsSent(link_.waitingBytes()) < memoryChannels)
-        display_.memoryReadField.setStringValue(ended.endedEarlyText(link_.waitingBytes()));
+    if (ended.rowsSent(link_.waitingBytes()) >= memoryChannels) return;
+    display_.memoryReadField.setStringValue(ended.endedEarlyText(link_.waitingBytes()));
+    display_.announcements.say(display_.memoryReadField.stringValue());
 }
 
 // Each file has a second of its own, so that none replaces another.

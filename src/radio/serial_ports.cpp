@@ -136,7 +136,10 @@ void Link::serialPortDidStall(ORSSerialPort& port, bool stalled) {
 
 void Link::serialPortsWereConnected(const SerialPorts& ports) {
     listPortsInLog("Ports were connected: ", ports);
-    for (const auto& port : ports) deliverNotice("Serial Port Connected", port->name(), " was connected to your Mac.");
+    for (const auto& port : ports) {
+        deliverNotice("Serial Port Connected", port->name(), " was connected to your Mac.");
+        display_.announcements.say(port->name() + " is plugged in");
+    }
     fillPopUps();
 }
 

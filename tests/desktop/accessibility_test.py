@@ -2,7 +2,8 @@
 """Operates Corvane as a screen reader does: by roles, names and actions on the accessibility bus.
 
 Connects to the simulated transceiver, goes to 40 meters and to 20 meters, and reads VFO A each time. Then reads the memory
-channels, renames channel 3 in its row, writes the channels into the transceiver and reads them back.
+channels, renames channel 3 in its row, writes the channels into the transceiver and reads them back. Types a frequency, and
+hears what a screen reader hears: the announcements, and where the keyboard is.
 """
 
 import sys
@@ -15,6 +16,36 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 PATIENCE = 30  # seconds; the synchronisation alone takes nine
+
+
+heard = []  # "say 20 meters, 14.250.000 MHz, USB" for an announcement, "focus VFO A" for the keyboard
+
+
+def hear(event):
+    try:
+        if event.type.startswith("object:state-changed:focused"):
+            heard.append("focus " + event.source.get_name())
+        elif event.source.get_role() == Atspi.Role.NOTIFICATION:
+            heard.append("say " + current_name(event.source))
+    except GLib.GError:  # the object is gone
+        pass
+
+
+def listen():
+    # libatspi calls for every change of state; only what shows or takes the keyboard counts.
+    listener = Atspi.EventListener.new(lambda event: hear(event) if event.detail1 else None)
+    listener.register("object:state-changed:showing")
+    listener.register("object:state-changed:focused")
+    return listener
+
+
+def until_heard(text, patience=10):
+    def arrived():
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return any(each.startswith(text) for each in heard)
+
+    until(f"{text!r} among {heard}", arrived, patience)
 
 
 def until(what, condition, patience=PATIENCE):
@@ -55,7 +86,7 @@ def find(root, matches):
     return None
 
 
-def control(root, name, roles=(Atspi.Role.PUSH_BUTTON, Atspi.Role.CHECK_BOX, Atspi.Role.TOGGLE_BUTTON)):
+def control(root, name, roles=(Atspi.Role.PUSH_BUTTON, Atspi.Role.CHECK_BOX, Atspi.Role.RADIO_BUTTON)):
     return find(root, lambda each: each.get_name() == name and each.get_role() in roles)
 
 
@@ -112,8 +143,9 @@ def keys(*symbols):
         time.sleep(0.1)  # there is no answer to wait for
 
 
-TAB, ENTER, HOME, END, DOWN = 0xFF09, 0xFF0D, 0xFF50, 0xFF57, 0xFF54
-CHANNEL, NAME_COLUMN = 3, 4
+TAB, ENTER, HOME, END, DOWN, ESCAPE = 0xFF09, 0xFF0D, 0xFF50, 0xFF57, 0xFF54, 0xFF1B
+CONTROL_KEY = 37  # its code, as it is held
+CHANNEL, NAME_COLUMN, NEW_NAME = 3, 4, "TEST 3"
 
 
 def name_of_channel(root):
@@ -144,7 +176,7 @@ def rename_channel(root, name):
     press(until("the page of memories", lambda: showing(root, "Memories", Atspi.Role.PAGE_TAB)))
     before = read_channels(root)
     Atspi.Component.grab_focus(until("the key before the table", lambda: control(root, "Import memory channels")))
-    keys(TAB, HOME, *[DOWN] * (CHANNEL - 1), END, ENTER)
+    keys(TAB, TAB, HOME, *[DOWN] * (CHANNEL - 1), END, ENTER)
     keys(*[ord(letter) for letter in name], ENTER)
     renamed = "Memory Name, " + name
     until("the new name in the row", lambda: name_of_channel(root) == renamed)
@@ -156,17 +188,50 @@ def rename_channel(root, name):
     return before, renamed
 
 
+def type_frequency():
+    """After Return the keyboard is on the active VFO, and the new frequency is announced."""
+    heard.clear()
+    Atspi.generate_keyboard_event(CONTROL_KEY, None, Atspi.KeySynthType.PRESS)
+    keys(ord("f"))
+    Atspi.generate_keyboard_event(CONTROL_KEY, None, Atspi.KeySynthType.RELEASE)
+    until_heard("focus Frequency in megahertz")
+    heard.clear()
+    keys(*[ord(letter) for letter in "21.2"], ENTER)
+    until_heard("focus VFO A")
+    until_heard("say 21.200.000 MHz, USB")
+
+
+def only_the_keyboard_is_heard(root):
+    """A list that is read again behind another page says nothing; a table that gets the keyboard names its cell."""
+    heard.clear()
+    press(until("the page of memories", lambda: showing(root, "Memories", Atspi.Role.PAGE_TAB)))
+    read_channels(root)
+    until_heard("say Read:")
+    if [each for each in heard if "Memory Name" in each or "Channel, " in each]:
+        sys.exit(f"accessibility: FAILED: a table without the keyboard spoke: {heard}")
+    Atspi.Component.grab_focus(until("the key before the table", lambda: control(root, "Import memory channels")))
+    keys(TAB, TAB)
+    until_heard(f"focus Memory Name, {NEW_NAME}")
+    heard.clear()
+    keys(ENTER, ESCAPE)
+    until_heard(f"focus Memory Name, {NEW_NAME}")
+
+
 def main():
     root = until("the program on the accessibility bus", program)
     port = until("the list of ports", lambda: labelled(root, "Port", Atspi.Role.COMBO_BOX))
     if port.get_name() != "Simulated transceiver":
         sys.exit(f"accessibility: FAILED: the port to begin with is {port.get_name()!r}")
+    listener = listen()
     press(until("the Connect key", lambda: control(root, "Connect or disconnect")))
+    until_heard("say Simulated transceiver: connected", PATIENCE)
     # The radio page comes to the front with the synchronisation.
     until("the synchronisation", lambda: find(root, lambda each: each.get_name().startswith("VFO A, 14.")))
     until("the link in words", lambda: find(root, lambda each: each.get_name() == "Link, Simulated transceiver: connected"))
-    heard = [go_to_band(root, "40 meters", "VFO A, 7."), go_to_band(root, "20 meters", "VFO A, 14.")]
-    before, renamed = rename_channel(root, "TEST 3")
+    bands = [go_to_band(root, "40 meters", "VFO A, 7."), go_to_band(root, "20 meters", "VFO A, 14.")]
+    type_frequency()
+    before, renamed = rename_channel(root, NEW_NAME)
+    only_the_keyboard_is_heard(root)
     nameless = [
         each.get_role_name()
         for each in accessibles(root)
@@ -176,7 +241,8 @@ def main():
     ]
     if nameless:
         sys.exit(f"accessibility: FAILED: controls without a name: {nameless}")
-    print(f"accessibility: passed: {heard[0]!r}, then {heard[1]!r}; channel {CHANNEL}: {before!r}, then {renamed!r}")
+    listener.deregister("object:state-changed:showing")
+    print(f"accessibility: passed: {bands[0]!r}, then {bands[1]!r}; channel {CHANNEL}: {before!r}, then {renamed!r}")
 
 
 if __name__ == "__main__":

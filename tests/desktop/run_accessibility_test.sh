@@ -36,7 +36,7 @@ export XDG_RUNTIME_DIR="$work/run"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 # The chosen port is the simulated one, whatever devices this machine has.
 mkdir -p "$XDG_CONFIG_HOME/corvane"
-printf '[General]\ndefaultPort=Simulated transceiver\n' >"$XDG_CONFIG_HOME/corvane/corvane.conf"
+printf '[General]\ndefaultPort=Simulated transceiver\nvoice=0\nsounds=0\n' >"$XDG_CONFIG_HOME/corvane/corvane.conf"
 # No sound server or speech service outside may answer.
 export PULSE_SERVER="unix:$work/none" SPEECHD_ADDRESS="unix_socket:$work/none"
 unset AT_SPI_BUS_ADDRESS WAYLAND_DISPLAY CORVANE_EXTRA_PORTS QT_QPA_PLATFORM || true

@@ -1,6 +1,5 @@
 #include "qt/window/control_views.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
@@ -61,7 +60,10 @@ void TextFieldView::showModel() {
     const Condition condition = model_.busy() ? Condition::busy : Condition::usual;  // a text to type is no report
     fade(*this, condition);
     setSpokenName(*this, condition, labelOf(model_));
-    if (std::exchange(resignations_, model_.resignations()) != model_.resignations()) clearFocus();
+    if (std::exchange(resignations_, model_.resignations()) != model_.resignations()) {
+        if (hasFocus()) emit resigned();
+        clearFocus();
+    }
 }
 
 void TextFieldView::keyPressEvent(QKeyEvent* event) {
@@ -82,23 +84,20 @@ TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : QL
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setWordWrap(true);
+    setProperty("read", true);
     const auto show = [this, &model] {
         setText(QString::fromStdString(model.stringValue()));
         setAccessibleName(spokenWithValue(model, model.stringValue()));
+        setFocusPolicy(model.stringValue().empty() ? Qt::NoFocus : Qt::StrongFocus);  // the text can be copied
     };
     view_ = model.addView(queue, show);
     show();
 }
 
 NoticeLabel::NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : TextLabel(model, queue, parent) {
-    setFocusPolicy(Qt::StrongFocus);  // so that its text can be copied
     setContentsMargins(3 * gridStep, 2 * gridStep, 3 * gridStep, 2 * gridStep);
     setProperty("notice", true);
-    const auto show = [this, &model] {
-        setVisible(!model.stringValue().empty());
-        QAccessibleEvent alert(this, QAccessible::Alert);
-        if (!model.stringValue().empty()) QAccessible::updateAccessibility(&alert);
-    };
+    const auto show = [this, &model] { setVisible(!model.stringValue().empty()); };
     notice_ = model.addView(queue, show);
     if (model.stringValue().empty()) hide();
 }

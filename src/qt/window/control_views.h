@@ -38,6 +38,9 @@ private:
 class TextFieldView : public QLineEdit {
     Q_OBJECT
 
+signals:
+    void resigned();  // the program takes the keyboard away; who takes it, may
+
 public:
     TextFieldView(TextField& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
@@ -59,7 +62,7 @@ private:
     ViewHandle view_;
 };
 
-// A text that is only read.
+// A text that is only read. Tab reaches it while there is something to read.
 class TextLabel : public QLabel {
     Q_OBJECT
 
@@ -70,7 +73,7 @@ private:
     ViewHandle view_;
 };
 
-// A text that says why something was refused. It is visible while it is not empty, and a screen reader announces it.
+// A text that says why something was refused. It is visible while it is not empty.
 class NoticeLabel : public TextLabel {
     Q_OBJECT
 

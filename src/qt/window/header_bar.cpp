@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPainter>
 
+#include "qt/window/announcer.h"
 #include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/control_views.h"
@@ -22,6 +23,7 @@ public:
     LinkLabel(TextField& link, ChangeQueue& queue) : link_(link) {
         describe(*this, link);
         setTextFormat(Qt::PlainText);
+        setFocusPolicy(Qt::TabFocus);
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         view_ = link.addView(queue, [this] { showModel(); });
         showModel();
@@ -33,6 +35,7 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const QColor lamp = theme.of(link_.textColor(), theme.quietText);
+        paintFocus(*this, painter);
         painter.setPen(QPen(lamp, 2));
         painter.setBrush(link_.textColor() == Color::none ? Qt::NoBrush : QBrush(lamp));
         painter.drawEllipse(QPointF(8, height() / 2.0), 4, 4);
@@ -60,6 +63,8 @@ public:
     ModeLabel(TextField& mode, ChangeQueue& queue) {
         describe(*this, mode);
         setTextFormat(Qt::PlainText);
+        setFocusPolicy(Qt::TabFocus);
+        setProperty("read", true);
         setFont(typeface(TypeSize::value, QFont::DemiBold));
         const auto show = [this, &mode] {
             const std::string& name = mode.stringValue();
@@ -90,6 +95,7 @@ HeaderBar::HeaderBar(Display& display, ChangeQueue& queue, QWidget* parent) : QW
     row->addWidget(makeStatusBlock(display, queue), 4);
     rows->addLayout(row);
     rows->addWidget(new NoticeLabel(display.linkMessageField, queue));
+    new Announcer(display, queue, this);
 }
 
 QWidget* HeaderBar::makeStatusBlock(Display& display, ChangeQueue& queue) {

@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "qt/window/control_texts.h"
+#include "qt/window/key_ring.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
 #include "qt/window/shortcuts.h"
@@ -20,6 +21,7 @@ QWidget* makeHelpPage(const Display& display) {
     grid->setVerticalSpacing(gridStep);
     const std::vector<ShortcutText> shortcuts = shortcutTexts(display);
     const int rowsInColumn = static_cast<int>((shortcuts.size() + 2) / 3);
+    auto* ring = new KeyRing(1, panel);  // the arrow keys read one after the other
     int place = 0;
     for (const ShortcutText& shortcut : shortcuts) {
         const int column = 2 * (place / rowsInColumn);
@@ -28,6 +30,10 @@ QWidget* makeHelpPage(const Display& display) {
         auto* meaning = new QLabel(shortcut.meaning);
         meaning->setForegroundRole(QPalette::PlaceholderText);
         keys->setBuddy(meaning);
+        meaning->setAccessibleName(shortcut.keys + ", " + shortcut.meaning);
+        meaning->setFocusPolicy(Qt::StrongFocus);
+        meaning->setProperty("read", true);
+        ring->add(*meaning);
         grid->addWidget(keys, place % rowsInColumn, column);
         grid->addWidget(meaning, place % rowsInColumn, column + 1);
         grid->setColumnStretch(column + 1, 1);

@@ -38,10 +38,20 @@ QColor blended(const QColor& color, const QColor& ground) {
     return {mix(color.red(), ground.red()), mix(color.green(), ground.green()), mix(color.blue(), ground.blue())};
 }
 
-// A screen reader calls a key that lights pressed or not pressed.
-bool lights(const Button& model) {
+const FrontPanelKey* keyOf(const Button& model) {
     const std::size_t index = frontPanelKeyIndex(model.outlet().tag);
-    return index < frontPanelKeys.size() && corvane::lights(frontPanelKeys[index].action);
+    return index < frontPanelKeys.size() ? &frontPanelKeys[index] : nullptr;
+}
+
+bool isBand(const Button& model) {
+    const FrontPanelKey* key = keyOf(model);
+    return key && key->panel == KeyPanel::bands;
+}
+
+// A mode key stays lit after another has been pressed: its light is no state that a screen reader may tell.
+bool lights(const Button& model) {
+    const FrontPanelKey* key = keyOf(model);
+    return key && corvane::lights(key->action) && !std::holds_alternative<ModeKey>(key->action);
 }
 
 }  // namespace
@@ -84,8 +94,8 @@ void KeyButton::showModel() {
     const QString plain = QString(title).replace('&', "&&");
     if (text() != plain) setText(plain);
     // A title from the transceiver may be longer than its key.
-    if (model_.outlet().title.empty() && !title.isEmpty())
-        setToolTip(plainToolTip(title.trimmed() + "\n" + toolTipOf(model_)));
+    if (model_.outlet().title.empty())
+        setToolTip(plainToolTip(title.isEmpty() ? toolTipOf(model_) : title.trimmed() + "\n" + toolTipOf(model_)));
     setSpokenName(*this, condition(), spokenName());
     update();
 }
@@ -97,8 +107,18 @@ Condition KeyButton::condition() const {
     return shows && model_.lastKnown() ? Condition::lastKnown : Condition::usual;
 }
 
+// A title that changes says what state the key is in: "Connected, Connect or disconnect".
 QString KeyButton::spokenName() const {
-    return model_.outlet().title.empty() ? spokenWithValue(model_, model_.title()) : labelOf(model_);
+    if (model_.outlet().title.empty()) return spokenWithValue(model_, model_.title());
+    const QString title = QString::fromStdString(model_.title());
+    if (isCheckable() || model_.title() == model_.outlet().title) return labelOf(model_);
+    return title + ", " + labelOf(model_);
+}
+
+QAccessible::Role KeyButton::role() const {
+    if (!acts()) return QAccessible::StaticText;
+    if (isBand(model_)) return QAccessible::RadioButton;
+    return isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
 }
 
 QSize KeyButton::sizeHint() const {

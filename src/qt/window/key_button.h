@@ -1,6 +1,7 @@
 // A key of the window: a button model painted as a key cap, its bezel colour filling it while it is lit.
 #pragma once
 
+#include <QAccessible>
 #include <QPushButton>
 
 #include "display/button.h"
@@ -14,8 +15,12 @@ class KeyButton : public QPushButton {
     Q_OBJECT
 
 public:
-    // Shows `model` as long as both live. A lit key is "checked" to a screen reader.
+    // Shows `model` as long as both live. A lit key that switches something is "checked" to a screen reader.
     KeyButton(Button& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+    // A band is a radio button, a switch a check box, a key that does nothing a text.
+    QAccessible::Role role() const;
+    bool acts() const { return static_cast<bool>(model_.action); }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "qt/window/key_button.h"
+#include "qt/window/key_ring.h"
 #include "qt/window/theme.h"
 
 namespace corvane {
@@ -25,9 +26,12 @@ std::vector<Button*> keysOf(Display& display, KeyPanel panel) {
 QLayout* keyGrid(Display& display, KeyPanel panel, ChangeQueue& queue, int columns) {
     auto* grid = new QGridLayout;
     grid->setSpacing(2 * gridStep);
+    auto* ring = new KeyRing(columns, grid);
     int place = 0;
     for (Button* key : keysOf(display, panel)) {
-        grid->addWidget(new KeyButton(*key, queue), place / columns, place % columns);
+        auto* view = new KeyButton(*key, queue);
+        ring->add(*view);
+        grid->addWidget(view, place / columns, place % columns);
         ++place;
     }
     for (int column = 0; column < columns; ++column) grid->setColumnStretch(column, 1);
@@ -37,9 +41,11 @@ QLayout* keyGrid(Display& display, KeyPanel panel, ChangeQueue& queue, int colum
 QLayout* numberedKeys(const std::vector<Button*>& keys, ChangeQueue& queue) {
     auto* grid = new QGridLayout;
     grid->setSpacing(2 * gridStep);
+    auto* ring = new KeyRing(1, grid);
     int row = 0;
     for (Button* key : keys) {
         auto* view = new KeyButton(*key, queue);
+        ring->add(*view);
         auto* number = new QLabel(QString::number(row + 1));
         number->setForegroundRole(QPalette::PlaceholderText);
         number->setBuddy(view);

@@ -6,6 +6,7 @@
 
 #include "qt/window/control_texts.h"
 #include "qt/window/control_views.h"
+#include "qt/window/filter_field.h"
 #include "qt/window/key_button.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
@@ -66,6 +67,9 @@ QWidget* makeListPage(Display& display, ChangeQueue& queue, const ListPage& list
     QObject::connect(table, &TableWidget::rowsChanged, count, showCount);
     QObject::connect(filter, &QLineEdit::textChanged, table, &TableWidget::setFilter);
     showCount();
+    makeFilterSpeak(*filter, display, [count] { return count->text() + " match"; });
+    count->setFocusPolicy(Qt::TabFocus);
+    count->setProperty("read", true);
     top->addWidget(filter, 1);
     top->addWidget(count);
     auto* status = new TextLabel(display.*list.status, queue);
@@ -82,6 +86,7 @@ public:
     ConditionLabel(TextField& model, ChangeQueue& queue) : model_(model) {
         describe(*this, model);
         setTextFormat(Qt::PlainText);
+        setFocusPolicy(Qt::TabFocus);
         setAlignment(Qt::AlignCenter);
         setMinimumWidth(16 * gridStep);
         setContentsMargins(gridStep, gridStep, gridStep, gridStep);
@@ -101,6 +106,7 @@ protected:
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
         painter.setPen(empty ? theme.quietText : readableOn(fill));
         painter.drawText(rect(), Qt::AlignCenter, empty ? QStringLiteral("\u2013") : text());
+        paintFocus(*this, painter);
     }
 
 private:

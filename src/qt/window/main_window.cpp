@@ -10,9 +10,12 @@
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "qt/window/accessible_roles.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/control_views.h"
+#include "qt/window/focus_steps.h"
 #include "qt/window/header_bar.h"
 #include "qt/window/memory_import_preview.h"
 #include "qt/window/pages.h"
@@ -31,6 +34,7 @@ constexpr auto geometryKey = "windowGeometry";
 }  // namespace
 
 MainWindow::MainWindow(SerialPortDemoController& controller) : controller_(controller) {
+    installAccessibleRoles();
     setWindowTitle("Corvane");
     setObjectName("mainWindow");
     // All reports that arrive in one turn of the event loop cause one refresh.
@@ -47,9 +51,17 @@ MainWindow::MainWindow(SerialPortDemoController& controller) : controller_(contr
     chooseTheme(QString::fromStdString(controller_.userDefaults.text(themeKey).value_or("dark")));
     makeMenus();
     addShortcuts(*this, controller_.display);
-    addFieldShortcut(controller_.display.sendTextField, Display::stationPage);
-    addFieldShortcut(controller_.display.freqTextField, Display::radioPage);
-    addFieldShortcut(controller_.display.textMemoryField, Display::keyerPage);
+    Display& display = controller_.display;
+    addWayTo(display.sendTextField, Display::stationPage);
+    for (const Control* control :
+         std::initializer_list<Control*>{&display.freqTextField, &display.modesPopUpButton, &display.memPopUpButton,
+                                         &display.AGCPopUpButton, &display.afGainSlider, &display.rfGainSlider})
+        addWayTo(*control, Display::radioPage);
+    addWayTo(display.textMemoryField, Display::keyerPage);
+    addWayTo(display.autoMemSquelchSlider, Display::memoriesPage);
+    addWay(QKeySequence("F6"), [this] { stepPanel(*this, true); });
+    addWay(QKeySequence("Shift+F6"), [this] { stepPanel(*this, false); });
+    qApp->installEventFilter(this);
     // An operator connects first: Space alone does it.
     if (auto* connectKey = findChild<QPushButton*>("openCloseButton")) connectKey->setFocus();
     resize(1280, 800);
@@ -64,7 +76,9 @@ void MainWindow::makePages() {
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     rows->addWidget(new HeaderBar(display, queue_));
-    auto* pages = new TabPages(display.mainTab, queue_);
+    auto* pages = pages_ = new TabPages(display.mainTab, queue_);
+    connect(pages, &TabPages::pageShown, this,
+            [&display](const QString& title) { display.announcements.say(title.toStdString() + " page"); });
     pages->addPage("Station", [this, &display] { return makeStationPage(display, queue_); });
     pages->addPage("Radio", [this, &display] { return makeRadioPage(display, queue_); });
     pages->addPage("Keyer", [this, &display] { return makeKeyerPage(display, queue_); });
@@ -75,16 +89,15 @@ void MainWindow::makePages() {
     rows->addWidget(pages, 1);
     setCentralWidget(body);
     for (int index = 0; index <= helpPage; ++index) {
-        auto* shortcut = new QShortcut(QKeySequence("Alt+" + QString::number(index + 1)), this);
-        connect(shortcut, &QShortcut::activated, this, [this, index] { showPage(index); });
+        addWay(QKeySequence("Alt+" + QString::number(index + 1)), [this, index] { enterPage(index); });
     }
 }
 
 void MainWindow::makeMenus() {
     Display& display = controller_.display;
     auto* program = menuBar()->addMenu("&Corvane");
-    program->addAction("&Connect or disconnect\t" + toQString(display.openCloseButton.outlet().shortcut), this,
-                       [&display] { display.openCloseButton.performClick(); });
+    addCommand(*program, "&Connect or disconnect", display.openCloseButton);
+    addCommand(*program, "&Say the state", display.sayStateButton);
     program->addSeparator();
     program->addAction("&Quit", QKeySequence("Ctrl+Q"), this, &QWidget::close);
 
@@ -110,7 +123,9 @@ void MainWindow::makeMenus() {
     }
 
     auto* help = menuBar()->addMenu("&Help");
-    help->addAction("&Shortcuts", QKeySequence("F1"), this, [this] { showPage(helpPage); });
+    const auto showShortcuts = [this] { enterPage(helpPage); };
+    help->addAction("&Shortcuts", QKeySequence("F1"), this, showShortcuts);
+    ways_.emplace_back(QKeySequence("F1"), showShortcuts);
     help->addAction("&Help on the web", this, [this] { controller_.showHelp(); })->setObjectName("showHelp");
     Button& productPage = display.key(805);
     help->addAction(toQString(productPage.title()), this, [&productPage] { productPage.performClick(); })
@@ -130,26 +145,50 @@ void MainWindow::addPreference(QMenu& menu, MenuItem& item) {
     action->setObjectName(QString::fromStdString(item.objectName()));
     action->setToolTip(toolTipOf(item));
     action->setCheckable(true);
-    connect(action, &QAction::triggered, this, [action, &item] {
+    connect(action, &QAction::triggered, this, [this, action, &item] {
         item.performClick();
         action->setChecked(item.checked());
+        controller_.display.announcements.say(std::string(item.outlet().label) + (item.checked() ? " on" : " off"));
     });
     const auto show = [action, &item] { action->setChecked(item.checked()); };
     preferences_.push_back(item.addView(queue_, show));
     show();
 }
 
-void MainWindow::showPage(int index) { controller_.display.mainTab.selectItem(index); }
+// The menu shows the shortcut and takes it.
+void MainWindow::addCommand(QMenu& menu, const QString& text, Button& button) {
+    auto* action = menu.addAction(text, QKeySequence(toQString(button.outlet().shortcut)), this,
+                                  [&button] { button.performClick(); });
+    action->setToolTip(toolTipOf(button));
+}
 
-// Shows the page, moves the keyboard into the field and selects its text, so that typing replaces it.
-void MainWindow::addFieldShortcut(const TextField& field, int page) {
-    auto* shortcut = new QShortcut(QKeySequence(toQString(field.outlet().shortcut)), this);
-    connect(shortcut, &QShortcut::activated, this, [this, &field, page] {
-        showPage(page);
+void MainWindow::enterPage(int index) { pages_->enterPage(index); }
+
+void MainWindow::addWay(const QKeySequence& keys, std::function<void()> go) {
+    auto* shortcut = new QShortcut(keys, this);
+    connect(shortcut, &QShortcut::activated, this, go);
+    ways_.emplace_back(keys, std::move(go));
+}
+
+// Shows the page, and moves the keyboard into the control; of a field it selects the text, so that typing replaces it.
+void MainWindow::addWayTo(const Control& control, int page) {
+    addWay(QKeySequence(toQString(control.outlet().shortcut)), [this, &control, page] {
         queue_.refresh();
-        if (auto* view = findChild<QLineEdit*>(QString::fromStdString(field.objectName())))
-            view->setFocus(Qt::ShortcutFocusReason);
+        pages_->enterPage(page, QString::fromStdString(control.objectName()));
+        if (!control.enabled())
+            controller_.display.announcements.say(std::string(control.outlet().label) + ", not available now");
     });
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !QApplication::activePopupWidget())
+        return QMainWindow::eventFilter(watched, event);
+    const QKeySequence keys(static_cast<QKeyEvent*>(event)->keyCombination());
+    const auto way = std::ranges::find(ways_, keys, &std::pair<QKeySequence, std::function<void()>>::first);
+    if (way == ways_.end()) return QMainWindow::eventFilter(watched, event);
+    while (QWidget* popUp = QApplication::activePopupWidget()) popUp->close();
+    way->second();
+    return true;
 }
 
 void MainWindow::chooseTheme(const QString& name) {

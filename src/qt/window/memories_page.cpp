@@ -29,7 +29,10 @@ Panel* channelsPanel(Display& display, ChangeQueue& queue) {
     panel->content().addLayout(keys);
     panel->content().addWidget(new TextLabel(display.memoryReadField, queue));
     panel->content().addWidget(new ProgressView(display.memoryReadProgress, queue));
-    panel->content().addWidget(new TableWidget(display.memoriesTable, queue), 1);
+    auto* table = new TableWidget(display.memoriesTable, queue);
+    QObject::connect(table, &TableWidget::sorted, table,
+                     [&display](const QString& order) { display.announcements.say(order.toStdString()); });
+    panel->content().addWidget(table, 1);
     auto* saved = new TextLabel(display.memoryBackupField, queue);
     saved->setForegroundRole(QPalette::PlaceholderText);
     panel->content().addWidget(saved);

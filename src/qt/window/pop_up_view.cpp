@@ -70,6 +70,7 @@ PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent)
     : QComboBox(parent), model_(model), entries_(new EntryModel(model, this)) {
     describe(*this, model);
     setModel(entries_);
+    view()->setAccessibleName(labelOf(model));
     if (auto* list = qobject_cast<QListView*>(view()))
         list->setUniformItemSizes(true);  // so that Qt does not measure each
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -117,7 +118,6 @@ void PopUpView::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Space:
         case Qt::Key_Return:
         case Qt::Key_Enter:
-        case Qt::Key_F4:
             if (model_.action) return showPopup();
             [[fallthrough]];
         default:

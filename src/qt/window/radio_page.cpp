@@ -51,6 +51,13 @@ Panel* tuningPanel(Display& display, ChangeQueue& queue) {
     auto* frequency = new TextFieldView(display.freqTextField, queue);
     frequency->setFont(typeface(TypeSize::value));
     frequency->setMinimumWidth(QFontMetrics(frequency->font()).horizontalAdvance("50.0000") + 6 * gridStep);
+    // Where the frequency is read next, and Tab goes on from.
+    QObject::connect(frequency, &TextFieldView::resigned, frequency, [frequency, &display] {
+        const bool sideB = display.activeVfoField.stringValue() == "B";
+        const Button& vfo = sideB ? display.vqFreqBButton : display.vqFreqAButton;
+        if (auto* key = frequency->window()->findChild<KeyButton*>(QString::fromStdString(vfo.objectName())))
+            key->setFocus();
+    });
     row->addWidget(frequency, 2);
     row->addWidget(titleLabel(display.freqTextField, *frequency));
     auto* tune = tuneKey(display, queue);

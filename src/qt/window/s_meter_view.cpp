@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "display/spoken_state.h"
 #include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/theme.h"
@@ -12,12 +13,13 @@ SMeterView::SMeterView(LevelIndicator& model, ChangeQueue& queue, QWidget* paren
     describe(*this, model);
     setRange(0, model.maximum());
     setTextVisible(false);
+    setFocusPolicy(Qt::TabFocus);
     setFont(typeface(TypeSize::small));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     const auto show = [this, &model] {
         setValue(model.integerValue());
         fade(*this, conditionOf(model));
-        setSpokenName(*this, conditionOf(model), labelOf(model));
+        setSpokenName(*this, conditionOf(model), spokenWithValue(model, spokenMeter(model.integerValue())));
     };
     view_ = model.addView(queue, show);
     show();
@@ -32,6 +34,7 @@ void SMeterView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(font());
+    paintFocus(*this, painter);
     const int segments = maximum();
     const int textHeight = QFontMetrics(font()).height();
     const double step = width() / static_cast<double>(segments);

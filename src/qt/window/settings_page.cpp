@@ -8,6 +8,7 @@
 
 #include "qt/window/control_texts.h"
 #include "qt/window/control_views.h"
+#include "qt/window/filter_field.h"
 #include "qt/window/key_button.h"
 #include "qt/window/menu_section.h"
 #include "qt/window/pages.h"
@@ -49,6 +50,11 @@ public:
         search_->setClearButtonEnabled(true);
         search_->setAccessibleName("Search the menu");
         search_->setToolTip("Show only the items of all groups that contain all these words, e.g. ssb agc.");
+        makeFilterSpeak(*search_, display, [this] {
+            int matches = 0;
+            for (int page = 0; page < MenuControls::pages; ++page) matches += matchesOnPage(page, searched());
+            return QString::number(matches) + " items match";
+        });
         auto* top = new QHBoxLayout;
         top->setContentsMargins(pageMargins.left(), 0, pageMargins.right(), 0);
         top->addWidget(search_);

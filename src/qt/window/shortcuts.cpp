@@ -30,10 +30,12 @@ bool repeats(const Control& control) {
 
 // In a table.
 const std::array tableKeys{
-    ShortcutText{"Enter, Space", "Table: press, open or edit the cell"},
+    ShortcutText{"Enter, Space", "Table: press, open or edit the cell; pop-up: open it"},
     ShortcutText{"Ctrl+Enter", "Table: tune to the row"},
     ShortcutText{"Alt+Up, Alt+Down", "Memory channels: move the row"},
     ShortcutText{"Shift+F10", "Table: its menu, with sorting"},
+    ShortcutText{"Arrow keys", "Keys side by side: the next one"},
+
 };
 
 }  // namespace
@@ -45,6 +47,7 @@ std::vector<ShortcutText> shortcutTexts(const Display& display) {
         {"Alt+C, Alt+R, Alt+P, Alt+H", "Menus"},
         {"Alt+1 to Alt+7", "Pages"},
         {"Tab, Shift+Tab", "Next and previous control"},
+        {"F6, Shift+F6", "Next and previous panel"},
     };
     add(texts, withShortcut(display, false));
     texts.insert(texts.end(), tableKeys.begin(), tableKeys.end());
@@ -55,7 +58,8 @@ std::vector<ShortcutText> shortcutTexts(const Display& display) {
 void addShortcuts(QWidget& window, const Display& display) {
     for (Control* control : display.controls()) {
         auto* button = dynamic_cast<Button*>(control);
-        if (!button || button->outlet().shortcut.empty()) continue;
+        const bool inMenu = button == &display.openCloseButton || button == &display.sayStateButton;
+        if (!button || button->outlet().shortcut.empty() || inMenu) continue;
         auto* shortcut = new QShortcut(QKeySequence(toQString(button->outlet().shortcut)), &window);
         shortcut->setAutoRepeat(repeats(*button));
         QObject::connect(shortcut, &QShortcut::activated, &window, [button] { button->performClick(); });

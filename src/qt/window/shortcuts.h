@@ -18,7 +18,7 @@ struct ShortcutText {
 // All shortcuts of the window in the order of the help page.
 std::vector<ShortcutText> shortcutTexts(const Display& display);
 
-// Gives `window` the shortcuts of all buttons. They work on every page.
+// Gives `window` the shortcuts of all buttons, but for those of its menus. They work on every page.
 void addShortcuts(QWidget& window, const Display& display);
 
 }  // namespace corvane

@@ -76,7 +76,7 @@ QVariant TableRows::data(const QModelIndex& index, int role) const {
         case Qt::AccessibleTextRole: {
             const QString title = toQString(table_.column(index.column()).title);
             const TableCell shown = cell(index);
-            const QString spoken = QString::fromStdString(spokenTextOf(shown));
+            const QString spoken = QString::fromStdString(table_.spokenCell(tableRow(index), index.column()));
             return title.isEmpty() || isButton(shown) ? spoken : title + ", " + spoken;
         }
         case Qt::AccessibleDescriptionRole:

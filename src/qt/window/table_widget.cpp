@@ -1,5 +1,7 @@
 #include "qt/window/table_widget.h"
 
+#include <QAccessible>
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDrag>
 #include <QHeaderView>
@@ -92,7 +94,7 @@ void TableWidget::reload() {
         const QModelIndex cell = rows_->index(std::min(place_->first, shownRows() - 1), place_->second);
         selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect);
     }
-    rows_->watch(currentIndex());
+    if (currentIndex().isValid() || !left_.isValid()) rows_->watch(currentIndex());
     setDragEnabled(model_.takesDraggedText());
     setAcceptDrops(model_.takesDraggedText());
     emit rowsChanged();
@@ -107,8 +109,57 @@ int TableWidget::shownRows() const { return rows_->rowCount(); }
 int TableWidget::allRows() const { return rows_->allRows(); }
 
 void TableWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QTableView::currentChanged(current, previous);
-    rows_->watch(current);
+    if (hasFocus())
+        QTableView::currentChanged(current, previous);
+    else
+        QAbstractItemView::currentChanged(current, previous);
+    if (current.isValid()) rows_->watch(current);
+}
+
+void TableWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    if (hasFocus()) return QTableView::selectionChanged(selected, deselected);
+    QAbstractItemView::selectionChanged(selected, deselected);
+}
+
+void TableWidget::focusInEvent(QFocusEvent* event) {
+    if (!currentIndex().isValid() && left_.isValid())
+        selectionModel()->setCurrentIndex(left_, QItemSelectionModel::NoUpdate);
+    // A row is known by its call or name, which no table has in its first column.
+    if (!currentIndex().isValid() && shownRows() > 0)
+        selectionModel()->setCurrentIndex(rows_->index(0, model_.tellingColumn()), QItemSelectionModel::NoUpdate);
+    QTableView::focusInEvent(event);
+    // Qt itself tells of the table, after this event.
+    QMetaObject::invokeMethod(this, &TableWidget::tellCurrentCell, Qt::QueuedConnection);
+}
+
+void TableWidget::focusOutEvent(QFocusEvent* event) {
+    QTableView::focusOutEvent(event);
+    const bool comesBack = event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+    if (!comesBack) leaveCell();
+}
+
+void TableWidget::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    QTableView::closeEditor(editor, hint);
+    leaveCell();
+}
+
+// Unless the keyboard is in the table or its editor.
+void TableWidget::leaveCell() {
+    const QWidget* focused = QApplication::focusWidget();
+    if (hasFocus() || (focused && isAncestorOf(focused)) || !currentIndex().isValid()) return;
+    left_ = currentIndex();
+    place_.reset();
+    selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
+}
+
+void TableWidget::tellCurrentCell() {
+    if (!QAccessible::isActive() || !hasFocus() || !rows_->exists(currentIndex())) return;
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(this);
+    if (!table || !table->tableInterface()) return;
+    QAccessibleInterface* cell = table->tableInterface()->cellAt(currentIndex().row(), currentIndex().column());
+    if (!cell) return;
+    QAccessibleEvent focus(cell, QAccessible::Focus);
+    QAccessible::updateAccessibility(&focus);
 }
 
 void TableWidget::act(const QModelIndex& cell) {
@@ -158,6 +209,9 @@ void TableWidget::pressFirstButton() {
 void TableWidget::sortBy(int column) {
     finishEditing();
     model_.pressHeader(column);
+    const QString title = toQString(model_.column(column).title);
+    const bool up = model_.sortDirection(column) == SortDirection::ascending;
+    emit sorted("Sorted by " + title + (up ? ", ascending" : ", descending"));
 }
 
 // The current cell moves along with the row.
@@ -239,8 +293,8 @@ void TableWidget::addRowActions(QMenu& menu) {
             setCurrentIndex(place);
             act(place);
         });
-        if (const auto* button = std::get_if<ButtonCell>(&shown))
-            menu.addAction(QString::fromStdString(button->label), this, press);
+        if (is<ButtonCell>(shown))
+            menu.addAction(withoutMnemonic(QString::fromStdString(model_.spokenPress(tableRow, column))), this, press);
         else if (is<LinkCell>(shown))
             menu.addAction("Open " + title + " in the web browser", this, press);
         else if (is<PopUpCell>(shown))
@@ -250,8 +304,15 @@ void TableWidget::addRowActions(QMenu& menu) {
     }
     if (!model_.takesDraggedText()) return;
     menu.addSeparator();
-    menu.addAction("Move up\tAlt+Up", this, inRow([this](int row) { moveRow(row, row - 1); }));
-    menu.addAction("Move down\tAlt+Down", this, inRow([this](int row) { moveRow(row, row + 2); }));
+    // The menu shows the keys; the table itself takes them.
+    const auto addMove = [&menu, this](const char* text, const char* keys, auto move) {
+        auto* action = menu.addAction(text, this, move);
+        action->setShortcut(QKeySequence(keys));
+        action->setShortcutContext(Qt::WidgetShortcut);
+        action->setShortcutVisibleInContextMenu(true);
+    };
+    addMove("Move up", "Alt+Up", inRow([this](int row) { moveRow(row, row - 1); }));
+    addMove("Move down", "Alt+Down", inRow([this](int row) { moveRow(row, row + 2); }));
     menu.addSeparator();
 }
 

@@ -26,7 +26,8 @@ public:
     int allRows() const;
 
 signals:
-    void rowsChanged();  // the number of rows, or of those that are shown
+    void rowsChanged();                 // the number of rows, or of those that are shown
+    void sorted(const QString& order);  // "Sorted by Memory Name, ascending"
 
 protected:
     // Enter and Space do what a cell is there for: press, open, choose, edit. Ctrl+Enter presses the row's first
@@ -35,7 +36,13 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    // To a screen reader the current cell has the keyboard: there is none while the keyboard is elsewhere.
+    // Only a table with the keyboard tells a screen reader of its current cell; it does so as soon as it gets it.
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
     // A row is dragged as plain text, its index; a line shows the gap where it would be dropped.
     void startDrag(Qt::DropActions actions) override;
@@ -48,6 +55,8 @@ protected:
 private:
     void setUpHeaders();
     void reload();
+    void tellCurrentCell();
+    void leaveCell();
     void act(const QModelIndex& cell);
     void pressCell(const QModelIndex& cell);
     void openPopUp(const QModelIndex& cell);
@@ -66,6 +75,7 @@ private:
     CellDelegate* delegate_;
     int shownVersion_;
     std::optional<std::pair<int, int>> place_;  // row and column of the last current cell
+    QPersistentModelIndex left_;                // the current cell when the keyboard went elsewhere
     QPoint released_;                           // where the mouse button was released
     std::optional<int> gap_;                    // above this row the dragged one would be dropped
     ViewHandle view_;

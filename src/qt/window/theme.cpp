@@ -1,6 +1,8 @@
 #include "qt/window/theme.h"
 
 #include <QApplication>
+#include <QPainter>
+#include <QWidget>
 #include <array>
 #include <cmath>
 
@@ -163,9 +165,18 @@ QString Theme::styleSheet() const {
                "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
                "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }"
                "QLabel[notice=\"true\"] { background: %8; }"
+               "QLabel[read=\"true\"] { border: 1px solid transparent; border-radius: 3px; }"
+               "QLabel[read=\"true\"]:focus { border: 1px solid %4; }"
                "QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: 0; }")
         .arg(line.name(), quietText.name(), text.name(), accent.name(), key.name(), panel.name(), window.name(),
              warning.name(), readableOn(accent).name());
+}
+
+void paintFocus(const QWidget& widget, QPainter& painter) {
+    if (!widget.hasFocus()) return;
+    painter.setPen(QPen(Theme::current().accent, 1.5));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(widget.rect()).adjusted(1, 1, -1, -1), 4, 4);
 }
 
 QColor readableOn(const QColor& background) {

@@ -9,6 +9,9 @@
 
 #include "display/control.h"
 
+class QPainter;
+class QWidget;
+
 namespace corvane {
 
 enum class ThemeKind { dark, light };
@@ -39,6 +42,9 @@ struct Theme {
     QPalette palette() const;
     QString styleSheet() const;
 };
+
+// A frame around a widget that has the keyboard and paints itself.
+void paintFocus(const QWidget& widget, QPainter& painter);
 
 // White or near-black, whichever reads better on `background`.
 QColor readableOn(const QColor& background);

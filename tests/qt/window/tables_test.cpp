@@ -385,7 +385,7 @@ TEST(TablesTest, LinksOpenByHandAndByKey) {
     };
     EXPECT_EQ(spoken("reference", QAccessible::Name), "Park, US-0001, link");
     EXPECT_EQ(spoken("reference", QAccessible::Description), "Enter opens it in the web browser.");
-    EXPECT_EQ(spoken("tune", QAccessible::Name), "Tune to this spot, button");
+    EXPECT_EQ(spoken("tune", QAccessible::Name), "Tune to N0CALL, 14.074 MHz, button");
     EXPECT_EQ(spoken("last", QAccessible::Name), "Age, 5 min");
     table.setFocus();
     QTest::keyClick(&table, Qt::Key_Return);
