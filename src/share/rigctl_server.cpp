@@ -175,6 +175,7 @@ void RigctlServer::answer(Client& client, const RigctlRequest& request, std::str
     else if (!run(client, request, reply))
         return;
     reply.appendTo(text, request);
+    if (reply.error == RigctlError::invalid) client.reader.skipLine();
     client.ends = client.ends || reply.closes;
 }
 
@@ -216,6 +217,7 @@ void RigctlServer::resumeAll() {
         if (!run(*client, request, reply)) continue;
         std::string text;
         reply.appendTo(text, request);
+        if (reply.error == RigctlError::invalid) client->reader.skipLine();
         client->connection->write(text);
         serveLater(*client);
     }

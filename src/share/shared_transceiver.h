@@ -69,6 +69,7 @@ public:
 private:
     struct Question {
         std::optional<ShareTime> asked;
+        unsigned heard = 0;     // what had been heard by then
         ShareTime again{};  // not before this time
     };
     void take(Item item, int value);
@@ -92,7 +93,7 @@ private:
     bool off_ = false;
     bool ticking_ = false;
     ShareTime now_{0};
-    ShareTime heard_{0};
+    unsigned heard_ = 0;  // responses
     ShareTime activeUntil_{0};
     ShareTime nextProbe_{0};
 };

@@ -32,11 +32,16 @@ protected:
     std::string ask(std::string_view text) { return ask(program, text); }
     std::string ask(FakeProgram& from, std::string_view text) {
         std::string answer = from.ask(text);
-        for (int turn = 0; turn < 20; ++turn) {
-            bench.settle();
-            bench.advance(0ms);
-        }
+        for (int turn = 0; turn < 20; ++turn) pass(0ms);
         return answer + from.take();
+    }
+    // Time in which the transceiver answers.
+    void pass(Scheduler::Duration time) {
+        do {
+            bench.advance(std::min<Scheduler::Duration>(time, 50ms));
+            bench.settle();
+            time -= 50ms;
+        } while (time > 0ms);
     }
     void permitTransmitting() { bench.display.shareTransmitSwitch.performClick(); }
     void silence(bool silent) {
@@ -46,9 +51,7 @@ protected:
     }
     // What stays when a setting has been reported, and the time for older reports is over.
     void settle() {
-        bench.settle();
-        bench.advance(1s);
-        bench.settle();
+        pass(1s);
         bench.takeWrites();
     }
 
@@ -117,7 +120,8 @@ TEST_F(RigctlTest, AnswersWhatIsKnownWithoutAByteOnTheLine) {
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
 
     // Cut anywhere; a line without an end is bounded.
-    EXPECT_EQ(program.ask("\\get_f") + program.ask("req"), "");
+    EXPECT_EQ(program.ask("\\get_f"), "");
+    EXPECT_EQ(program.ask("req"), "");
     EXPECT_EQ(program.ask("\nf"), "14250000\n");
     EXPECT_EQ(ask("\n" + std::string(100'000, 'x')), "14250000\nRPRT -1\n");
     EXPECT_EQ(ask("x\nf\n"), "14250000\n");
@@ -195,13 +199,12 @@ TEST_F(RigctlTest, SendsTheLastValueOfAProgramThatSetsFasterThanTheLineCarries) 
     program.ask(flood);
     bench.advance(40ms);
     EXPECT_EQ(program.ask("f\n").substr(0, 7), "RPRT 0\n");
-    bench.advance(1s);
+    pass(1s);
     const Writes writes = bench.takeWrites();
-    EXPECT_LT(writes.size(), 30U);
+    EXPECT_LT(std::ranges::count_if(writes, [](const auto& write) { return write.starts_with("FA"); }), 5);
     EXPECT_EQ(bench.transceiver.ask("FA;"), "FA014000999;");
 
     // A full driver gets no more: the last value leaves when it takes bytes again.
-    bench.settle();
     bench.port->waiting = 500;
     ask("F 14100000\nF 14200000\nf\n");
     bench.advance(1s);
