@@ -15,9 +15,8 @@ void SharedTransceiver::takeResponse(std::string_view response) {
     ++heard_;
     if (silent_ || (off_ && response != "PS0")) comeBack();
     const auto vfo = value(Item::vfo);
-    forEachReported(response, values_.reported(Item::vfo).value_or(0), [this](Item item, int value) {
-        take(item, value);
-    });
+    forEachReported(response, values_.reported(Item::vfo).value_or(0),
+                    [this](Item item, int value) { take(item, value); });
     if (vfo && value(Item::vfo) != vfo) onVfoChanged();
     if (keyedBy_ && value(Item::transmit) == 0) setKeyedBy(std::nullopt);
 }

@@ -27,9 +27,8 @@ struct Surroundings {
     FakeLoopbackServer loopback;
 
     Platform platform() {
-        return {portManager, notices, scheduler,  settings, speech, sounds,
-                browser,     alerts,  dataFolder, files,    http,   log,
-                loopback};
+        return {portManager, notices,    scheduler, settings, speech, sounds,  browser,
+                alerts,      dataFolder, files,     http,     log,    loopback};
     }
 };
 
