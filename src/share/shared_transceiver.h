@@ -1,6 +1,6 @@
 // The transceiver as other programs see it: what it has reported, what they set, and which of them has keyed it.
 // Reading what is known costs the line nothing; what is not known is asked for once. The doors to other programs stand
-// on it: the rigctl server.
+// on it: the rigctl server, and any other that comes; the switches "share" and "may transmit" hold for all of them.
 #pragma once
 
 #include <array>
