@@ -139,7 +139,7 @@ std::string state(Console& console, const Words&) {
         text += "\n";
     }
     text += now.powered ? "power on" : "power off";
-    text += now.transmitting ? ", transmitting" : ", receiving";
+    text += now.transmitting || now.keyed ? ", transmitting" : ", receiving";
     text += now.autoInformation ? ", auto information on" : ", auto information off";
     text += ", signal " + std::to_string(now.signalLevel) + "\n";
     for (const std::string_view command :

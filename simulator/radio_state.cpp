@@ -130,6 +130,11 @@ std::string roofingFilterReading(const RadioState& state) {
 
 std::string meterReading(const RadioState& state) { return "RM1" + decimalField(state.meter(), 3) + "000"; }
 
+std::string transmitReading(const RadioState& state) {
+    if (state.keyed) return "TX1";
+    return state.transmitting ? "TX2" : "TX0";
+}
+
 std::string tunerReading(const RadioState& state) { return state.tunerOn ? "AC001" : "AC000"; }
 
 }  // namespace simulator

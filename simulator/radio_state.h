@@ -32,10 +32,11 @@ struct RadioState {
     bool powered = true;
     bool awake = false;  ///< while switched off: a first "PS1;" has woken the link
     bool autoInformation = false;
-    bool transmitting = false;
-    int signalLevel = 0;   ///< 0 to 255, from the antenna
-    int signalOffset = 0;  ///< hertz from the dial frequency to the signal
-    char agc = '4';        ///< as set: 0 off, 1 fast, 2 mid, 3 slow, 4 automatic
+    bool transmitting = false;  ///< a text or its tuner
+    bool keyed = false;         ///< by "TX1;"
+    int signalLevel = 0;        ///< 0 to 255, from the antenna
+    int signalOffset = 0;       ///< hertz from the dial frequency to the signal
+    char agc = '4';             ///< as set: 0 off, 1 fast, 2 mid, 3 slow, 4 automatic
     char roofingFilter = '2';
     bool tunerOn = false;
     Side active = Side::a;
@@ -62,7 +63,7 @@ struct RadioState {
     bool recallQuickMemory();
     bool zeroIn();
     bool clearChannel(int channel);
-    int meter() const { return transmitting ? 0 : signalLevel; }
+    int meter() const { return transmitting || keyed ? 0 : signalLevel; }
 };
 
 // The answers to read commands, without ";": "FA014250000".
@@ -81,5 +82,6 @@ std::string agcReading(const RadioState& state);
 std::string roofingFilterReading(const RadioState& state);
 std::string meterReading(const RadioState& state);
 std::string tunerReading(const RadioState& state);
+std::string transmitReading(const RadioState& state);
 
 }  // namespace simulator

@@ -19,7 +19,8 @@ std::vector<std::string> readings(const RadioState& state) {
                                     agcReading(state),
                                     roofingFilterReading(state),
                                     meterReading(state),
-                                    tunerReading(state)};
+                                    tunerReading(state),
+                                    transmitReading(state)};
     for (std::size_t row = 0; row < panelRows().size(); ++row) result.push_back(state.panel.reading(row));
     return result;
 }

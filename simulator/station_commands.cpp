@@ -112,8 +112,16 @@ Reply meter(RadioState& state, std::string_view parameters) {
     return parameters == "1" ? answered(meterReading(state)) : rejected();
 }
 
+Reply transmit(RadioState& state, std::string_view parameters) {
+    if (parameters.empty()) return answered(transmitReading(state));
+    if (parameters != "0" && parameters != "1") return rejected();
+    state.keyed = parameters == "1";
+    return {};
+}
+
 Reply switchOff(RadioState& state) {
     state.powered = false;
+    state.keyed = false;
     state.awake = false;
     state.autoInformation = false;
     return {.report = "PS0"};
@@ -145,7 +153,7 @@ constexpr std::array rows{
     CommandRow{"KM", keyerMemory}, CommandRow{"EM", encoderMemory},   CommandRow{"KY", playKeyer},
     CommandRow{"EN", playEncoder}, CommandRow{"EX", menuItem},        CommandRow{"AC", antennaTuner},
     CommandRow{"GT0", agc},        CommandRow{"RF0", roofingFilter},  CommandRow{"RM", meter},
-    CommandRow{"PS", power},       CommandRow{"AI", autoInformation},
+    CommandRow{"PS", power},       CommandRow{"AI", autoInformation}, CommandRow{"TX", transmit},
 };
 
 }  // namespace

@@ -12,9 +12,11 @@ namespace corvane {
 
 // Each switch is one character of text, on exactly when it is "1".
 struct Switches {
-    std::string vqVoiceGuide;  // spoken announcements
-    std::string vqSounds;      // the program's own sounds; named alerts play in any case
-    std::string vqMemoryIPO;   // recalling a memory channel switches the pre-amplifier off
+    std::string vqVoiceGuide;   // spoken announcements
+    std::string vqSounds;       // the program's own sounds; named alerts play in any case
+    std::string vqMemoryIPO;    // recalling a memory channel switches the pre-amplifier off
+    std::string share;          // other programs may use the transceiver
+    std::string shareTransmit;  // and transmit
 };
 
 // One row per switch: where it is shown, kept and stored.
@@ -31,6 +33,8 @@ inline constexpr std::array preferenceSwitches{
     PreferenceSwitch{&Display::menuItemPreferencesVoice, &Switches::vqVoiceGuide, "voice", "1", 900},
     PreferenceSwitch{&Display::menuItemPreferencesSounds, &Switches::vqSounds, "sounds", "1", 901},
     PreferenceSwitch{&Display::menuItemPreferencesIPO, &Switches::vqMemoryIPO, "ipo", "0", 902},
+    PreferenceSwitch{&Display::shareSwitch, &Switches::share, "share", "0", 910},
+    PreferenceSwitch{&Display::shareTransmitSwitch, &Switches::shareTransmit, "shareTransmit", "0", 911},
 };
 
 class Preferences {
@@ -44,6 +48,8 @@ public:
     bool voiceGuide() const { return switches_.vqVoiceGuide == "1"; }
     bool sounds() const { return switches_.vqSounds == "1"; }
     bool memoryIpo() const { return switches_.vqMemoryIPO == "1"; }
+    bool share() const { return switches_.share == "1"; }
+    bool shareTransmit() const { return switches_.shareTransmit == "1"; }
 
 private:
     void show(const PreferenceSwitch& row);

@@ -23,6 +23,7 @@ void SerialPortDemoController::bindControls() {
     display.writeMemoriesButton.action = [this](Button&) { memories.askBeforeWriting(); };
     display.exportMemoriesButton.action = [this](Button& sender) { memories.exportMemories(sender); };
     display.importMemoriesButton.action = [this](Button& sender) { memories.importMemories(sender); };
+    display.sharePortField.action = [this](TextField& sender) { rigctlServer.choosePort(sender); };
     display.autoMemoryNowButton.action = [this](Button& sender) { autoMemoryNow(sender); };
     for (const PreferenceSwitch& row : preferenceSwitches)
         (display.*row.item).action = [this](MenuItem& sender) { goMainMenu(sender); };
@@ -97,7 +98,8 @@ void SerialPortDemoController::bindEntries() {
 }
 
 void SerialPortDemoController::bindTables() {
-    for (TableView* table : {&display.memoriesTable, &display.autoMemTable}) table->setDataSource(*this);
+    for (TableView* table : {&display.memoriesTable, &display.autoMemTable, &display.shareTable})
+        table->setDataSource(*this);
     for (const ListFeed& row : listFeeds) (display.*row.table).setDataSource(*this);
     const auto bind = [this](const auto& cellViews) {
         for (const auto& row : cellViews) {

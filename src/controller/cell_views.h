@@ -37,6 +37,8 @@ inline constexpr std::array buttonCellViews{
                      &SerialPortDemoController::goAutoMemsTune},
     CellView<Button>{"AutoMemsClearCellView", &Display::autoMemTable, "clear", &Display::autoMemsTableClearButton,
                      &SerialPortDemoController::goAutoMemsClear},
+    CellView<Button>{"ShareCellView", &Display::shareTable, "disconnect", &Display::shareTableDisconnectButton,
+                     &SerialPortDemoController::goShareDisconnect},
 };
 
 inline constexpr std::array popUpCellViews{

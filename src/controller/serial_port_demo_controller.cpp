@@ -7,6 +7,12 @@
 
 namespace corvane {
 
+namespace {
+
+constexpr int powerOnTag = 300;
+
+}  // namespace
+
 SerialPortDemoController::SerialPortDemoController(const Platform& platform, ServiceHosts serviceHosts)
     : platform_(platform),
       hosts(std::move(serviceHosts)),
@@ -29,7 +35,10 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       autoMemories(display, link, mirror, voice, platform.settings, platform.scheduler),
       lists(display, link, mirror, voice, {platform.http, platform.scheduler, platform.settings, platform.log, hosts}),
       checkIns(lists, voice, platform.http, platform.settings, platform.scheduler, hosts),
-      conditions(display, platform.http, platform.scheduler, hosts) {
+      conditions(display, platform.http, platform.scheduler, hosts),
+      sharedTransceiver(link, platform.scheduler),
+      rigctlServer(display, preferences, sharedTransceiver,
+                   {platform.loopback, platform.settings, platform.scheduler}) {
     wire();
     bindControls();
     bindPopUps();
@@ -46,16 +55,31 @@ SerialPortDemoController::~SerialPortDemoController() {
 
 void SerialPortDemoController::wire() {
     voice.onSilence = [this](std::string_view written) { display.announcements.say(written); };
-    link.onReady = [this](bool ready) { memories.setKeysEnabled(ready); };
+    link.onReady = [this](bool ready) {
+        memories.setKeysEnabled(ready);
+        if (ready) sharedTransceiver.portOpened();
+    };
+    link.onClosing = [this] { sharedTransceiver.portClosing(); };
     link.onClosed = [this] {
         display.keepAsLastKnown();
+        sharedTransceiver.portClosed();
         memories.linkClosed();
         setupMenu.endRead(": stopped, the link is closed.");
     };
-    link.onSent = [this](std::string_view command) { functionPopUps.noteSent(command); };
+    link.onSent = [this](std::string_view command) {
+        functionPopUps.noteSent(command);
+        sharedTransceiver.noteSent(command);
+    };
     link.onMemoryReadDue = [this] { memories.startMemoryRead(); };
     mirror.onFrequency = [this](std::string_view megahertz) { showOperatorClass(megahertz); };
     mirror.tagOfChannel = [this](int row) { return memories.tagOf(row); };
+    rigctlServer.permissions.sendText = [this](std::string_view text) { return keyer.transmit(std::string(text)); };
+    rigctlServer.permissions.switchOn = [this] { display.key(powerOnTag).performClick(); };
+}
+
+void SerialPortDemoController::goMainMenu(MenuItem& sender) {
+    preferences.goMainMenu(sender);
+    rigctlServer.applyPreferences();
 }
 
 void SerialPortDemoController::awakeFromNib() {
@@ -74,6 +98,7 @@ void SerialPortDemoController::awakeFromNib() {
 void SerialPortDemoController::restoreSettings() {
     link.restorePort();
     preferences.restore();
+    rigctlServer.applyPreferences();
     autoMemories.restoreSquelch();
     vqPortChecked = 1;
     display.vqMemAButton.setTitle("  M-01");
@@ -100,6 +125,7 @@ void SerialPortDemoController::serialPortsWereConnected(const SerialPorts& ports
 
 int SerialPortDemoController::numberOfRows(const TableView& table) const {
     if (&table == &display.memoriesTable) return memoryChannels;
+    if (&table == &display.shareTable) return rigctlServer.rows();
     if (&table == &display.autoMemTable) return static_cast<int>(autoMemories.state().vqAutoMemoryArray.size());
     return lists.numberOfRows(table);
 }
@@ -107,6 +133,7 @@ int SerialPortDemoController::numberOfRows(const TableView& table) const {
 TableCell SerialPortDemoController::viewFor(const TableView& table, int row, int column) const {
     if (&table == &display.memoriesTable)
         return memoriesTableCell(memories.vqMemArray(), display.memsTableModePopUpButton.titles(), row, column);
+    if (&table == &display.shareTable) return rigctlServer.cell(row, column);
     if (&table == &display.autoMemTable) return autoMemTableCell(autoMemories.state(), row, column);
     return lists.viewFor(table, row, column);
 }

@@ -31,6 +31,8 @@
 #include "memories/memory_channels.h"
 #include "platform/platform.h"
 #include "radio/link.h"
+#include "share/rigctl_server.h"
+#include "share/shared_transceiver.h"
 
 namespace corvane {
 
@@ -42,7 +44,7 @@ public:
     ~SerialPortDemoController() override;
     void awakeFromNib();     // the window is made: restores the settings, the first time only
     void restoreSettings();  // restores what is kept between runs
-    void goMainMenu(MenuItem& sender) { preferences.goMainMenu(sender); }
+    void goMainMenu(MenuItem& sender);
     void showHelp() { platform_.browser.open(hosts.helpPage()); }
 
     // --- app: what is heard
@@ -135,6 +137,9 @@ public:
     void goNetsConfirm(Button& sender) { checkIns.goNetsConfirm(sender); }
     void goNetsUnconfirm(Button& sender) { checkIns.goNetsUnconfirm(sender); }
 
+    // --- share: other programs
+    void goShareDisconnect(Button& sender) { rigctlServer.disconnect(sender); }
+
     // --- tables: their data source
     int numberOfRows(const TableView& table) const override;
     TableCell viewFor(const TableView& table, int row, int column) const override;
@@ -176,6 +181,8 @@ public:
     Lists lists;
     CheckIns checkIns;
     Conditions conditions;
+    SharedTransceiver sharedTransceiver;
+    RigctlServer rigctlServer;
 
 private:
     int vqPortChecked = 0;   // 1 once the settings have been restored

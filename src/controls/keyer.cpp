@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "controls/sendable_text.h"
 #include "controls/text_messages.h"
 #include "wire/operating_modes.h"
 
@@ -33,18 +34,21 @@ Keyer::Keyer(Display& display, Link& link, Mirror& mirror) : display_(display), 
 
 // Outside CW, RTTY and PSK there is no memory to send from: nothing is sent and the typed text stays.
 void Keyer::sendTextMessage(Button&) {
+    if (transmit(display_.textMemoryField.stringValue())) clearTextMessage();
+}
+
+bool Keyer::transmit(const std::string& text) {
     const ModeGroup* group = groupInUse(mirror_);
-    if (!group) return;
-    const std::string typed = display_.textMemoryField.stringValue();
+    if (!group || !refusal(text).empty()) return false;
     // After all three groups have been read, the memory 5 reported last may be that of another group.
     mirror_.rememberScratchMemory(*group);
-    for (const std::string_view piece : textPieces(typed)) {
+    for (const std::string_view piece : textPieces(text)) {
         link_.write(storeScratch(*group, piece));
         link_.write(std::string(group->playCommands[scratchMemory - 1]));
     }
     link_.write(storeScratch(*group, mirror_.state().vqTextMemoryRevert));
-    log(typed);
-    clearTextMessage();
+    log(text);
+    return true;
 }
 
 void Keyer::clearTextMessage() {

@@ -16,6 +16,9 @@ public:
     Keyer(Display& display, Link& link, Mirror& mirror);
 
     void sendTextMessage(Button& sender);  // transmits the typed text through memory 5
+    // Transmits a text through memory 5 of the present mode group. False when there is no group, or the transceiver
+    // cannot hold the text: nothing is sent.
+    bool transmit(const std::string& text);
     void returnPressedInTextMessageField(TextField& sender);
     void clearTextMessage();
     // Gives the command that transmits memory 1 to 5 of the present mode, and adds the memory's text to the log. Gives

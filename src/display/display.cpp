@@ -33,6 +33,8 @@ constexpr Outlet memoriesTableOutlet{
     "channel; Enter edits a cell."};
 constexpr Outlet autoMemTableOutlet{"autoMemTable", 0, "", "Auto memories",
                                     "Frequencies at which a signal was heard, newest first."};
+constexpr Outlet shareTableOutlet{"shareTable", 0, "", "Connected programs",
+                                  "The programs that use the transceiver now, and what they asked or set last."};
 constexpr Outlet potaTableOutlet{"potaTable", 0, "", "POTA spots", "Parks on the air, youngest spot first."};
 constexpr Outlet sotaTableOutlet{"sotaTable", 0, "", "SOTA spots", "Summits on the air."};
 constexpr Outlet netLoggerTableOutlet{"netLoggerTable", 0, "", "Active nets", "SSB nets on NetLogger, busiest first."};
@@ -59,6 +61,7 @@ std::deque<Button> makeKeys() {
 
 Display::Display()
     : keys(makeKeys()),
+      shareTable(shareTableOutlet, shareTableColumns),
       cwMemoryButtons(cwMemories.begin(), cwMemories.end()),
       rttyMemoryButtons(rttyMemories.begin(), rttyMemories.end()),
       pskMemoryButtons(pskMemories.begin(), pskMemories.end()),

@@ -92,6 +92,23 @@ public:
                              "CAT commands, for example FA; or MD02;FA014250000; \u2014 Return sends them.", "Ctrl+R"}};
     Button sendButton{{"sendButton", 0, "Send", "Send the command", "Send the typed commands to the transceiver."}};
 
+    // --- station page: other programs
+    MenuItem shareSwitch{{"shareSwitch", 910, "Share the transceiver with other programs", "Share the transceiver",
+                          "Lets loggers, digital-mode programs and others on this computer use the transceiver."}};
+    MenuItem shareTransmitSwitch{{"shareTransmitSwitch", 911, "Other programs may transmit",
+                                  "Other programs may transmit",
+                                  "Lets them key the transceiver, send Morse code and switch it off."}};
+    TextField sharePortField{{"sharePortField", 0, "Port", "Port for other programs",
+                              "TCP port, 1024 to 65535 \u2014 Return takes it. Others expect 4532."}};
+    TextField shareAddressField{
+        {"shareAddressField", 0, "", "Address for other programs", "What to type into the other program."}};
+    TextField shareNoticeField{
+        {"shareNoticeField", 0, "", "Other programs", "What other programs were refused, and what to do about it."}};
+    TextField shareKeyedField{{"shareKeyedField", 0, "", "On the air", "Which program has keyed the transceiver."}};
+    TableView shareTable;
+    Button shareTableDisconnectButton{{"shareTableDisconnectButton", 0, "Disconnect", "Disconnect this program",
+                                       "Ends the connection; a transmission of the program ends with it."}};
+
     // --- radio page: bands and functions
     Button& m6Button = key(6);
     Button& m10Button = key(10);

@@ -1,4 +1,4 @@
-// An entry of the menu bar.
+// An entry of the menu bar, or a box to tick.
 #pragma once
 
 #include "display/control.h"

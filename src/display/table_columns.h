@@ -32,6 +32,14 @@ inline constexpr std::array autoMemTableColumns{
 inline constexpr int autoMemTableNotesColumn = 4;
 static_assert(autoMemTableColumns[autoMemTableNotesColumn].identifier == "notes1");
 
+// The programs that are connected.
+inline constexpr std::array shareTableColumns{
+    TableColumn{"program", "Program", 22},
+    TableColumn{"since", "Since", 14},
+    TableColumn{"last", "Last request", 24},
+    TableColumn{"disconnect", "Disconnect", 14, TableColumn::Alignment::center},
+};
+
 // Of the on-line lists.
 inline constexpr std::array potaTableColumns{
     TableColumn{"tune", "Tune", 8, TableColumn::Alignment::center},

@@ -6,6 +6,7 @@
 #include "platform/file_chooser.h"
 #include "platform/http_client.h"
 #include "platform/log.h"
+#include "platform/loopback_server.h"
 #include "platform/notification_center.h"
 #include "platform/scheduler.h"
 #include "platform/serial_port_manager.h"
@@ -29,6 +30,7 @@ struct Platform {
     FileChooser& files;
     HttpClient& http;
     Log& log;
+    LoopbackServer& loopback;
 };
 
 }  // namespace corvane

@@ -10,6 +10,7 @@
 #include "qt/command_line.h"
 #include "qt/platform/qt_platform.h"
 #include "qt/platform/running_instance.h"
+#include "qt/quit_signals.h"
 #include "qt/window/main_window.h"
 #include "qt/window/start_report.h"
 
@@ -23,6 +24,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(CORVANE_VERSION);
     QApplication::setDesktopFileName("corvane");
     const QApplication application(argc, argv);
+    const corvane::QuitSignals quitSignals;
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     corvane::RunningInstance instance;
     if (!instance.isFirst()) return 0;

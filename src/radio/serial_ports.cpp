@@ -11,6 +11,7 @@ using namespace std::chrono_literals;
 
 void Link::setSerialPort(std::shared_ptr<ORSSerialPort> port) {
     if (port == serialPort_) return;
+    if (isOpen()) onClosing();
     const std::shared_ptr<ORSSerialPort> previous = std::exchange(serialPort_, std::move(port));
     if (previous) {
         previous->close();
@@ -69,6 +70,7 @@ void Link::openOrClosePort(Button&) {
     const std::shared_ptr<ORSSerialPort> port = serialPort_;
     if (!port) return;
     if (port->isOpen()) {
+        onClosing();
         sendCommand("AI0;");
         port->close();
         onReady(false);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "tests/support/fake_loopback_server.h"
 #include "tests/support/fake_serial_port.h"
 #include "tests/support/fake_serial_port_manager.h"
 #include "tests/support/manual_scheduler.h"
@@ -23,10 +24,11 @@ struct Surroundings {
     RecordingFileChooser files;
     RecordingHttpClient http;
     RecordingLog log;
+    FakeLoopbackServer loopback;
 
     Platform platform() {
-        return {portManager, notices, scheduler,  settings, speech, sounds,
-                browser,     alerts,  dataFolder, files,    http,   log};
+        return {portManager, notices,    scheduler, settings, speech, sounds,  browser,
+                alerts,      dataFolder, files,     http,     log,    loopback};
     }
 };
 

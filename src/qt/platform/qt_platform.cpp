@@ -14,6 +14,7 @@
 #include "qt/platform/message_box_alerts.h"
 #include "qt/platform/pulse_sound_player.h"
 #include "qt/platform/qt_http_client.h"
+#include "qt/platform/qt_loopback_server.h"
 #include "qt/platform/qt_scheduler.h"
 #include "qt/platform/qt_serial_port_manager.h"
 #include "qt/platform/simulated_port.h"
@@ -54,6 +55,7 @@ struct QtPlatform::Parts {
     DialogFileChooser files;
     QtHttpClient http;
     StandardLog log;
+    QtLoopbackServer loopback;
 };
 
 QtPlatformOptions defaultOptions() {
@@ -88,7 +90,8 @@ Platform QtPlatform::platform() {
             parts_->dataFolder,
             parts_->files,
             parts_->http,
-            parts_->log};
+            parts_->log,
+            parts_->loopback};
 }
 
 }  // namespace corvane

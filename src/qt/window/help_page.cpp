@@ -11,6 +11,23 @@
 
 namespace corvane {
 
+namespace {
+
+Panel* otherProgramsPanel() {
+    auto* panel = new Panel("Other programs");
+    auto* text = new QLabel(
+        "Tick <b>Share the transceiver</b> on the Station page, and choose <b>Hamlib NET rigctl</b> at 127.0.0.1:4532 "
+        "in "
+        "the other program. It transmits only with the second tick. From another computer: "
+        "<b>ssh -N -L 4532:127.0.0.1:4532 user@this-computer</b>, then 127.0.0.1:4532 there.");
+    text->setTextFormat(Qt::RichText);
+    text->setWordWrap(true);
+    panel->content().addWidget(text);
+    return panel;
+}
+
+}  // namespace
+
 QWidget* makeHelpPage(const Display& display) {
     auto* page = new QWidget;
     auto* rows = new QVBoxLayout(page);
@@ -41,6 +58,7 @@ QWidget* makeHelpPage(const Display& display) {
     }
     panel->content().addLayout(grid);
     rows->addWidget(panel);
+    rows->addWidget(otherProgramsPanel());
     rows->addStretch();
     return page;
 }

@@ -5,6 +5,7 @@
 #include "qt/window/control_views.h"
 #include "qt/window/entry_row.h"
 #include "qt/window/key_button.h"
+#include "qt/window/other_programs_panel.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
 #include "qt/window/pop_up_view.h"
@@ -86,6 +87,7 @@ QWidget* makeStationPage(Display& display, ChangeQueue& queue) {
     grid->addWidget(callPanel(display, queue), 1, 1);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
+    grid->addWidget(makeOtherProgramsPanel(display, queue), 2, 0, 1, 2);
     grid->setRowStretch(2, 1);
     return page;
 }

@@ -1,0 +1,38 @@
+#include "qt/window/other_programs_panel.h"
+
+#include <QHBoxLayout>
+
+#include "qt/window/control_views.h"
+#include "qt/window/entry_row.h"
+#include "qt/window/table_widget.h"
+#include "qt/window/theme.h"
+#include "qt/window/tick_box.h"
+
+namespace corvane {
+
+namespace {
+
+constexpr int shownPrograms = 3;  // without scrolling
+
+}  // namespace
+
+Panel* makeOtherProgramsPanel(Display& display, ChangeQueue& queue) {
+    auto* panel = new Panel("Other programs");
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4 * gridStep);
+    row->addWidget(new TickBox(display.shareSwitch, queue));
+    row->addWidget(new TickBox(display.shareTransmitSwitch, queue));
+    row->addStretch();
+    row->addLayout(entryRow(display.sharePortField, "4532", {}, queue));
+    panel->content().addLayout(row);
+    panel->content().addWidget(new TextLabel(display.shareAddressField, queue));
+    panel->content().addWidget(new NoticeLabel(display.shareNoticeField, queue));
+    panel->content().addWidget(new NoticeLabel(display.shareKeyedField, queue));
+    auto* table = new TableWidget(display.shareTable, queue);
+    table->setMinimumHeight((shownPrograms + 1) * TableView::rowHeight);
+    table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // as much as the page has left
+    panel->content().addWidget(table, 1);
+    return panel;
+}
+
+}  // namespace corvane
