@@ -23,7 +23,8 @@ void MemoryChannels::exportMemories(Button&) {
         return tell("There is nothing to export", "No memory channel is programmed. Read memories first.");
     const auto write = [this](const std::string& path) {
         const SavedFile file = around_.files.write(path, memoryCsv(vqMemArray_));
-        if (!file.error.empty()) tell("The memory channels were not exported", file.path + ": " + file.error);
+        if (!file.error.empty()) return tell("The memory channels were not exported", file.path + ": " + file.error);
+        display_.announcements.say("Exported to " + file.path);
     };
     around_.files.chooseNew("Export memory channels", kind, "memory-channels.csv", tasks_.guarded(write));
 }
@@ -70,6 +71,7 @@ void MemoryChannels::takeImportedChannels(const MemoryTable& shown, std::span<co
     display_.memoryReadField.setStringValue(std::to_string(channels.size()) +
                                             (channels.size() == 1 ? " channel" : " channels") +
                                             " imported, not written to the transceiver yet");
+    display_.announcements.say(display_.memoryReadField.stringValue());
 }
 
 }  // namespace corvane
