@@ -25,7 +25,8 @@ void MemoryChannels::exportMemories(Button&) {
     // The file holds the table as it is now: a read may begin before a file is chosen.
     const auto write = [this, csv = memoryCsv(vqMemArray_)](const std::string& path) {
         const SavedFile file = around_.files.write(path, csv);
-        if (!file.error.empty()) tell("The memory channels were not exported", file.path + ": " + file.error);
+        if (!file.error.empty()) return tell("The memory channels were not exported", file.path + ": " + file.error);
+        display_.announcements.say("Exported to " + file.path);
     };
     const auto choose = [this, write] {
         around_.files.chooseNew("Export memory channels", kind, "memory-channels.csv", tasks_.guarded(write));
@@ -78,6 +79,7 @@ void MemoryChannels::takeImportedChannels(const MemoryTable& shown, std::span<co
     display_.memoryReadField.setStringValue(std::to_string(channels.size()) +
                                             (channels.size() == 1 ? " channel" : " channels") +
                                             " imported, not written to the transceiver yet");
+    display_.announcements.say(display_.memoryReadField.stringValue());
 }
 
 }  // namespace corvane

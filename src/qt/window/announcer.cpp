@@ -10,7 +10,7 @@ namespace corvane {
 
 namespace {
 
-using std::chrono_literals::operator""ms;
+using namespace std::chrono_literals;
 
 constexpr auto gap = 250ms;         // between two, so that a screen reader fetches the first before it changes
 constexpr auto reportTime = 600ms;  // for the transceiver to begin to report a new frequency

@@ -7,7 +7,7 @@
 namespace corvane {
 
 void makeFilterSpeak(QLineEdit& field, Display& display, std::function<QString()> result) {
-    using std::chrono_literals::operator""ms;
+    using namespace std::chrono_literals;
     auto* pause = new QTimer(&field);
     pause->setSingleShot(true);
     pause->setInterval(500ms);

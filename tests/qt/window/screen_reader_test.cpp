@@ -122,7 +122,8 @@ TEST(ScreenReaderTest, TheKeyboardGoesWhereItIsOfUseAndNowhereElseOnTheWay) {
     auto& memories = *station.find<QTableView>("memoriesTable");
     memories.setFocus();
     EXPECT_EQ(memories.currentIndex(), memories.model()->index(0, 1)) << "the channel, not the handle";
-    memories.edit(memories.model()->index(4, 4));
+    memories.setCurrentIndex(memories.model()->index(4, 4));
+    memories.edit(memories.currentIndex());
     QTest::keySequence(memories.findChild<QLineEdit*>(), QKeySequence("F1"));
     EXPECT_TRUE(eventually([&] { return !memories.isVisible(); }));
     EXPECT_FALSE(memories.currentIndex().isValid()) << "no cell has the keyboard";
