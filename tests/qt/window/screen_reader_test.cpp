@@ -69,7 +69,7 @@ TEST(ScreenReaderTest, AnnouncementsSayWhatHappened) {
         {[&] { station.press("F2"); }, "VFO A, 7.074.250 MHz, DATA-U"},
         {[&] { display.sMeter.setIntegerValue(7), station.press("Ctrl+I"); },
          "VFO A, 7.074.250 MHz, DATA-U, S7, Technician CW"},
-        {[&] { display.memPopUpButton.choose(1); }, "7.200 MHz, LSB, memory M-02"},
+        {[&] { display.memPopUpButton.choose(1); }, "7.200.000 MHz, LSB, memory M-02"},
         {[&] { display.textMemoryNoticeField.setStringValue("No accents"); }, "No accents"},
         {[&] { display.memoriesTable.drop("2", 5); }, "Now channel 5"},
         {[&] { station.radio.unplug(); }, "Not connected"},
