@@ -38,7 +38,9 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       conditions(display, platform.http, platform.scheduler, hosts),
       sharedTransceiver(link, platform.scheduler),
       rigctlServer(display, preferences, sharedTransceiver,
-                   {platform.loopback, platform.settings, platform.scheduler}) {
+                   {platform.loopback, platform.settings, platform.scheduler}),
+      virtualPort(display, preferences, link, sharedTransceiver,
+                  {platform.terminal, platform.clipboard, platform.scheduler}) {
     wire();
     bindControls();
     bindPopUps();
@@ -61,23 +63,31 @@ void SerialPortDemoController::wire() {
     link.onClosing = [this] { sharedTransceiver.portClosing(); };
     link.onClosed = [this] {
         sharedTransceiver.portClosed();
+        virtualPort.portClosed();
         memories.linkClosed();
         setupMenu.endRead(": stopped, the link is closed.");
     };
     link.onSent = [this](std::string_view command) {
         functionPopUps.noteSent(command);
         sharedTransceiver.noteSent(command);
+        virtualPort.noteSent(command);
     };
     link.onMemoryReadDue = [this] { memories.startMemoryRead(); };
     mirror.onFrequency = [this](std::string_view megahertz) { showOperatorClass(megahertz); };
     mirror.tagOfChannel = [this](int row) { return memories.tagOf(row); };
     rigctlServer.permissions.sendText = [this](std::string_view text) { return keyer.transmit(std::string(text)); };
     rigctlServer.permissions.switchOn = [this] { display.key(powerOnTag).performClick(); };
+    virtualPort.lineTaken = [this] { return memories.read().repliesAreComing() || setupMenu.reads(); };
 }
 
 void SerialPortDemoController::goMainMenu(MenuItem& sender) {
     preferences.goMainMenu(sender);
+    applySharing();
+}
+
+void SerialPortDemoController::applySharing() {
     rigctlServer.applyPreferences();
+    virtualPort.applyPreferences();
 }
 
 void SerialPortDemoController::awakeFromNib() {
@@ -96,7 +106,7 @@ void SerialPortDemoController::awakeFromNib() {
 void SerialPortDemoController::restoreSettings() {
     link.restorePort();
     preferences.restore();
-    rigctlServer.applyPreferences();
+    applySharing();
     autoMemories.restoreSquelch();
     vqPortChecked = 1;
     display.vqMemAButton.setTitle("  M-01");

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <utility>
 
+#include "qt/platform/desktop_clipboard.h"
 #include "qt/platform/desktop_notification_center.h"
 #include "qt/platform/desktop_web_browser.h"
 #include "qt/platform/dialog_file_chooser.h"
@@ -18,6 +19,7 @@
 #include "qt/platform/simulated_port.h"
 #include "qt/platform/speech_dispatcher.h"
 #include "qt/platform/standard_log.h"
+#include "qt/platform/system_pseudo_terminal.h"
 
 namespace corvane {
 
@@ -39,7 +41,8 @@ struct QtPlatform::Parts {
           scheduler(options.schedulerSpeed),
           settings(options.settingsPath),
           sounds(options.soundsFolder),
-          dataFolder(options.dataPath) {}
+          dataFolder(options.dataPath),
+          terminal(options.runtimePath) {}
 
     QtSerialPortManager serialPortManager;
     DesktopNotificationCenter notificationCenter;
@@ -54,12 +57,15 @@ struct QtPlatform::Parts {
     QtHttpClient http;
     StandardLog log;
     QtLoopbackServer loopback;
+    SystemPseudoTerminal terminal;
+    DesktopClipboard clipboard;
 };
 
 QtPlatformOptions defaultOptions() {
     QtPlatformOptions options;
     options.settingsPath = IniSettingsStore::defaultPath();
     options.dataPath = HomeDataFolder::defaultPath();
+    options.runtimePath = SystemPseudoTerminal::defaultFolder();
     const QDir beside(QCoreApplication::applicationDirPath() + QLatin1String("/../share/corvane/Sounds"));
     options.soundsFolder = QDir::cleanPath(beside.path()).toStdString();
     options.extraPorts = splitPaths(qEnvironmentVariable("CORVANE_EXTRA_PORTS").toStdString());
@@ -83,7 +89,9 @@ Platform QtPlatform::platform() {
             parts_->files,
             parts_->http,
             parts_->log,
-            parts_->loopback};
+            parts_->loopback,
+            parts_->terminal,
+            parts_->clipboard};
 }
 
 }  // namespace corvane

@@ -4,6 +4,7 @@
 
 #include "qt/window/control_views.h"
 #include "qt/window/entry_row.h"
+#include "qt/window/key_button.h"
 #include "qt/window/table_widget.h"
 #include "qt/window/theme.h"
 #include "qt/window/tick_box.h"
@@ -14,6 +15,18 @@ namespace {
 
 constexpr int shownPrograms = 3;  // without scrolling
 
+QLayout* virtualPortRow(Display& display, ChangeQueue& queue) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4 * gridStep);
+    row->addWidget(new TickBox(display.virtualPortSwitch, queue));
+    row->addWidget(new TextLabel(display.virtualPortField, queue));
+    auto* copy = new KeyButton(display.virtualPortCopyButton, queue);
+    copy->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    row->addWidget(copy);
+    row->addWidget(new TextLabel(display.virtualPortStateField, queue), 1);
+    return row;
+}
+
 }  // namespace
 
 Panel* makeOtherProgramsPanel(Display& display, ChangeQueue& queue) {
@@ -22,12 +35,15 @@ Panel* makeOtherProgramsPanel(Display& display, ChangeQueue& queue) {
     row->setSpacing(4 * gridStep);
     row->addWidget(new TickBox(display.shareSwitch, queue));
     row->addWidget(new TickBox(display.shareTransmitSwitch, queue));
+    row->addWidget(new TickBox(display.shareStoreSwitch, queue));
     row->addStretch();
     row->addLayout(entryRow(display.sharePortField, "4532", {}, queue));
     panel->content().addLayout(row);
     panel->content().addWidget(new TextLabel(display.shareAddressField, queue));
     panel->content().addWidget(new NoticeLabel(display.shareNoticeField, queue));
     panel->content().addWidget(new NoticeLabel(display.shareKeyedField, queue));
+    panel->content().addLayout(virtualPortRow(display, queue));
+    panel->content().addWidget(new NoticeLabel(display.virtualPortNoticeField, queue));
     auto* table = new TableWidget(display.shareTable, queue);
     table->setMinimumHeight((shownPrograms + 1) * TableView::rowHeight);
     panel->content().addWidget(table, 1);
