@@ -34,9 +34,9 @@ struct RadioState {
     bool autoInformation = false;
     bool transmitting = false;  ///< a text or its tuner
     bool keyed = false;         ///< by "TX1;"
-    int signalLevel = 0;   ///< 0 to 255, from the antenna
-    int signalOffset = 0;  ///< hertz from the dial frequency to the signal
-    char agc = '4';        ///< as set: 0 off, 1 fast, 2 mid, 3 slow, 4 automatic
+    int signalLevel = 0;        ///< 0 to 255, from the antenna
+    int signalOffset = 0;       ///< hertz from the dial frequency to the signal
+    char agc = '4';             ///< as set: 0 off, 1 fast, 2 mid, 3 slow, 4 automatic
     char roofingFilter = '2';
     bool tunerOn = false;
     Side active = Side::a;

@@ -12,13 +12,13 @@ namespace corvane {
 
 // Each switch is one character of text, on exactly when it is "1".
 struct Switches {
-    std::string vqVoiceGuide;  // spoken announcements
-    std::string vqSounds;      // the program's own sounds; named alerts play in any case
-    std::string vqMemoryIPO;   // recalling a memory channel switches the pre-amplifier off
-    std::string share;         // other programs may use the transceiver
-    std::string shareTransmit; // and transmit
-    std::string shareStore;    // and change memories and menus
-    std::string virtualPort;   // by a serial port, too
+    std::string vqVoiceGuide;   // spoken announcements
+    std::string vqSounds;       // the program's own sounds; named alerts play in any case
+    std::string vqMemoryIPO;    // recalling a memory channel switches the pre-amplifier off
+    std::string share;          // other programs may use the transceiver
+    std::string shareTransmit;  // and transmit
+    std::string shareStore;     // and change memories and menus
+    std::string virtualPort;    // by a serial port, too
 };
 
 // One row per switch: where it is shown, kept and stored.

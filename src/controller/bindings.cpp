@@ -96,7 +96,8 @@ void SerialPortDemoController::bindEntries() {
 }
 
 void SerialPortDemoController::bindTables() {
-    for (TableView* table : {&display.memoriesTable, &display.autoMemTable, &display.shareTable}) table->setDataSource(*this);
+    for (TableView* table : {&display.memoriesTable, &display.autoMemTable, &display.shareTable})
+        table->setDataSource(*this);
     for (const ListFeed& row : listFeeds) (display.*row.table).setDataSource(*this);
     const auto bind = [this](const auto& cellViews) {
         for (const auto& row : cellViews) {

@@ -85,10 +85,10 @@ public:
                                   "Lets them key the transceiver, send Morse code and switch it off."}};
     TextField sharePortField{{"sharePortField", 0, "Port", "Port for other programs",
                               "TCP port, 1024 to 65535 \u2014 Return takes it. Others expect 4532."}};
-    TextField shareAddressField{{"shareAddressField", 0, "", "Address for other programs",
-                                 "What to type into the other program."}};
-    TextField shareNoticeField{{"shareNoticeField", 0, "", "Other programs",
-                                "What other programs were refused, and what to do about it."}};
+    TextField shareAddressField{
+        {"shareAddressField", 0, "", "Address for other programs", "What to type into the other program."}};
+    TextField shareNoticeField{
+        {"shareNoticeField", 0, "", "Other programs", "What other programs were refused, and what to do about it."}};
     TextField shareKeyedField{{"shareKeyedField", 0, "", "On the air", "Which program has keyed the transceiver."}};
     MenuItem shareStoreSwitch{{"shareStoreSwitch", 912, "Other programs may change memories and menus",
                                "Other programs may change memories and menus",

@@ -19,10 +19,10 @@ public:
     std::function<void()> onWritten = [] {};   // the other program has taken some of what waited
     std::function<void()> onClosed = [] {};    // the other program has gone
 
-    virtual std::string read(std::size_t limit) = 0;    // at most so many bytes; what is left waits
-    virtual void write(std::string_view bytes) = 0;     // never blocks; what is not taken yet waits
-    virtual std::size_t backlog() const = 0;            // bytes that wait for the other program
-    virtual std::string peer() const = 0;               // for the operator: "port 53412"
+    virtual std::string read(std::size_t limit) = 0;  // at most so many bytes; what is left waits
+    virtual void write(std::string_view bytes) = 0;   // never blocks; what is not taken yet waits
+    virtual std::size_t backlog() const = 0;          // bytes that wait for the other program
+    virtual std::string peer() const = 0;             // for the operator: "port 53412"
 };
 
 class LoopbackServer {

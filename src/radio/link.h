@@ -50,7 +50,7 @@ public:
 
     // Called by the link:
     std::function<void(bool ready)> onReady = [](bool) {};  // whether commands would reach the transceiver
-    std::function<void()> onClosing = [] {};  // the port is about to be closed: commands still leave
+    std::function<void()> onClosing = [] {};                // the port is about to be closed: commands still leave
     std::function<void()> onClosed = [] {};                 // the session is over: the port was closed, or has gone
     std::function<void(std::string_view command)> onSent = [](std::string_view) {};  // after each, e.g. "AG0000;"
     std::function<void()> onMemoryReadDue = [] {};  // a step of the opening: read the memory channels

@@ -9,7 +9,15 @@
 
 namespace corvane {
 
-enum class RigctlError { none = 0, invalid = 1, notImplemented = 4, timeOut = 5, inputOutput = 6, rejected = 9, notAvailable = 11 };
+enum class RigctlError {
+    none = 0,
+    invalid = 1,
+    notImplemented = 4,
+    timeOut = 5,
+    inputOutput = 6,
+    rejected = 9,
+    notAvailable = 11
+};
 
 struct RigctlAnswer {
     struct Line {

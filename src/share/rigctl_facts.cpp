@@ -13,7 +13,7 @@ namespace corvane::rigctl {
 
 namespace {
 
-constexpr int vfoMask = 0x3;      // A and B
+constexpr int vfoMask = 0x3;  // A and B
 constexpr int antennaMask = 0x1;
 constexpr int vfoOperations = (1 << 1) | (1 << 3) | (1 << 11) | (1 << 12);  // XCHG TO_VFO TUNE TOGGLE
 constexpr int lowPower = 5'000;                                             // milliwatts

@@ -89,12 +89,13 @@ void getTransmitClarifier(RigctlExchange& exchange) { addOfSide(exchange, "XIT",
 void getLevel(RigctlExchange& exchange) {
     if (exchange.word(0) == "?") return exchange.answer.add("", rigctlLevelNames(false));
     const auto level = rigctlLevel(exchange.word(0));
-    if (!level) return exchange.fail(isUnavailable(exchange.word(0)) ? RigctlError::notAvailable : RigctlError::invalid);
+    if (!level)
+        return exchange.fail(isUnavailable(exchange.word(0)) ? RigctlError::notAvailable : RigctlError::invalid);
     const auto reported = exchange.need(level->item);
     if (!reported) return;
     const double value = level->read(*reported);
-    exchange.answer.add("", level->fraction ? withDecimals(value, levelDecimals)
-                                            : std::to_string(static_cast<int>(value)));
+    exchange.answer.add("",
+                        level->fraction ? withDecimals(value, levelDecimals) : std::to_string(static_cast<int>(value)));
 }
 
 void getFunction(RigctlExchange& exchange) {

@@ -9,8 +9,8 @@ namespace corvane {
 
 namespace {
 
-constexpr int full = 255;             // of the gains
-constexpr int mostPower = 100;        // watts
+constexpr int full = 255;       // of the gains
+constexpr int mostPower = 100;  // watts
 constexpr int mostReduction = 15;
 constexpr int mostBlanking = 10;
 
@@ -69,10 +69,9 @@ constexpr std::array levels{
     RigctlLevel{"NB", 38, Item::blankerLevel, "NL0", 3, "", true, asPart<mostBlanking>, fromPart<mostBlanking, 0>},
 };
 
-constexpr std::array<std::string_view, 20> unavailable{"KEYSPD", "SWR",    "ALC",     "RFPOWER_METER", "RAWSTR",
-                                                       "SQL",    "IF",     "MICGAIN", "CWPITCH",       "COMP",
-                                                       "VOX",    "LOCK",   "TUNER",   "TONE",          "TSQL",
-                                                       "SBKIN",  "APF",    "MON",     "RIT",           "XIT"};
+constexpr std::array<std::string_view, 20> unavailable{
+    "KEYSPD", "SWR",  "ALC",   "RFPOWER_METER", "RAWSTR", "SQL",   "IF",  "MICGAIN", "CWPITCH", "COMP",
+    "VOX",    "LOCK", "TUNER", "TONE",          "TSQL",   "SBKIN", "APF", "MON",     "RIT",     "XIT"};
 
 }  // namespace
 

@@ -18,8 +18,8 @@ struct RigctlLevel {
     std::string_view command;  // sets it, with `digits` digits and `end` behind; empty: it can only be read
     int digits;
     std::string_view end;
-    bool fraction;                             // 0 to 1 with six decimals; else a whole number
-    double (*read)(int reported);              // what the line's number means
+    bool fraction;                              // 0 to 1 with six decimals; else a whole number
+    double (*read)(int reported);               // what the line's number means
     std::optional<int> (*write)(double value);  // the number on the line nearest to a value; nothing: invalid
 };
 

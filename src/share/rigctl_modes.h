@@ -12,9 +12,9 @@ namespace corvane {
 
 struct RigctlMode {
     std::string_view name;
-    char code;      // of the "MD" command
-    int bit;        // in the masks of the protocol
-    int passband;   // hertz: the only one that programs can choose
+    char code;     // of the "MD" command
+    int bit;       // in the masks of the protocol
+    int passband;  // hertz: the only one that programs can choose
 };
 
 inline constexpr std::array rigctlModes{

@@ -62,8 +62,7 @@ void RigctlServer::show() {
     if (!display_.sharePortField.editing() && display_.sharePortField.stringValue().empty())
         display_.sharePortField.setStringValue(around_.settings.text("sharePort").value_or(std::to_string(wanted)));
     display_.shareAddressField.setStringValue(
-        port_ == 0 ? "Not shared"
-                   : fmt::format("In the other program choose \"NET rigctl\" at 127.0.0.1:{}", port_));
+        port_ == 0 ? "Not shared" : fmt::format("In the other program choose \"NET rigctl\" at 127.0.0.1:{}", port_));
     const bool keyed = radio_.keyedBy().has_value();
     const Client* client = keyed ? find(*radio_.keyedBy()) : nullptr;
     display_.shareKeyedField.setStringValue(

@@ -84,7 +84,8 @@ RigctlRequest RigctlReader::readCommand() {
     if (!request.command) return problem(Problem::unknown, whole);
     if (request.problem == Problem::none) readArguments(request);
     if (request.problem != Problem::none) line_ = {};
-    request.text = start.substr(0, static_cast<std::size_t>(line_.empty() ? start.size() : line_.data() - start.data()));
+    request.text =
+        start.substr(0, static_cast<std::size_t>(line_.empty() ? start.size() : line_.data() - start.data()));
     while (!request.text.empty() && isBlank(request.text.back())) request.text.remove_suffix(1);
     return request;
 }

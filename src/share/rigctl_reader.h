@@ -18,6 +18,8 @@ public:
     // The next request of the whole lines so far. After one that is malformed or unknown the rest of its line is
     // skipped: what follows a command that is not understood may be its argument.
     std::optional<RigctlRequest> next();
+    // Skips the rest of the line: what follows an argument that is wrong may belong to it.
+    void skipLine() { line_ = {}; }
     std::size_t held() const { return bytes_.size() - read_; }
 
 private:

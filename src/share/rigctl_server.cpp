@@ -64,9 +64,10 @@ void RigctlServer::open() {
             port_ = wanted;
             break;
         case LoopbackServer::Listening::portTaken:
-            note(fmt::format("Port {} is taken, probably by another server of this kind. Stop that program, or choose "
-                             "another port here and in the other programs.",
-                             wanted));
+            note(
+                fmt::format("Port {} is taken, probably by another server of this kind. Stop that program, or choose "
+                            "another port here and in the other programs.",
+                            wanted));
             break;
         case LoopbackServer::Listening::failed:
             note(fmt::format("Port {} cannot be opened. Choose another one.", wanted));
@@ -175,6 +176,7 @@ void RigctlServer::answer(Client& client, const RigctlRequest& request, std::str
     else if (!run(client, request, reply))
         return;
     reply.appendTo(text, request);
+    if (reply.error == RigctlError::invalid) client.reader.skipLine();
     client.ends = client.ends || reply.closes;
 }
 
@@ -192,9 +194,10 @@ bool RigctlServer::run(Client& client, const RigctlRequest& request, RigctlAnswe
     RigctlExchange exchange{radio_, client.session, permissions, request, answer};
     command.handle(exchange);
     if (exchange.refusedToTransmit)
-        note(fmt::format("{}: the program at {} asked to transmit and may not. To let it, switch on \"Other programs "
-                         "may transmit\".",
-                         time(), client.connection->peer()));
+        note(
+            fmt::format("{}: the program at {} asked to transmit and may not. To let it, switch on \"Other programs "
+                        "may transmit\".",
+                        time(), client.connection->peer()));
     if (answer.error == RigctlError::none) {
         const bool waits = exchange.again ? radio_.now() - client.heard < morseLimit
                                           : exchange.lacking && radio_.ask(*exchange.lacking);
@@ -216,6 +219,7 @@ void RigctlServer::resumeAll() {
         if (!run(*client, request, reply)) continue;
         std::string text;
         reply.appendTo(text, request);
+        if (reply.error == RigctlError::invalid) client->reader.skipLine();
         client->connection->write(text);
         serveLater(*client);
     }

@@ -42,8 +42,8 @@ public:
     // The controller says how Morse code is sent, and how the transceiver is switched on.
     RigctlPermissions permissions;
 
-    void applyPreferences();              // opens or closes the door, permits or forbids transmitting
-    void choosePort(TextField& sender);   // 1024 to 65535
+    void applyPreferences();                // opens or closes the door, permits or forbids transmitting
+    void choosePort(TextField& sender);     // 1024 to 65535
     void disconnect(const Button& sender);  // the program in the row that is the sender's tag
 
     int rows() const { return static_cast<int>(clients_.size()); }

@@ -12,12 +12,11 @@ SharedTransceiver::SharedTransceiver(Link& link, Scheduler& scheduler)
       }) {}
 
 void SharedTransceiver::takeResponse(std::string_view response) {
-    heard_ = now_;
+    ++heard_;
     if (silent_ || (off_ && response != "PS0")) comeBack();
     const auto vfo = value(Item::vfo);
-    forEachReported(response, values_.reported(Item::vfo).value_or(0), [this](Item item, int value) {
-        take(item, value);
-    });
+    forEachReported(response, values_.reported(Item::vfo).value_or(0),
+                    [this](Item item, int value) { take(item, value); });
     if (vfo && value(Item::vfo) != vfo) onVfoChanged();
     if (keyedBy_ && value(Item::transmit) == 0) setKeyedBy(std::nullopt);
 }
@@ -63,19 +62,20 @@ void SharedTransceiver::portClosed() {
 
 SharedTransceiver::Contact SharedTransceiver::contact() {
     if (!link_.isOpen()) return Contact::closed;
-    if (!off_ && !silent_) return Contact::present;
+    const bool off = off_ || value(Item::switchedOn) == 0;
+    if (!off && !silent_) return Contact::present;
     if (now_ >= nextProbe_) {
         nextProbe_ = now_ + retry;
         link_.sendCommand("PS;");
     }
-    return off_ ? Contact::off : Contact::silent;
+    return off ? Contact::off : Contact::silent;
 }
 
 bool SharedTransceiver::ask(Item item) {
     Question& question = questions_[index(item)];
     if (question.asked) return true;
     if (!link_.isOpen() || congested() || now_ < question.again) return false;
-    question.asked = now_;
+    question = {now_, heard_, question.again};
     wake();
     link_.sendCommand(requestFor(item, values_.reported(Item::vfo).value_or(0)));
     return true;
@@ -154,8 +154,8 @@ void SharedTransceiver::expireQuestions() {
     bool expired = false;
     for (Question& question : questions_) {
         if (!question.asked || now_ - *question.asked < patience) continue;
-        if (heard_ < *question.asked) silent_ = true;
-        question = {std::nullopt, now_ + retry};
+        if (heard_ == question.heard) silent_ = true;
+        question = {std::nullopt, 0, now_ + retry};
         expired = true;
     }
     if (expired) onAnswered();

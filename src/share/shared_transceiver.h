@@ -21,16 +21,16 @@ class SharedTransceiver {
 public:
     enum class Contact { closed, off, silent, present };
 
-    static constexpr ShareTime beat{50};              // the room's clock stands still while nobody needs it
-    static constexpr ShareTime patience{450};         // for the answer to a question
-    static constexpr ShareTime retry{1000};           // before a question without an answer is asked again
-    static constexpr std::size_t mostWaiting = 128;   // bytes on their way to the line beyond which settings wait
+    static constexpr ShareTime beat{50};             // the room's clock stands still while nobody needs it
+    static constexpr ShareTime patience{450};        // for the answer to a question
+    static constexpr ShareTime retry{1000};          // before a question without an answer is asked again
+    static constexpr std::size_t mostWaiting = 128;  // bytes on their way to the line beyond which settings wait
 
     SharedTransceiver(Link& link, Scheduler& scheduler);
     ~SharedTransceiver() { unkey(); }
 
     // Called by it:
-    std::function<void()> onAnswered = [] {};   // a question has been answered, or will not be
+    std::function<void()> onAnswered = [] {};    // a question has been answered, or will not be
     std::function<void()> onVfoChanged = [] {};  // not by a program: at the front panel, or by the operator here
     std::function<void()> onKeyed = [] {};       // who has keyed the transceiver has changed
     std::function<void()> onBeat = [] {};        // every 50 ms while something is going on
@@ -71,7 +71,8 @@ public:
 private:
     struct Question {
         std::optional<ShareTime> asked;
-        ShareTime again{};  // not before this time
+        unsigned heard = 0;  // what had been heard by then
+        ShareTime again{};   // not before this time
     };
     void take(Item item, int value);
     void comeBack();
@@ -94,7 +95,7 @@ private:
     bool off_ = false;
     bool ticking_ = false;
     ShareTime now_{0};
-    ShareTime heard_{0};
+    unsigned heard_ = 0;  // responses
     ShareTime activeUntil_{0};
     ShareTime nextProbe_{0};
 };

@@ -140,6 +140,7 @@ void VirtualPort::serveLater() {
 bool VirtualPort::handle(const std::string& command, ShareTime since) {
     const PortRequest request = portRequest(command);
     heard_ = now_;
+    radio_.noteActivity();
     const Contact contact = radio_.contact();
     const bool present = contact == Contact::present;
     // A transceiver that is off answers nothing but what asks for that, or switches it on.

@@ -101,15 +101,17 @@ TEST(SimulatedTransceiver, PlaysTextsOneAfterTheOtherAsTheyStoodThen) {
     RadioOnLine line;
     line.radio.hear(100);
     line.exchange("AI1;");
-    EXPECT_EQ(line.exchange("KM5CQ};KYA;KM5TEST};KYA;KM5OLD};RM1;", 100ms), "RM1000000;RM1000000;");
+    EXPECT_EQ(line.exchange("KM5CQ};KYA;KM5TEST};KYA;KM5OLD};RM1;", 100ms), "RM1000000;TX2;RM1000000;");
     EXPECT_TRUE(line.radio.state().transmitting);
     EXPECT_EQ(line.radio.textsOnAir(), (std::deque<std::string>{"CQ"}));
     line.pass(1200ms);
     EXPECT_EQ(line.radio.textsOnAir(), (std::deque<std::string>{"CQ", "TEST"}));
     line.pass(2400ms);
     EXPECT_FALSE(line.radio.state().transmitting);
-    EXPECT_TRUE(line.sent.ends_with("RM1100000;")) << line.sent;
+    EXPECT_TRUE(line.sent.ends_with("RM1100000;TX0;")) << line.sent;
     EXPECT_EQ(line.exchange("KM5;"), "KM5OLD;");
+    EXPECT_EQ(line.exchange("TX1;TX;RM1;"), "RM1000000;TX1;TX1;RM1000000;");
+    EXPECT_EQ(line.exchange("TX0;TX2;"), "RM1100000;TX0;?;");
     line.exchange("EN11;PS0;");
     EXPECT_FALSE(line.radio.state().transmitting);
 }

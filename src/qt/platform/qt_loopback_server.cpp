@@ -17,8 +17,10 @@ public:
         // A socket tells of what it has written from within write().
         QObject::connect(socket_, &QTcpSocket::readyRead, &calls_, [this] { onReadable(); });
         const auto later = Qt::QueuedConnection;
-        QObject::connect(socket_, &QTcpSocket::bytesWritten, &calls_, [this] { onWritten(); }, later);
-        QObject::connect(socket_, &QTcpSocket::disconnected, &calls_, [this] { onClosed(); }, later);
+        QObject::connect(
+            socket_, &QTcpSocket::bytesWritten, &calls_, [this] { onWritten(); }, later);
+        QObject::connect(
+            socket_, &QTcpSocket::disconnected, &calls_, [this] { onClosed(); }, later);
     }
     // From within a signal of the socket, too.
     ~Connection() override {
@@ -34,9 +36,7 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    std::string read(std::size_t limit) override {
-        return socket_->read(static_cast<qint64>(limit)).toStdString();
-    }
+    std::string read(std::size_t limit) override { return socket_->read(static_cast<qint64>(limit)).toStdString(); }
     void write(std::string_view bytes) override {
         socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
         socket_->flush();

@@ -46,6 +46,7 @@ Panel* makeOtherProgramsPanel(Display& display, ChangeQueue& queue) {
     panel->content().addWidget(new NoticeLabel(display.virtualPortNoticeField, queue));
     auto* table = new TableWidget(display.shareTable, queue);
     table->setMinimumHeight((shownPrograms + 1) * TableView::rowHeight);
+    table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // as much as the page has left
     panel->content().addWidget(table, 1);
     return panel;
 }

@@ -32,11 +32,16 @@ protected:
     std::string ask(std::string_view text) { return ask(program, text); }
     std::string ask(FakeProgram& from, std::string_view text) {
         std::string answer = from.ask(text);
-        for (int turn = 0; turn < 20; ++turn) {
-            bench.settle();
-            bench.advance(0ms);
-        }
+        for (int turn = 0; turn < 20; ++turn) pass(0ms);
         return answer + from.take();
+    }
+    // Time in which the transceiver answers.
+    void pass(Scheduler::Duration time) {
+        do {
+            bench.advance(std::min<Scheduler::Duration>(time, 50ms));
+            bench.settle();
+            time -= 50ms;
+        } while (time > 0ms);
     }
     void permitTransmitting() { bench.display.shareTransmitSwitch.performClick(); }
     void silence(bool silent) {
@@ -46,9 +51,7 @@ protected:
     }
     // What stays when a setting has been reported, and the time for older reports is over.
     void settle() {
-        bench.settle();
-        bench.advance(1s);
-        bench.settle();
+        pass(1s);
         bench.takeWrites();
     }
 
@@ -75,7 +78,8 @@ TEST_F(RigctlTest, AnswersWhatIsKnownWithoutAByteOnTheLine) {
         {"+f +m\n", "get_freq:\nFrequency: 14250000\nRPRT 0\nget_mode:\nMode: USB\nPassband: 2400\nRPRT 0\n"},
         {";m\n", "get_mode:;Mode: USB;Passband: 2400;RPRT 0\n"},
         {"f;m|v\n", "14250000\nget_mode:;Mode: USB;Passband: 2400;RPRT 0\nget_vfo:|VFO: VFOA|RPRT 0\n"},
-        {"|\\get_vfo_info VFOA\n", "get_vfo_info: VFOA|Freq: 14250000|Mode: USB|Width: 2400|Split: 0|SatMode: 0|RPRT 0\n"},
+        {"|\\get_vfo_info VFOA\n",
+         "get_vfo_info: VFOA|Freq: 14250000|Mode: USB|Width: 2400|Split: 0|SatMode: 0|RPRT 0\n"},
         {"+\\chk_vfo\n", "ChkVFO: 0\n"},
         {"\\chk_vfo\n", "0\n"},
         {"\\get_powerstat\n", "1\n"},
@@ -117,7 +121,8 @@ TEST_F(RigctlTest, AnswersWhatIsKnownWithoutAByteOnTheLine) {
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
 
     // Cut anywhere; a line without an end is bounded.
-    EXPECT_EQ(program.ask("\\get_f") + program.ask("req"), "");
+    EXPECT_EQ(program.ask("\\get_f"), "");
+    EXPECT_EQ(program.ask("req"), "");
     EXPECT_EQ(program.ask("\nf"), "14250000\n");
     EXPECT_EQ(ask("\n" + std::string(100'000, 'x')), "14250000\nRPRT -1\n");
     EXPECT_EQ(ask("x\nf\n"), "14250000\n");
@@ -195,13 +200,12 @@ TEST_F(RigctlTest, SendsTheLastValueOfAProgramThatSetsFasterThanTheLineCarries) 
     program.ask(flood);
     bench.advance(40ms);
     EXPECT_EQ(program.ask("f\n").substr(0, 7), "RPRT 0\n");
-    bench.advance(1s);
+    pass(1s);
     const Writes writes = bench.takeWrites();
-    EXPECT_LT(writes.size(), 30U);
+    EXPECT_LT(std::ranges::count_if(writes, [](const auto& write) { return write.starts_with("FA"); }), 5);
     EXPECT_EQ(bench.transceiver.ask("FA;"), "FA014000999;");
 
     // A full driver gets no more: the last value leaves when it takes bytes again.
-    bench.settle();
     bench.port->waiting = 500;
     ask("F 14100000\nF 14200000\nf\n");
     bench.advance(1s);
