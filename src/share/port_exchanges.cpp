@@ -20,6 +20,8 @@ std::optional<PortExchange> PortExchanges::take(std::string_view response) {
     return ended;
 }
 
+bool PortExchanges::reading() const { return std::ranges::any_of(open_, &PortExchange::reads); }
+
 void PortExchanges::expire(ShareTime now) {
     std::erase_if(open_, [now](const PortExchange& exchange) { return now - exchange.sent >= patience; });
 }

@@ -15,7 +15,7 @@ namespace corvane {
 struct PortExchange {
     std::string end;               // how the last response begins: "FA", "AI"
     bool reads = false;            // that response is the program's answer
-    std::optional<Item> item = {}; // of a setting
+    std::optional<Item> item = {};  // of a setting
     ShareTime sent{};
 };
 
@@ -30,6 +30,7 @@ public:
     void expire(ShareTime now);
     void clear() { open_.clear(); }
     bool empty() const { return open_.empty(); }
+    bool reading() const;  // an answer for the program is to come
 
 private:
     std::deque<PortExchange> open_;

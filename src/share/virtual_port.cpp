@@ -145,6 +145,8 @@ bool VirtualPort::handle(const std::string& command, ShareTime since) {
     const bool present = contact == Contact::present;
     // A transceiver that is off answers nothing but what asks for that, or switches it on.
     if (!present && (contact != Contact::off || !request.command || request.command->name != "PS")) return true;
+    // Answers keep the order of the commands.
+    if (exchanges_.reading() && request.action != Action::unkey) return false;
     switch (request.action) {
         case Action::refuse:
             answer(refusal);
