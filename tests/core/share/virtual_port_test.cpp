@@ -168,6 +168,7 @@ TEST_F(VirtualPortTest, WaitsForAMemoryReadThatStaysWhole) {
     EXPECT_TRUE(bench.controller.memories.read().whole);
     EXPECT_EQ(bench.controller.memories.vqMemArray(), alone);
 
+    settle();
     // Behind a read that takes longer than 3 s a command is refused; one that needs no byte is answered.
     silence(true);
     bench.press(2010100);
