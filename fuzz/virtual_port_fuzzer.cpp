@@ -7,7 +7,7 @@
 namespace corvane {
 
 void fuzz(std::string_view input) {
-    TestBench bench({{"virtualPort", "1"}});
+    TestBench bench({{"virtualPort", "1"}, {"shareTransmit", "0"}});
     bench.around.terminal.come();
     PortReader reader;
     // A first byte says how long the next piece is, so that the input itself decides where it is cut.

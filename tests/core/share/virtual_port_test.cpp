@@ -160,10 +160,17 @@ TEST_F(VirtualPortTest, WaitsForAMemoryReadThatStaysWhole) {
     // Each answer of the transceiver meets a command that it refuses.
     port().ask("MC098;");
     bench.controller.memories.startMemoryRead();
-    for (int i = 0; i < 30; ++i) port().toPort += "FA;MC098;MR304;";
-    ask("");
-    bench.advance(1s);
-    ask("");
+    std::string expected = "?;";
+    for (int i = 0; i < 30; ++i) {
+        port().toPort += "FA;MC098;MR304;";
+        expected += "FA014000000;?;?;";
+    }
+    std::string answers;
+    for (int i = 0; i < 10; ++i) {
+        answers += ask("");
+        bench.advance(100ms);
+    }
+    EXPECT_EQ(answers, expected);
     EXPECT_FALSE(bench.controller.memories.read().running());
     EXPECT_TRUE(bench.controller.memories.read().whole);
     EXPECT_EQ(bench.controller.memories.vqMemArray(), alone);
@@ -171,7 +178,7 @@ TEST_F(VirtualPortTest, WaitsForAMemoryReadThatStaysWhole) {
     settle();
     // Behind a read that takes longer than 3 s a command is refused; one that needs no byte is answered.
     silence(true);
-    bench.press(2010100);
+    bench.press(2020100);
     bench.takeWrites();
     EXPECT_EQ(port().ask("FA;SV;FA;"), "FA014000000;");
     bench.advance(2900ms);
