@@ -15,14 +15,26 @@ namespace {
 
 constexpr int shownPrograms = 3;  // without scrolling
 
-QLayout* virtualPortRow(Display& display, ChangeQueue& queue) {
+QHBoxLayout* wideRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(4 * gridStep);
+    return row;
+}
+
+QLayout* virtualPortRow(Display& display, ChangeQueue& queue) {
+    auto* row = wideRow();
     row->addWidget(new TickBox(display.virtualPortSwitch, queue));
-    row->addWidget(new TextLabel(display.virtualPortField, queue));
+    row->addWidget(new TextLabel(display.virtualPortField, queue), 1);
     auto* copy = new KeyButton(display.virtualPortCopyButton, queue);
     copy->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     row->addWidget(copy);
+    return row;
+}
+
+QLayout* permissionsRow(Display& display, ChangeQueue& queue) {
+    auto* row = wideRow();
+    row->addWidget(new TickBox(display.shareTransmitSwitch, queue));
+    row->addWidget(new TickBox(display.shareStoreSwitch, queue));
     row->addWidget(new TextLabel(display.virtualPortStateField, queue), 1);
     return row;
 }
@@ -31,18 +43,15 @@ QLayout* virtualPortRow(Display& display, ChangeQueue& queue) {
 
 Panel* makeOtherProgramsPanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel("Other programs");
-    auto* row = new QHBoxLayout;
-    row->setSpacing(4 * gridStep);
+    auto* row = wideRow();
     row->addWidget(new TickBox(display.shareSwitch, queue));
-    row->addWidget(new TickBox(display.shareTransmitSwitch, queue));
-    row->addWidget(new TickBox(display.shareStoreSwitch, queue));
-    row->addStretch();
+    row->addWidget(new TextLabel(display.shareAddressField, queue), 1);
     row->addLayout(entryRow(display.sharePortField, "4532", {}, queue));
     panel->content().addLayout(row);
-    panel->content().addWidget(new TextLabel(display.shareAddressField, queue));
+    panel->content().addLayout(virtualPortRow(display, queue));
+    panel->content().addLayout(permissionsRow(display, queue));
     panel->content().addWidget(new NoticeLabel(display.shareNoticeField, queue));
     panel->content().addWidget(new NoticeLabel(display.shareKeyedField, queue));
-    panel->content().addLayout(virtualPortRow(display, queue));
     panel->content().addWidget(new NoticeLabel(display.virtualPortNoticeField, queue));
     auto* table = new TableWidget(display.shareTable, queue);
     table->setMinimumHeight((shownPrograms + 1) * TableView::rowHeight);

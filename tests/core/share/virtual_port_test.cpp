@@ -177,9 +177,7 @@ TEST_F(VirtualPortTest, WaitsForAMemoryReadThatStaysWhole) {
 
     settle();
     // Behind a read that takes longer than 3 s a command is refused; one that needs no byte is answered.
-    silence(true);
-    bench.press(2020100);
-    bench.takeWrites();
+    bench.controller.virtualPort.lineTaken = [] { return true; };
     EXPECT_EQ(port().ask("FA;SV;FA;"), "FA014000000;");
     bench.advance(2900ms);
     EXPECT_EQ(port().take(), "");
