@@ -37,8 +37,7 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       checkIns(lists, voice, platform.http, platform.settings, platform.scheduler, hosts),
       conditions(display, platform.http, platform.scheduler, hosts),
       sharedTransceiver(link, platform.scheduler),
-      rigctlServer(display, preferences, sharedTransceiver,
-                   {platform.loopback, platform.settings, platform.scheduler}),
+      rigctlServer(display, preferences, sharedTransceiver, {platform.loopback, platform.settings, platform.scheduler}),
       virtualPort(display, preferences, link, sharedTransceiver,
                   {platform.terminal, platform.clipboard, platform.scheduler}) {
     wire();

@@ -97,8 +97,8 @@ public:
     MenuItem virtualPortSwitch{{"virtualPortSwitch", 913, "Offer a virtual serial port", "Offer a virtual serial port",
                                 "For programs that know only serial ports: they speak to the transceiver in its own "
                                 "commands."}};
-    TextField virtualPortField{{"virtualPortField", 0, "", "Virtual port",
-                                "The serial port to choose in the other program."}};
+    TextField virtualPortField{
+        {"virtualPortField", 0, "", "Virtual port", "The serial port to choose in the other program."}};
     Button virtualPortCopyButton{{"virtualPortCopyButton", 0, "Copy the path", "Copy the path of the virtual port",
                                   "Puts the path of the virtual port on the clipboard."}};
     TextField virtualPortStateField{{"virtualPortStateField", 0, "", "Use of the virtual port",

@@ -7,6 +7,7 @@
 #include "app/service_hosts.h"
 #include "controller/serial_port_demo_controller.h"
 #include "qt/platform/qt_platform.h"
+#include "qt/quit_signals.h"
 #include "qt/window/main_window.h"
 #include "qt/window/start_report.h"
 
@@ -16,6 +17,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(CORVANE_VERSION);
     QApplication::setDesktopFileName("corvane");
     const QApplication application(argc, argv);
+    const corvane::QuitSignals quitSignals;
     QApplication::setStyle(QStyleFactory::create("Fusion"));
 
     corvane::QtPlatform platform;

@@ -20,9 +20,8 @@ PortRequest pacedRequest(PortRequest request, std::string_view text) {
     const PortCommand::Paced& paced = *request.command->paced;
     const std::string_view digits = text.substr(request.command->name.size());
     const auto value = decimal(digits);
-    const bool fits = digits.size() == digitsOf(paced.item) && std::ranges::all_of(digits, [](char c) {
-                          return c >= '0' && c <= '9';
-                      });
+    const bool fits = digits.size() == digitsOf(paced.item) &&
+                      std::ranges::all_of(digits, [](char c) { return c >= '0' && c <= '9'; });
     if (!fits || !value || *value < paced.lowest || *value > paced.highest) return request;
     request.action = Action::pace;
     request.value = *value;

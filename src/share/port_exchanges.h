@@ -13,8 +13,8 @@ namespace corvane {
 // A read ends with its answer. A setting has none: the question "AI;" is sent behind it, and an error response that
 // comes before the answer "AI1;" is its own. That tells it from an error response to a memory channel's read.
 struct PortExchange {
-    std::string end;               // how the last response begins: "FA", "AI"
-    bool reads = false;            // that response is the program's answer
+    std::string end;                // how the last response begins: "FA", "AI"
+    bool reads = false;             // that response is the program's answer
     std::optional<Item> item = {};  // of a setting
     ShareTime sent{};
 };

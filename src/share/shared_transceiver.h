@@ -1,6 +1,6 @@
 // The transceiver as other programs see it: what it has reported, what they set, and which of them has keyed it.
 // Reading what is known costs the line nothing; what is not known is asked for once. The doors to other programs stand
-// on it: the rigctl server and the virtual port.
+// on it: the rigctl server and the virtual port; the switch "may transmit" holds for both.
 #pragma once
 
 #include <array>

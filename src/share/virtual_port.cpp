@@ -62,14 +62,16 @@ void VirtualPort::open() {
             offered_ = true;
             break;
         case PseudoTerminal::Opening::taken:
-            note(fmt::format("Another Corvane offers {}. Close it, or switch its virtual port off; then switch this one "
-                             "off and on.",
-                             around_.terminal.path()));
+            note(
+                fmt::format("Another Corvane offers {}. Close it, or switch its virtual port off; then switch this one "
+                            "off and on.",
+                            around_.terminal.path()));
             break;
         case PseudoTerminal::Opening::failed:
-            note(fmt::format("{} cannot be made. Its folder must be yours; what stands in the place of the port must "
-                             "be removed.",
-                             around_.terminal.path()));
+            note(
+                fmt::format("{} cannot be made. Its folder must be yours; what stands in the place of the port must "
+                            "be removed.",
+                            around_.terminal.path()));
             break;
     }
     show();
@@ -190,8 +192,8 @@ bool VirtualPort::handle(const std::string& command, ShareTime since) {
 bool VirtualPort::permit(bool permitted, std::string_view wish, std::string_view switchName) {
     if (permitted) return true;
     answer(refusal);
-    note(fmt::format("{}: the program at the virtual port asked to {} and may not. To let it, switch on \"{}\".", time(),
-                     wish, switchName));
+    note(fmt::format("{}: the program at the virtual port asked to {} and may not. To let it, switch on \"{}\".",
+                     time(), wish, switchName));
     return false;
 }
 
@@ -305,9 +307,10 @@ void VirtualPort::tick() {
     exchanges_.expire(now_);
     if (radio_.keyedBy() == number && now_ - heard_ > hangLimit) {
         radio_.unkey();
-        note(fmt::format("{}: the program at the virtual port had keyed the transceiver and was silent for 30 s: it was "
-                         "unkeyed.",
-                         time()));
+        note(
+            fmt::format("{}: the program at the virtual port had keyed the transceiver and was silent for 30 s: it was "
+                        "unkeyed.",
+                        time()));
     }
     if (!radio_.settingsWait()) paced_.clear();  // another program's took the place of some
     if (waiting_) serve();

@@ -30,8 +30,8 @@ struct Surroundings {
     RecordingClipboard clipboard;
 
     Platform platform() {
-        return {portManager, notices,    scheduler, settings, speech, sounds,  browser,
-                alerts,      dataFolder, files,     http,     log,    loopback, terminal, clipboard};
+        return {portManager, notices, scheduler, settings, speech,   sounds,   browser,  alerts,
+                dataFolder,  files,   http,      log,      loopback, terminal, clipboard};
     }
 };
 

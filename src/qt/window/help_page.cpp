@@ -10,6 +10,23 @@
 
 namespace corvane {
 
+namespace {
+
+Panel* otherProgramsPanel() {
+    auto* panel = new Panel("Other programs");
+    auto* text = new QLabel(
+        "Tick <b>Share the transceiver</b> on the Station page, and choose <b>Hamlib NET rigctl</b> at 127.0.0.1:4532 "
+        "in the other program. For one that knows only serial ports tick <b>Offer a virtual serial port</b>. They "
+        "transmit only with the tick of their own. From another computer: "
+        "<b>ssh -N -L 4532:127.0.0.1:4532 user@this-computer</b>, then 127.0.0.1:4532 there.");
+    text->setTextFormat(Qt::RichText);
+    text->setWordWrap(true);
+    panel->content().addWidget(text);
+    return panel;
+}
+
+}  // namespace
+
 QWidget* makeHelpPage(const Display& display) {
     auto* page = new QWidget;
     auto* rows = new QVBoxLayout(page);
@@ -35,6 +52,7 @@ QWidget* makeHelpPage(const Display& display) {
     }
     panel->content().addLayout(grid);
     rows->addWidget(panel);
+    rows->addWidget(otherProgramsPanel());
     rows->addStretch();
     return page;
 }
