@@ -17,6 +17,7 @@ struct PortExchange {
     bool reads = false;             // that response is the program's answer
     std::optional<Item> item = {};  // of a setting
     ShareTime sent{};
+    bool abandoned = false;  // the program has left: what comes is for nobody
 };
 
 class PortExchanges {
@@ -28,6 +29,9 @@ public:
     // The exchange that the response, without its ";", belongs to. An error response belongs to the oldest one.
     std::optional<PortExchange> take(std::string_view response);
     void expire(ShareTime now);
+    void abandon() {
+        for (PortExchange& exchange : open_) exchange.abandoned = true;
+    }
     void clear() { open_.clear(); }
     bool empty() const { return open_.empty(); }
     bool reading() const;  // an answer for the program is to come

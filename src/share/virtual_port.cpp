@@ -94,7 +94,7 @@ void VirtualPort::programLeft() {
     since_.clear();
     radio_.release(number);
     reader_.clear();
-    exchanges_.clear();
+    exchanges_.abandon();
     waiting_.reset();
     autoInformation_ = false;
     show();
@@ -268,13 +268,13 @@ void VirtualPort::answer(std::string_view text) {
 }
 
 bool VirtualPort::takeResponse(std::string_view response) {
-    if (!offered_) return false;
+    if (!offered_ && exchanges_.empty()) return false;
     const auto exchange = exchanges_.take(response.starts_with('?') ? "?" : response);
     const bool refused = exchange && response.starts_with('?');
     if (refused) {
         if (exchange->item) radio_.forget(*exchange->item);
-        answer(refusal);
-    } else if (exchange ? exchange->reads : autoInformation_ && isReport(response)) {
+        if (!exchange->abandoned) answer(refusal);
+    } else if (exchange ? exchange->reads && !exchange->abandoned : autoInformation_ && isReport(response)) {
         answer(std::string(response) + ';');
     }
     // The rooms of the program take the response first.

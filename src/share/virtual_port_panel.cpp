@@ -25,9 +25,9 @@ void VirtualPort::show() {
         offered_ ? fmt::format("In the other program choose the serial port {}", around_.terminal.path())
                  : "No virtual port");
     std::string state;
-    if (!since_.empty()) state = fmt::format("A program is connected since {}", since_);
+    if (!since_.empty()) state = fmt::format("A program at the virtual port since {}", since_);
     if (radio_.keyedBy() == number) state += ". ON AIR: it has keyed the transceiver";
-    if (offered_ && state.empty()) state = "No program has opened it";
+    if (offered_ && state.empty()) state = "No program at the virtual port";
     display_.virtualPortStateField.setStringValue(state);
 }
 

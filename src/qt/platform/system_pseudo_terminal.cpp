@@ -20,6 +20,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::size_t bufferSize = 4096;
+
 // The user's own folder, which nobody else may enter; nothing when it cannot be had.
 FileDescriptor privateFolder(const fs::path& path) {
     std::error_code error;
@@ -127,7 +129,7 @@ void SystemPseudoTerminal::close() {
 
 // Programs are counted: one that is started again at once would hide that the first one has gone.
 void SystemPseudoTerminal::readEvents() {
-    alignas(inotify_event) std::array<char, 4096> buffer{};
+    alignas(inotify_event) std::array<char, bufferSize> buffer{};
     const auto count = ::read(events_.get(), buffer.data(), buffer.size());
     for (std::size_t at = 0; count > 0 && at < static_cast<std::size_t>(count);) {
         inotify_event event{};
@@ -155,12 +157,14 @@ void SystemPseudoTerminal::disconnected() {
     if (master_) discardUnread();
 }
 
-// Answers that a program has not read must not meet the next one.
+// What a program has left behind, answers unread and commands beyond what was taken, must not meet the next one.
 void SystemPseudoTerminal::discardUnread() {
+    while (hungUp() && !read(bufferSize).empty()) {
+    }
     ::inotify_rm_watch(events_.get(), watch_);
     {
         const FileDescriptor other(::open(device_.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
-        ::tcflush(other.get(), TCIOFLUSH);
+        ::tcflush(other.get(), TCIFLUSH);
     }
     watch_ = ::inotify_add_watch(events_.get(), device_.c_str(), IN_OPEN | IN_CLOSE);
     if (hungUp()) return;

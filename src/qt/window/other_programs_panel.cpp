@@ -13,7 +13,7 @@ namespace corvane {
 
 namespace {
 
-constexpr int shownPrograms = 3;  // without scrolling
+constexpr int shownPrograms = 2;  // without scrolling
 
 QHBoxLayout* wideRow() {
     auto* row = new QHBoxLayout;

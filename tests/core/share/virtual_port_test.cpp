@@ -175,6 +175,13 @@ TEST_F(VirtualPortTest, WaitsForAMemoryReadThatStaysWhole) {
     EXPECT_TRUE(bench.controller.memories.read().whole);
     EXPECT_EQ(bench.controller.memories.vqMemArray(), alone);
 
+    // Nor a program that leaves behind a command, nor the next one.
+    port().ask("MC098;");
+    port().leave();
+    bench.controller.memories.startMemoryRead();
+    port().come();
+    EXPECT_EQ(ask(""), "");
+    EXPECT_EQ(bench.controller.memories.vqMemArray(), alone);
     settle();
     // Behind a read that takes longer than 3 s a command is refused; one that needs no byte is answered.
     bench.controller.virtualPort.lineTaken = [] { return true; };
