@@ -175,13 +175,23 @@ TEST_F(VirtualPortTest, WaitsForAMemoryReadThatStaysWhole) {
     EXPECT_TRUE(bench.controller.memories.read().whole);
     EXPECT_EQ(bench.controller.memories.vqMemArray(), alone);
 
-    // Nor a program that leaves behind a command, nor the next one.
-    port().ask("MC098;");
-    port().leave();
-    bench.controller.memories.startMemoryRead();
-    port().come();
-    EXPECT_EQ(ask(""), "");
-    EXPECT_EQ(bench.controller.memories.vqMemArray(), alone);
+    // Whose an error response is shows when the question behind the command is answered, also once the program has left.
+    silence(true);
+    settle();
+    for (const bool leaves : {false, true}) {
+        EXPECT_EQ(port().ask("MC098;"), "");
+        bench.controller.memories.startMemoryRead();
+        if (leaves) port().leave();
+        if (leaves) port().come();
+        bench.receive("?;");
+        EXPECT_EQ(bench.controller.memories.read().handled(), 0);
+        EXPECT_EQ(port().take(), leaves ? "" : "?;");
+        bench.receive("AI1;");
+        bench.receive("?;");
+        EXPECT_EQ(bench.controller.memories.read().handled(), 1);
+        bench.advance(10s);
+    }
+    silence(false);
     settle();
     // Behind a read that takes longer than 3 s a command is refused; one that needs no byte is answered.
     bench.controller.virtualPort.lineTaken = [] { return true; };
