@@ -10,12 +10,8 @@ namespace corvane {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::Contains;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-constexpr const char* transmitter = "Other programs may transmit";
 
 class VirtualPortTest : public testing::Test {
 protected:
@@ -175,7 +171,7 @@ TEST_F(VirtualPortTest, WaitsForAMemoryReadThatStaysWhole) {
     EXPECT_TRUE(bench.controller.memories.read().whole);
     EXPECT_EQ(bench.controller.memories.vqMemArray(), alone);
 
-    // Whose an error response is shows when the question behind the command is answered, also once the program has left.
+    // An error response before the answer to "AI;" is the program's, even when that has left.
     silence(true);
     settle();
     for (const bool leaves : {false, true}) {
@@ -232,7 +228,6 @@ TEST_F(VirtualPortTest, DropsAQuestionWithoutAnAnswerAndIsSilentWithoutATranscei
 }
 
 TEST_F(VirtualPortTest, TransmitsAndStoresOnlyWithTheOperatorsWord) {
-    const std::string notice = transmitter;
     for (const char* command : {"TX1;", "TX2;", "KY6;", "EN01;", "AC002;", "AC2;", "PS0;", "PS1;"}) {
         EXPECT_EQ(ask(command), "?;") << command;
         EXPECT_EQ(line(), "") << command;
