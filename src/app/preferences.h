@@ -17,6 +17,8 @@ struct Switches {
     std::string vqMemoryIPO;    // recalling a memory channel switches the pre-amplifier off
     std::string share;          // other programs may use the transceiver
     std::string shareTransmit;  // and transmit
+    std::string shareStore;     // and change memories and menus
+    std::string virtualPort;    // by a serial port, too
 };
 
 // One row per switch: where it is shown, kept and stored.
@@ -35,6 +37,8 @@ inline constexpr std::array preferenceSwitches{
     PreferenceSwitch{&Display::menuItemPreferencesIPO, &Switches::vqMemoryIPO, "ipo", "0", 902},
     PreferenceSwitch{&Display::shareSwitch, &Switches::share, "share", "0", 910},
     PreferenceSwitch{&Display::shareTransmitSwitch, &Switches::shareTransmit, "shareTransmit", "0", 911},
+    PreferenceSwitch{&Display::shareStoreSwitch, &Switches::shareStore, "shareStore", "0", 912},
+    PreferenceSwitch{&Display::virtualPortSwitch, &Switches::virtualPort, "virtualPort", "0", 913},
 };
 
 class Preferences {
@@ -50,6 +54,8 @@ public:
     bool memoryIpo() const { return switches_.vqMemoryIPO == "1"; }
     bool share() const { return switches_.share == "1"; }
     bool shareTransmit() const { return switches_.shareTransmit == "1"; }
+    bool shareStore() const { return switches_.shareStore == "1"; }
+    bool virtualPort() const { return switches_.virtualPort == "1"; }
 
 private:
     void show(const PreferenceSwitch& row);

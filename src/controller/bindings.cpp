@@ -24,6 +24,7 @@ void SerialPortDemoController::bindControls() {
     display.exportMemoriesButton.action = [this](Button& sender) { memories.exportMemories(sender); };
     display.importMemoriesButton.action = [this](Button& sender) { memories.importMemories(sender); };
     display.sharePortField.action = [this](TextField& sender) { rigctlServer.choosePort(sender); };
+    display.virtualPortCopyButton.action = [this](Button&) { virtualPort.copyPath(); };
     display.autoMemoryNowButton.action = [this](Button& sender) { autoMemoryNow(sender); };
     for (const PreferenceSwitch& row : preferenceSwitches)
         (display.*row.item).action = [this](MenuItem& sender) { goMainMenu(sender); };

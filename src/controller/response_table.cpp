@@ -129,7 +129,10 @@ void SerialPortDemoController::interpretResponses(std::string_view text) {
         const std::string joined =
             piece.find("\n\n") == std::string_view::npos ? std::string{} : without(piece, "\n\n");
         std::string_view response = joined.empty() ? piece : std::string_view(joined);
-        if (!response.empty()) sharedTransceiver.takeResponse(response);
+        if (!response.empty()) {
+            sharedTransceiver.takeResponse(response);
+            if (virtualPort.takeResponse(response)) return;
+        }
         if (response.starts_with('?')) {
             const std::string_view refused = memories.refusedReply();
             if (!refused.empty())

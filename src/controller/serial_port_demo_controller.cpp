@@ -37,8 +37,9 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       checkIns(lists, voice, platform.http, platform.settings, platform.scheduler, hosts),
       conditions(display, platform.http, platform.scheduler, hosts),
       sharedTransceiver(link, platform.scheduler),
-      rigctlServer(display, preferences, sharedTransceiver,
-                   {platform.loopback, platform.settings, platform.scheduler}) {
+      rigctlServer(display, preferences, sharedTransceiver, {platform.loopback, platform.settings, platform.scheduler}),
+      virtualPort(display, preferences, link, sharedTransceiver,
+                  {platform.terminal, platform.clipboard, platform.scheduler}) {
     wire();
     bindControls();
     bindPopUps();
@@ -63,23 +64,31 @@ void SerialPortDemoController::wire() {
     link.onClosed = [this] {
         display.keepAsLastKnown();
         sharedTransceiver.portClosed();
+        virtualPort.portClosed();
         memories.linkClosed();
         setupMenu.endRead(": stopped, the link is closed.");
     };
     link.onSent = [this](std::string_view command) {
         functionPopUps.noteSent(command);
         sharedTransceiver.noteSent(command);
+        virtualPort.noteSent(command);
     };
     link.onMemoryReadDue = [this] { memories.startMemoryRead(); };
     mirror.onFrequency = [this](std::string_view megahertz) { showOperatorClass(megahertz); };
     mirror.tagOfChannel = [this](int row) { return memories.tagOf(row); };
     rigctlServer.permissions.sendText = [this](std::string_view text) { return keyer.transmit(std::string(text)); };
     rigctlServer.permissions.switchOn = [this] { display.key(powerOnTag).performClick(); };
+    virtualPort.lineTaken = [this] { return memories.read().repliesAreComing() || setupMenu.reads(); };
 }
 
 void SerialPortDemoController::goMainMenu(MenuItem& sender) {
     preferences.goMainMenu(sender);
+    applySharing();
+}
+
+void SerialPortDemoController::applySharing() {
     rigctlServer.applyPreferences();
+    virtualPort.applyPreferences();
 }
 
 void SerialPortDemoController::awakeFromNib() {
@@ -98,7 +107,7 @@ void SerialPortDemoController::awakeFromNib() {
 void SerialPortDemoController::restoreSettings() {
     link.restorePort();
     preferences.restore();
-    rigctlServer.applyPreferences();
+    applySharing();
     autoMemories.restoreSquelch();
     vqPortChecked = 1;
     display.vqMemAButton.setTitle("  M-01");

@@ -33,6 +33,7 @@
 #include "radio/link.h"
 #include "share/rigctl_server.h"
 #include "share/shared_transceiver.h"
+#include "share/virtual_port.h"
 
 namespace corvane {
 
@@ -154,6 +155,7 @@ private:
     void bindEntries();
     void bindTables();
     void showSettingsProblem();
+    void applySharing();  // the switches of other programs
 
     Platform platform_;
 
@@ -183,6 +185,7 @@ public:
     Conditions conditions;
     SharedTransceiver sharedTransceiver;
     RigctlServer rigctlServer;
+    VirtualPort virtualPort;
 
 private:
     int vqPortChecked = 0;   // 1 once the settings have been restored

@@ -105,6 +105,21 @@ public:
     TextField shareNoticeField{
         {"shareNoticeField", 0, "", "Other programs", "What other programs were refused, and what to do about it."}};
     TextField shareKeyedField{{"shareKeyedField", 0, "", "On the air", "Which program has keyed the transceiver."}};
+    MenuItem shareStoreSwitch{{"shareStoreSwitch", 912, "Other programs may change memories and menus",
+                               "Other programs may change memories and menus",
+                               "Lets programs at the virtual port write memory channels, stored texts and the setup "
+                               "menu."}};
+    MenuItem virtualPortSwitch{{"virtualPortSwitch", 913, "Offer a virtual serial port", "Offer a virtual serial port",
+                                "For programs that know only serial ports: they speak to the transceiver in its own "
+                                "commands."}};
+    TextField virtualPortField{
+        {"virtualPortField", 0, "", "Virtual port", "The serial port to choose in the other program."}};
+    Button virtualPortCopyButton{{"virtualPortCopyButton", 0, "Copy the path", "Copy the path of the virtual port",
+                                  "Puts the path of the virtual port on the clipboard."}};
+    TextField virtualPortStateField{{"virtualPortStateField", 0, "", "Use of the virtual port",
+                                     "Whether a program has opened the virtual port, and transmits."}};
+    TextField virtualPortNoticeField{{"virtualPortNoticeField", 0, "", "Virtual port refused",
+                                      "What the program at the virtual port was refused, and what to do about it."}};
     TableView shareTable;
     Button shareTableDisconnectButton{{"shareTableDisconnectButton", 0, "Disconnect", "Disconnect this program",
                                        "Ends the connection; a transmission of the program ends with it."}};

@@ -31,6 +31,7 @@ public:
 
     // Asks for the items of a group. Returns the last command, which the caller sends.
     std::string readGroup(const MenuGroup& group);
+    bool reads() const { return read_.running(); }
     // Ends the read that runs, if any. `problem` is shown after its progress: ": stopped, the link is closed."
     void endRead(std::string_view problem);
 

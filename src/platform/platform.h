@@ -2,12 +2,14 @@
 #pragma once
 
 #include "platform/alerts.h"
+#include "platform/clipboard.h"
 #include "platform/data_folder.h"
 #include "platform/file_chooser.h"
 #include "platform/http_client.h"
 #include "platform/log.h"
 #include "platform/loopback_server.h"
 #include "platform/notification_center.h"
+#include "platform/pseudo_terminal.h"
 #include "platform/scheduler.h"
 #include "platform/serial_port_manager.h"
 #include "platform/settings_store.h"
@@ -31,6 +33,8 @@ struct Platform {
     HttpClient& http;
     Log& log;
     LoopbackServer& loopback;
+    PseudoTerminal& terminal;
+    Clipboard& clipboard;
 };
 
 }  // namespace corvane

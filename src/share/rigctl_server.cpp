@@ -244,11 +244,9 @@ void RigctlServer::beat() {
 }
 
 void RigctlServer::removeEnded() {
-    const auto ended = std::ranges::stable_partition(clients_, [](const auto& client) { return !client->ends; });
-    if (ended.empty()) return;
-    for (const auto& client : ended) radio_.release(client->session.number);
-    clients_.erase(ended.begin(), ended.end());
-    showSoon();
+    for (const auto& client : clients_)
+        if (client->ends) radio_.release(client->session.number);
+    if (std::erase_if(clients_, [](const auto& client) { return client->ends; }) > 0) showSoon();
 }
 
 RigctlServer::Client* RigctlServer::find(unsigned number) {

@@ -1,6 +1,6 @@
 // The transceiver as other programs see it: what it has reported, what they set, and which of them has keyed it.
 // Reading what is known costs the line nothing; what is not known is asked for once. The doors to other programs stand
-// on it: the rigctl server, and any other that comes; the switches "share" and "may transmit" hold for all of them.
+// on it: the rigctl server and the virtual port; the switch "may transmit" holds for both.
 #pragma once
 
 #include <array>
@@ -47,6 +47,7 @@ public:
     std::optional<int> value(Item item) const { return values_.value(item, now_); }
     // Asks for a value that is not known; false when nothing more will come.
     bool ask(Item item);
+    bool reportsChanges() const { return values_.reporting(); }  // by itself: what is known is certain
     bool asked(Item item) const { return questions_[index(item)].asked.has_value(); }
 
     // --- setting, as fast as the line carries
@@ -54,6 +55,7 @@ public:
     void assume(Item item, int value);          // what a command changes along with its own item
     void send(Item kind, std::string command);  // nothing is known of it beforehand
     void forget(Item item) { values_.forget(item); }
+    bool settingsWait() const { return !paced_.empty(); }  // for their turn on the line
     bool congested() const { return link_.waitingBytes() > mostWaiting; }
 
     // --- transmitting

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/alerts.h"
+#include "platform/clipboard.h"
 #include "platform/data_folder.h"
 #include "platform/file_chooser.h"
 #include "platform/http_client.h"
@@ -50,6 +51,11 @@ struct RecordingNotificationCenter final : NotificationCenter {
 struct RecordingWebBrowser final : WebBrowser {
     void open(std::string_view url) override { opened.emplace_back(url); }
     std::vector<std::string> opened;
+};
+
+struct RecordingClipboard final : Clipboard {
+    void setText(std::string_view text) override { held = text; }
+    std::string held;
 };
 
 // Alerts. Each question is confirmed at once while `agree` is set.

@@ -3,6 +3,7 @@
 
 #include "platform/platform.h"
 #include "tests/support/fake_loopback_server.h"
+#include "tests/support/fake_pseudo_terminal.h"
 #include "tests/support/fake_serial_port.h"
 #include "tests/support/fake_serial_port_manager.h"
 #include "tests/support/manual_scheduler.h"
@@ -25,10 +26,12 @@ struct Surroundings {
     RecordingHttpClient http;
     RecordingLog log;
     FakeLoopbackServer loopback;
+    FakePseudoTerminal terminal;
+    RecordingClipboard clipboard;
 
     Platform platform() {
-        return {portManager, notices,    scheduler, settings, speech, sounds,  browser,
-                alerts,      dataFolder, files,     http,     log,    loopback};
+        return {portManager, notices, scheduler, settings, speech,   sounds,   browser,  alerts,
+                dataFolder,  files,   http,      log,      loopback, terminal, clipboard};
     }
 };
 

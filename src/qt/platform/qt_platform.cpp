@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "qt/platform/desktop_clipboard.h"
 #include "qt/platform/desktop_notification_center.h"
 #include "qt/platform/desktop_web_browser.h"
 #include "qt/platform/dialog_file_chooser.h"
@@ -20,6 +21,7 @@
 #include "qt/platform/simulated_port.h"
 #include "qt/platform/speech_dispatcher.h"
 #include "qt/platform/standard_log.h"
+#include "qt/platform/system_pseudo_terminal.h"
 
 namespace corvane {
 
@@ -41,7 +43,8 @@ struct QtPlatform::Parts {
           scheduler(options.schedulerSpeed),
           settings(options.settingsPath),
           sounds(options.soundsFolder),
-          dataFolder(options.dataPath) {}
+          dataFolder(options.dataPath),
+          terminal(options.runtimePath) {}
 
     QtSerialPortManager serialPortManager;
     DesktopNotificationCenter notificationCenter;
@@ -56,12 +59,15 @@ struct QtPlatform::Parts {
     QtHttpClient http;
     StandardLog log;
     QtLoopbackServer loopback;
+    SystemPseudoTerminal terminal;
+    DesktopClipboard clipboard;
 };
 
 QtPlatformOptions defaultOptions() {
     QtPlatformOptions options;
     options.settingsPath = IniSettingsStore::defaultPath();
     options.dataPath = HomeDataFolder::defaultPath();
+    options.runtimePath = SystemPseudoTerminal::defaultFolder();
     const QDir beside(QCoreApplication::applicationDirPath() + QLatin1String("/../share/corvane/Sounds"));
     options.soundsFolder = QDir::cleanPath(beside.path()).toStdString();
     options.extraPorts = splitPaths(qEnvironmentVariable("CORVANE_EXTRA_PORTS").toStdString());
@@ -91,7 +97,9 @@ Platform QtPlatform::platform() {
             parts_->files,
             parts_->http,
             parts_->log,
-            parts_->loopback};
+            parts_->loopback,
+            parts_->terminal,
+            parts_->clipboard};
 }
 
 }  // namespace corvane

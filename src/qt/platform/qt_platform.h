@@ -15,6 +15,7 @@ namespace corvane {
 struct QtPlatformOptions {
     QString settingsPath;                 // the ini file
     QString dataPath;                     // the folder for files that people read, such as backups
+    std::filesystem::path runtimePath;    // the folder of the virtual port
     std::filesystem::path soundsFolder;   // holds Seatbelts.aiff, Funk.aiff and alerts/
     std::vector<std::string> extraPorts;  // paths of devices to list in addition to the system's
     double schedulerSpeed = 1;            // 100 lets 5 s pass in 50 ms

@@ -17,8 +17,8 @@ Panel* otherProgramsPanel() {
     auto* panel = new Panel("Other programs");
     auto* text = new QLabel(
         "Tick <b>Share the transceiver</b> on the Station page, and choose <b>Hamlib NET rigctl</b> at 127.0.0.1:4532 "
-        "in "
-        "the other program. It transmits only with the second tick. From another computer: "
+        "in the other program. For one that knows only serial ports tick <b>Offer a virtual serial port</b>. They "
+        "transmit only with the tick of their own. From another computer: "
         "<b>ssh -N -L 4532:127.0.0.1:4532 user@this-computer</b>, then 127.0.0.1:4532 there.");
     text->setTextFormat(Qt::RichText);
     text->setWordWrap(true);

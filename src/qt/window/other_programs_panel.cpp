@@ -4,6 +4,7 @@
 
 #include "qt/window/control_views.h"
 #include "qt/window/entry_row.h"
+#include "qt/window/key_button.h"
 #include "qt/window/table_widget.h"
 #include "qt/window/theme.h"
 #include "qt/window/tick_box.h"
@@ -12,22 +13,46 @@ namespace corvane {
 
 namespace {
 
-constexpr int shownPrograms = 3;  // without scrolling
+constexpr int shownPrograms = 2;  // without scrolling
+
+QHBoxLayout* wideRow() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4 * gridStep);
+    return row;
+}
+
+QLayout* virtualPortRow(Display& display, ChangeQueue& queue) {
+    auto* row = wideRow();
+    row->addWidget(new TickBox(display.virtualPortSwitch, queue));
+    row->addWidget(new TextLabel(display.virtualPortField, queue), 1);
+    auto* copy = new KeyButton(display.virtualPortCopyButton, queue);
+    copy->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    row->addWidget(copy);
+    return row;
+}
+
+QLayout* permissionsRow(Display& display, ChangeQueue& queue) {
+    auto* row = wideRow();
+    row->addWidget(new TickBox(display.shareTransmitSwitch, queue));
+    row->addWidget(new TickBox(display.shareStoreSwitch, queue));
+    row->addWidget(new TextLabel(display.virtualPortStateField, queue), 1);
+    return row;
+}
 
 }  // namespace
 
 Panel* makeOtherProgramsPanel(Display& display, ChangeQueue& queue) {
     auto* panel = new Panel("Other programs");
-    auto* row = new QHBoxLayout;
-    row->setSpacing(4 * gridStep);
+    auto* row = wideRow();
     row->addWidget(new TickBox(display.shareSwitch, queue));
-    row->addWidget(new TickBox(display.shareTransmitSwitch, queue));
-    row->addStretch();
+    row->addWidget(new TextLabel(display.shareAddressField, queue), 1);
     row->addLayout(entryRow(display.sharePortField, "4532", {}, queue));
     panel->content().addLayout(row);
-    panel->content().addWidget(new TextLabel(display.shareAddressField, queue));
+    panel->content().addLayout(virtualPortRow(display, queue));
+    panel->content().addLayout(permissionsRow(display, queue));
     panel->content().addWidget(new NoticeLabel(display.shareNoticeField, queue));
     panel->content().addWidget(new NoticeLabel(display.shareKeyedField, queue));
+    panel->content().addWidget(new NoticeLabel(display.virtualPortNoticeField, queue));
     auto* table = new TableWidget(display.shareTable, queue);
     table->setMinimumHeight((shownPrograms + 1) * TableView::rowHeight);
     table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // as much as the page has left
