@@ -15,6 +15,7 @@ struct Switches {
     std::string vqVoiceGuide;  // spoken announcements
     std::string vqSounds;      // the program's own sounds; named alerts play in any case
     std::string vqMemoryIPO;   // recalling a memory channel switches the pre-amplifier off
+    std::string bandMapStrip;  // the active band of the band map is on the radio page
 };
 
 // One row per switch: where it is shown, kept and stored.
@@ -31,6 +32,7 @@ inline constexpr std::array preferenceSwitches{
     PreferenceSwitch{&Display::menuItemPreferencesVoice, &Switches::vqVoiceGuide, "voice", "1", 900},
     PreferenceSwitch{&Display::menuItemPreferencesSounds, &Switches::vqSounds, "sounds", "1", 901},
     PreferenceSwitch{&Display::menuItemPreferencesIPO, &Switches::vqMemoryIPO, "ipo", "0", 902},
+    PreferenceSwitch{&Display::menuItemPreferencesBandMap, &Switches::bandMapStrip, "bandmap", "0", 903},
 };
 
 class Preferences {

@@ -22,6 +22,8 @@ void SerialPortDemoController::bindControls() {
     display.exportMemoriesButton.action = [this](Button& sender) { memories.exportMemories(sender); };
     display.importMemoriesButton.action = [this](Button& sender) { memories.importMemories(sender); };
     display.autoMemoryNowButton.action = [this](Button& sender) { autoMemoryNow(sender); };
+    display.ownClassPopUpButton.action = [this](PopUpButton& sender) { bandMap.chooseClass(sender); };
+    display.readOutBandButton.action = [this](Button& sender) { bandMap.readOutBand(sender); };
     for (const PreferenceSwitch& row : preferenceSwitches)
         (display.*row.item).action = [this](MenuItem& sender) { goMainMenu(sender); };
 }

@@ -29,7 +29,9 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       autoMemories(display, link, mirror, voice, platform.settings, platform.scheduler),
       lists(display, link, mirror, voice, {platform.http, platform.scheduler, platform.settings, platform.log, hosts}),
       checkIns(lists, voice, platform.http, platform.settings, platform.scheduler, hosts),
-      conditions(display, platform.http, platform.scheduler, hosts) {
+      conditions(display, platform.http, platform.scheduler, hosts),
+      bandMap(display, link, mirror, frontPanel, {lists, memories, autoMemories}, voice, platform.settings,
+              platform.scheduler) {
     wire();
     bindControls();
     bindPopUps();
@@ -73,6 +75,7 @@ void SerialPortDemoController::awakeFromNib() {
 void SerialPortDemoController::restoreSettings() {
     link.restorePort();
     preferences.restore();
+    bandMap.restore();
     autoMemories.restoreSquelch();
     vqPortChecked = 1;
     display.vqMemAButton.setTitle("  M-01");

@@ -66,15 +66,16 @@ void MainWindow::makePages() {
     rows->addWidget(new HeaderBar(display, queue_));
     auto* pages = new TabPages(display.mainTab, queue_);
     pages->addPage("Station", [this, &display] { return makeStationPage(display, queue_); });
-    pages->addPage("Radio", [this, &display] { return makeRadioPage(display, queue_); });
+    pages->addPage("Radio", [this, &display] { return makeRadioPage(controller_.bandMap, display, queue_); });
     pages->addPage("Keyer", [this, &display] { return makeKeyerPage(display, queue_); });
     pages->addPage("Memories", [this, &display] { return makeMemoriesPage(display, queue_); });
     pages->addPage("Lists", [this, &display] { return makeListsPage(display, queue_); });
     pages->addPage("Settings", [this, &display] { return makeSettingsPage(display, queue_); });
     pages->addPage("Help", [&display] { return makeHelpPage(display); });
+    pages->addPage("Band map", [this, &display] { return makeBandMapPage(controller_.bandMap, display, queue_); });
     rows->addWidget(pages, 1);
     setCentralWidget(body);
-    for (int index = 0; index <= helpPage; ++index) {
+    for (int index = 0; index <= Display::bandMapPage; ++index) {
         auto* shortcut = new QShortcut(QKeySequence("Alt+" + QString::number(index + 1)), this);
         connect(shortcut, &QShortcut::activated, this, [this, index] { showPage(index); });
     }
@@ -85,6 +86,8 @@ void MainWindow::makeMenus() {
     auto* program = menuBar()->addMenu("&Corvane");
     program->addAction("&Connect or disconnect\t" + toQString(display.openCloseButton.outlet().shortcut), this,
                        [&display] { display.openCloseButton.performClick(); });
+    program->addAction("&What is on this band\t" + toQString(display.readOutBandButton.outlet().shortcut), this,
+                       [&display] { display.readOutBandButton.performClick(); });
     program->addSeparator();
     program->addAction("&Quit", QKeySequence("Ctrl+Q"), this, &QWidget::close);
 
@@ -96,6 +99,7 @@ void MainWindow::makeMenus() {
     addPreference(*preferences, display.menuItemPreferencesVoice);
     addPreference(*preferences, display.menuItemPreferencesSounds);
     addPreference(*preferences, display.menuItemPreferencesIPO);
+    addPreference(*preferences, display.menuItemPreferencesBandMap);
     preferences->addSeparator();
     auto* themes = new QActionGroup(this);
     for (const char* name : {"dark", "light"}) {

@@ -111,7 +111,7 @@ Panel* functionsPanel(Display& display, ChangeQueue& queue) {
 
 }  // namespace
 
-QWidget* makeRadioPage(Display& display, ChangeQueue& queue) {
+QWidget* makeRadioPage(BandMap& map, Display& display, ChangeQueue& queue) {
     auto* page = new QWidget;
     auto* grid = new QGridLayout(page);
     grid->setContentsMargins(4 * gridStep, 3 * gridStep, 4 * gridStep, 3 * gridStep);
@@ -125,6 +125,7 @@ QWidget* makeRadioPage(Display& display, ChangeQueue& queue) {
     grid->addWidget(scopePanel(display, queue), 2, 8, 1, 4);
     for (int column = 0; column < 12; ++column) grid->setColumnStretch(column, 1);
     grid->setRowStretch(3, 1);
+    grid->addWidget(makeBandMapStrip(map, display, queue), 4, 0, 1, 12);
     return page;
 }
 

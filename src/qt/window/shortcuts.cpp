@@ -43,7 +43,7 @@ std::vector<ShortcutText> shortcutTexts(const Display& display) {
         {"F1", "This page"},
         {"Ctrl+Q", "Quit"},
         {"Alt+C, Alt+R, Alt+P, Alt+H", "Menus"},
-        {"Alt+1 to Alt+7", "Pages"},
+        {"Alt+1 to Alt+8", "Pages"},
         {"Tab, Shift+Tab", "Next and previous control"},
     };
     add(texts, withShortcut(display, false));
