@@ -8,8 +8,8 @@ namespace corvane {
 
 namespace {
 
-constexpr double rowGap = 3;
-constexpr double markHeight = 10;
+constexpr double rowGap = 2;
+constexpr double markHeight = 9;
 constexpr double laneGap = 1;
 constexpr double labelGap = 6;        // between two labels of a lane
 constexpr double reach = 110;         // a label stands no farther from its mark

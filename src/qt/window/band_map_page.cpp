@@ -1,12 +1,12 @@
 // The page with the band map, and its one row for the radio page.
 #include <QLabel>
+#include <QVBoxLayout>
 
 #include "qt/window/band_map_marks.h"
 #include "qt/window/band_map_view.h"
 #include "qt/window/control_views.h"
 #include "qt/window/key_button.h"
 #include "qt/window/pages.h"
-#include "qt/window/panel.h"
 #include "qt/window/pop_up_view.h"
 #include "qt/window/theme.h"
 
@@ -28,7 +28,8 @@ class BandMapStrip : public QWidget {
 public:
     BandMapStrip(BandMap& map, Display& display, ChangeQueue& queue) : map_(map), display_(display), queue_(queue) {
         auto* rows = new QVBoxLayout(this);
-        rows->setContentsMargins(0, 0, 0, 0);
+        rows->setContentsMargins(4 * gridStep, 0, 4 * gridStep, gridStep);
+        rows->setSpacing(gridStep);
         view_ = display.menuItemPreferencesBandMap.addView(queue, [this] { showModel(); });
         showModel();
     }
@@ -36,11 +37,9 @@ public:
 private:
     void showModel() {
         const bool on = display_.menuItemPreferencesBandMap.checked();
-        if (on && !panel_) {
-            panel_ = new Panel("Band map");
-            panel_->content().addWidget(new BandMapView(map_, display_, BandMapView::Extent::activeBand, queue_));
-            panel_->content().addWidget(mapLine(display_, queue_, 1));
-            layout()->addWidget(panel_);
+        if (on && layout()->isEmpty()) {
+            layout()->addWidget(new BandMapView(map_, display_, BandMapView::Extent::activeBand, queue_));
+            layout()->addWidget(mapLine(display_, queue_, 1));
         }
         setVisible(on);
     }
@@ -48,7 +47,6 @@ private:
     BandMap& map_;
     Display& display_;
     ChangeQueue& queue_;
-    Panel* panel_ = nullptr;
     ViewHandle view_;
 };
 
