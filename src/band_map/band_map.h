@@ -29,7 +29,8 @@ public:
 
     // What there is to draw. Others are made when a list or a memory has changed, and every minute.
     const std::shared_ptr<const MapEntries>& entries();
-    // The one place that decides what of the lists is on the map. At first everything is.
+    // The one place that decides what of the lists is on the map; at first everything is. The views look again when a
+    // control that they follow changes.
     void setFilter(EntryFilter keep);
 
     // What a side receives in hertz, as the header shows it; nothing before the first report. 'A' or 'B'.

@@ -38,8 +38,8 @@ private:
     void showModel() {
         const bool on = display_.menuItemPreferencesBandMap.checked();
         if (on && layout()->isEmpty()) {
-            layout()->addWidget(new BandMapView(map_, display_, BandMapView::Extent::activeBand, queue_));
             layout()->addWidget(mapLine(display_, queue_, 1));
+            layout()->addWidget(new BandMapView(map_, display_, BandMapView::Extent::activeBand, queue_));
         }
         setVisible(on);
     }

@@ -164,7 +164,7 @@ void BandMapPicture::paintScale(QPainter& painter, const MapRow& row, const std:
         if (covers || left < free) continue;
         free = left + width + 12;
         const auto under = std::ranges::find_if(
-            parts, [x](const StripPart& part) { return part.box.left() <= x && x <= part.box.right(); });
+            parts, [x](const StripPart& part) { return part.box.left() - 1 <= x && x <= part.box.right() + 1; });
         painter.setPen(under == parts.end() ? theme.quietText : under->ink);
         painter.drawText(QRectF(left, row.stripTop, width + 2, row.stripBottom - row.stripTop),
                          Qt::AlignLeft | Qt::AlignVCenter, text);

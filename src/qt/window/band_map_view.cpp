@@ -19,7 +19,7 @@ namespace {
 
 constexpr int gutter = BandMapPicture::gutter;
 constexpr int linesOfStrip = 5;  // of the row on the radio page
-constexpr int needleHalf = 8;    // a needle and its letter cover twice this width
+constexpr int needleHalf = 11;   // a needle and its letter cover twice this width
 constexpr int oneNotch = 120;    // of the wheel
 constexpr std::array sides{'A', 'B'};
 
@@ -53,6 +53,7 @@ std::optional<MapStep> stepOf(const QKeyEvent& event) {
 
 BandMapView::BandMapView(BandMap& map, Display& display, Extent extent, ChangeQueue& queue, QWidget* parent)
     : QWidget(parent), map_(map), display_(display), extent_(extent), painter_(display), entries_(map.entries()) {
+    makeBandMapAccessible();  // before anything that may be read out
     const bool all = extent == Extent::allBands;
     setObjectName(all ? "bandMap" : "bandMapStrip");
     setAccessibleName(all ? "Band map" : "Band map, active band");
@@ -64,7 +65,6 @@ BandMapView::BandMapView(BandMap& map, Display& display, Extent extent, ChangeQu
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, all ? QSizePolicy::Expanding : QSizePolicy::Fixed);
-    makeBandMapAccessible();
     for (const MapKind& kind : mapKinds) follow(display.*kind.table, queue, &BandMapView::refresh);
     for (Control* control : std::initializer_list<Control*>{&display.vqFreqAButton, &display.vqFreqBButton,
                                                             &display.channelFrequencyAField,
@@ -173,7 +173,8 @@ void BandMapView::paintEvent(QPaintEvent* event) {
     paintCursor(painter);
 }
 
-// The letter of side A stands to the left of its needle, B's to the right, so that both can be read on one frequency.
+// Its letter stands on the strip, where it covers no label: A to the left of the needle, B to the right, so that both
+// can be read on one frequency.
 void BandMapView::paintNeedle(QPainter& painter, char side, const Needle& needle) const {
     const Theme& theme = Theme::current();
     const double x = needle.place.center().x();
@@ -182,8 +183,8 @@ void BandMapView::paintNeedle(QPainter& painter, char side, const Needle& needle
     painter.setPen(QPen(color, needle.active ? 2 : 1, needle.stale ? Qt::DotLine : Qt::SolidLine));
     painter.drawLine(QPointF(x, needle.place.top()), QPointF(x, needle.place.bottom()));
     const QFont font = BandMapPicture::font();
-    const double height = painter_.lineHeight() - 3;
-    const QRectF flag(side == 'A' ? x - needleHalf : x, needle.place.top(), needleHalf, height);
+    const double height = painter_.lineHeight() - 1;
+    const QRectF flag(side == 'A' ? x - needleHalf : x, needle.place.bottom() - height, needleHalf, height);
     painter.fillRect(flag, color);
     painter.setFont(font);
     painter.setPen(readableOn(color));
