@@ -74,8 +74,10 @@ bool BandMap::portIsOpen() {
 void BandMap::tune(const MapEntry& entry) {
     if (!portIsOpen()) return;
     // Its list may have changed since it was drawn: its row would be another one.
-    const bool stillThere = std::ranges::any_of(
-        entries()->bands, [&entry](const BandEntries& band) { return std::ranges::find(band, entry) != band.end(); });
+    const bool stillThere = std::ranges::any_of(entries()->bands, [&entry](const BandEntries& band) {
+        return std::ranges::any_of(
+            band, [&entry](const MapEntry& each) { return each.row == entry.row && sameEntry(each, entry); });
+    });
     if (!stillThere) return;
     const MapKind& kind = mapKind(entry.kind);
     TableView& table = display_.*kind.table;

@@ -63,4 +63,9 @@ struct MapEntry {
     bool operator==(const MapEntry&) const = default;
 };
 
+// Whether both stand for the same station, net or memory, though perhaps at another time or in another row.
+inline bool sameEntry(const MapEntry& a, const MapEntry& b) {
+    return a.kind == b.kind && a.hertz == b.hertz && a.name == b.name;
+}
+
 }  // namespace corvane

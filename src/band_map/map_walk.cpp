@@ -49,9 +49,7 @@ MapCursor followed(const MapCursor& cursor, const std::optional<MapEntry>& was, 
     if (!cursor.stop || *cursor.stop == 0) return cursor;
     if (!was) return {cursor.band, upperEdge(cursor.band, entries)};
     const BandEntries& band = entries.bands[cursor.band];
-    auto found = std::ranges::find_if(band, [&was](const MapEntry& each) {
-        return each.kind == was->kind && each.name == was->name && each.hertz == was->hertz;
-    });
+    auto found = std::ranges::find_if(band, [&was](const MapEntry& each) { return sameEntry(each, *was); });
     if (found == band.end()) found = std::ranges::lower_bound(band, was->hertz, {}, &MapEntry::hertz);
     return {cursor.band, static_cast<std::size_t>(found - band.begin()) + 1};
 }

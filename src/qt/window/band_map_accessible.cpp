@@ -17,7 +17,7 @@ public:
 
     bool isValid() const override { return view_ && place_ < view_->places(); }
     QObject* object() const override { return nullptr; }
-    QWindow* window() const override { return view_->window()->windowHandle(); }
+    QWindow* window() const override { return view_ ? view_->window()->windowHandle() : nullptr; }
     QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(view_); }
     QAccessibleInterface* child(int) const override { return nullptr; }
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
@@ -29,11 +29,13 @@ public:
     }
     void setText(QAccessible::Text, const QString&) override {}
     QRect rect() const override {
+        if (!isValid()) return {};
         const QRect place = view_->placeRect(place_);
         return {view_->mapToGlobal(place.topLeft()), place.size()};
     }
     QAccessible::State state() const override {
         QAccessible::State state;
+        if (!isValid()) return state;
         state.focusable = true;
         state.selectable = true;
         state.invisible = !view_->isVisible();
@@ -45,6 +47,7 @@ public:
     }
     QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
     void doAction(const QString& name) override {
+        if (!isValid()) return;
         if (name == pressAction()) return view_->pressPlace(place_);
         view_->setFocus();
         view_->goToPlace(place_);

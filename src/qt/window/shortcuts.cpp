@@ -28,12 +28,15 @@ bool repeats(const Control& control) {
     return isKey(control) && frontPanelKeys[frontPanelKeyIndex(control.outlet().tag)].panel == KeyPanel::steps;
 }
 
-// In a table.
+// In a table and on the band map.
 const std::array tableKeys{
     ShortcutText{"Enter, Space", "Table: press, open or edit the cell"},
     ShortcutText{"Ctrl+Enter", "Table: tune to the row"},
     ShortcutText{"Alt+Up, Alt+Down", "Memory channels: move the row"},
     ShortcutText{"Shift+F10", "Table: its menu, with sorting"},
+    ShortcutText{"Left, Right", "Band map: from entry to entry; Enter tunes"},
+    ShortcutText{"Up, Down", "Band map: from band to band"},
+    ShortcutText{"Home, End", "Band map: the edges of the band"},
 };
 
 }  // namespace
