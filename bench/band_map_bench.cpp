@@ -36,6 +36,13 @@ BENCHMARK(makeEntries)->Unit(benchmark::kMillisecond);
 
 void layOut(benchmark::State& state) {
     const MapEntries entries = entriesOf(lists(state.range(0) == 1));
+    std::size_t marks = 0, labels = 0;
+    for (const MapRow& row : layoutMap(entries, space, 5, labelWidth)) {
+        marks += row.marks.size();
+        labels += row.labels.size();
+    }
+    state.counters["marks"] = static_cast<double>(marks);
+    state.counters["labels"] = static_cast<double>(labels);
     for (auto _ : state) benchmark::DoNotOptimize(layoutMap(entries, space, 5, labelWidth));
 }
 BENCHMARK(layOut)->ArgName("crowded")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);

@@ -41,7 +41,7 @@ std::string joined(std::initializer_list<std::string> texts) {
 std::string sideBand(long long hertz) { return std::string(*modeName(voiceSideBands.usual(hertz))); }
 
 // Spots say "SSB" for what is tuned as LSB or USB.
-std::string spotMode(std::string mode, long long hertz) { return mode == "SSB" ? sideBand(hertz) : mode; }
+std::string spotMode(const std::string& mode, long long hertz) { return mode == "SSB" ? sideBand(hertz) : mode; }
 
 std::optional<long long> ageOf(const std::string& minutes) {
     const auto age = decimal(minutes);
