@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QToolTip>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -97,7 +98,8 @@ void BandMapView::refresh() {
                          painter_.lineHeight()};
     const bool same = !rows_.empty() && entries_ == entries && active_ == active;
     if (same) return;
-    entries_ = entries;
+    const auto before = std::exchange(entries_, entries);
+    const std::size_t bandBefore = cursor_.band;
     active_ = active;
     if (active) stripBand_ = *active;
     const auto labelWidth = [this](const MapEntry& entry) { return painter_.labelWidth(entry); };
@@ -111,7 +113,13 @@ void BandMapView::refresh() {
     }
     cursor_ = followed(cursor_, onEntry_, *entries_);
     pointed_ = std::nullopt;
-    placesChanged(*this);
+    // A screen reader is not to start again each minute.
+    const bool samePlaces = bandBefore == cursor_.band &&
+                            std::ranges::equal(before->bands[bandBefore], entries_->bands[bandBefore], sameEntry);
+    if (!samePlaces) {
+        placesChanged(*this);
+        placeReached(*this);
+    }
     repicture();
     moveNeedles();
 }
@@ -273,11 +281,9 @@ void BandMapView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !place) return event->ignore();
     if (!place->entry) return map_.tuneNear(place->hertz);
     const std::size_t band = rows_[place->row].band;
-    cursor_ = {band, *place->entry + 1};
-    cursorPlaced_ = true;
-    onEntry_ = entries_->bands[band][*place->entry];
-    update();
-    map_.tune(*onEntry_);
+    moveCursor({band, *place->entry + 1});
+    const MapEntry pressed = entries_->bands[band][*place->entry];
+    map_.tune(pressed);
 }
 
 void BandMapView::wheelEvent(QWheelEvent* event) {
