@@ -1,6 +1,7 @@
 // How fast the whole program is with a transceiver on a real serial line: the window, the port, the operator's input.
 //
 //   spin     8 s of a spinning knob, about 110 reports a second: all handled, input never late, processor time
+//   map      the same with the band map in sight, what that costs more; how long a thousand entries take to paint
 //   read     a whole read of 99 programmed memory channels, compared with the least time possible
 //   latency  from a frequency report entering the line to the end of the paint in which VFO A shows it
 //
@@ -53,6 +54,10 @@ constexpr double readAim = 1.03;        // of the least time
 constexpr double inputAim = 50;         // milliseconds at most
 constexpr double medianLatencyAim = 5;  // milliseconds
 constexpr double longestLatencyAim = 15;
+constexpr double mapAim = 2;           // per cent of a core more while the knob spins
+constexpr double picturePaintAim = 8;  // milliseconds
+constexpr double needlePaintAim = 0.5;
+constexpr int mapEntries = 1000;
 
 double milliseconds(Clock::duration time) { return std::chrono::duration<double, std::milli>(time).count(); }
 
@@ -323,11 +328,46 @@ public:
         std::printf("spin: input handled after %.3f ms median, %.2f ms 99%%, %.2f ms max (%zu keys)\n", pressed.median,
                     pressed.ninetyNinth, pressed.longest, application_.keyLateness.size());
         std::printf("spin: %.2f s of processor time, %.1f %% of one core\n", processor, processor / seconds * 100);
+        share_ = processor / seconds * 100;
         bool good = aim(sent(sentBefore) >= 879 && handled(handledBefore) == sent(sentBefore), "every report handled");
         good &= aim(controller_.mirror.state().vqFreqA == '0' + wanted, "the final frequency");
         good &= aim(pressed.longest < inputAim, "input handled within 50 ms");
         good &= aim(beats.longest < inputAim, "the heartbeat within 50 ms");
         return good;
+    }
+
+    // After spin().
+    bool map() {
+        const double before = share_;
+        FeedList spots;
+        for (int row = 0; row < mapEntries; ++row)
+            spots.push_back({{"N" + std::to_string(row) + "CALL", std::to_string(14'000 + row % 350), "SSB", "",
+                              "A Park", std::to_string(row % 60)}});
+        controller_.lists.setRows(listFeed(Feed::pota), std::move(spots));
+        controller_.display.mainTab.selectItem(Display::bandMapPage);
+        runFor(500ms);
+        auto* view = window_.findChild<QWidget*>("bandMap");
+        if (!aim(view && view->isVisible(), "the band map in sight")) return false;
+        const auto paint = [view](const QRect& part, bool anew) {
+            std::vector<double> taken;
+            for (int sample = 0; sample < 100; ++sample) {
+                QEvent change(QEvent::PaletteChange);
+                if (anew) QApplication::sendEvent(view, &change);
+                const auto start = Clock::now();
+                view->repaint(part);
+                taken.push_back(milliseconds(Clock::now() - start));
+            }
+            return spreadOf(taken);
+        };
+        const Spread picture = paint(view->rect(), true);
+        const Spread needle = paint({view->width() / 2, view->height() / 3, 44, view->height() / 4}, false);
+        std::printf("map: %d entries painted in %.2f ms median, %.2f ms max; a needle's place in %.3f ms median\n",
+                    mapEntries, picture.median, picture.longest, needle.median);
+        bool good = aim(picture.median <= picturePaintAim, "the whole map painted within 8 ms");
+        good &= aim(needle.median <= needlePaintAim, "a needle painted within 0.5 ms");
+        good &= spin();
+        std::printf("map: %.1f %% of one core more than without it\n", share_ - before);
+        return aim(share_ - before <= mapAim, "2 % of a core for the map at most") && good;
     }
 
     // The transceiver needs at least 10 ms for each answer, including the answer's 7.3 or 4.9 ms on the line. The
@@ -446,6 +486,7 @@ private:
     MainWindow window_;
     CountingDelegate counting_;
     QAbstractButton* vfoA_ = nullptr;
+    double share_ = 0;  // of one core that the last spin took, per cent
 };
 
 int run(int argc, char** argv) {
@@ -472,6 +513,7 @@ int run(int argc, char** argv) {
         good = good && bench.open();
         if (good) {
             good &= bench.spin();
+            good &= bench.map();
             good &= bench.read();
             good &= bench.latency();
         }

@@ -15,6 +15,7 @@ struct Switches {
     std::string vqVoiceGuide;   // spoken announcements
     std::string vqSounds;       // the program's own sounds; named alerts play in any case
     std::string vqMemoryIPO;    // recalling a memory channel switches the pre-amplifier off
+    std::string bandMapStrip;   // the active band of the band map is on the radio page
     std::string share;          // other programs may use the transceiver
     std::string shareTransmit;  // and transmit
     std::string shareStore;     // and change memories and menus
@@ -35,6 +36,7 @@ inline constexpr std::array preferenceSwitches{
     PreferenceSwitch{&Display::menuItemPreferencesVoice, &Switches::vqVoiceGuide, "voice", "1", 900},
     PreferenceSwitch{&Display::menuItemPreferencesSounds, &Switches::vqSounds, "sounds", "1", 901},
     PreferenceSwitch{&Display::menuItemPreferencesIPO, &Switches::vqMemoryIPO, "ipo", "0", 902},
+    PreferenceSwitch{&Display::menuItemPreferencesBandMap, &Switches::bandMapStrip, "bandmap", "0", 903},
     PreferenceSwitch{&Display::shareSwitch, &Switches::share, "share", "0", 910},
     PreferenceSwitch{&Display::shareTransmitSwitch, &Switches::shareTransmit, "shareTransmit", "0", 911},
     PreferenceSwitch{&Display::shareStoreSwitch, &Switches::shareStore, "shareStore", "0", 912},

@@ -39,7 +39,9 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       sharedTransceiver(link, platform.scheduler),
       rigctlServer(display, preferences, sharedTransceiver, {platform.loopback, platform.settings, platform.scheduler}),
       virtualPort(display, preferences, link, sharedTransceiver,
-                  {platform.terminal, platform.clipboard, platform.scheduler}) {
+                  {platform.terminal, platform.clipboard, platform.scheduler}),
+      bandMap(display, link, mirror, frontPanel, {lists, memories, autoMemories}, voice, platform.settings,
+              platform.scheduler) {
     wire();
     bindControls();
     bindPopUps();
@@ -108,6 +110,7 @@ void SerialPortDemoController::restoreSettings() {
     link.restorePort();
     preferences.restore();
     applySharing();
+    bandMap.restore();
     autoMemories.restoreSquelch();
     vqPortChecked = 1;
     display.vqMemAButton.setTitle("  M-01");

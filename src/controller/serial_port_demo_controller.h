@@ -14,6 +14,7 @@
 #include "app/preferences.h"
 #include "app/service_hosts.h"
 #include "app/voice.h"
+#include "band_map/band_map.h"
 #include "controls/entry_fields.h"
 #include "controls/front_panel.h"
 #include "controls/function_pop_ups.h"
@@ -186,6 +187,7 @@ public:
     SharedTransceiver sharedTransceiver;
     RigctlServer rigctlServer;
     VirtualPort virtualPort;
+    BandMap bandMap;
 
 private:
     int vqPortChecked = 0;   // 1 once the settings have been restored

@@ -30,6 +30,7 @@ struct Display {
     static constexpr int memoriesPage = 3;
     static constexpr int listsPage = 4;
     static constexpr int settingsPage = 5;
+    static constexpr int bandMapPage = 7;                      // after the help page
     static constexpr int listsPages = 6;                       // five lists and the band conditions
     static constexpr int settingsPages = MenuControls::pages;  // of the settings tab, one a menu group
     static constexpr int memories = 5;                         // of each mode group
@@ -289,6 +290,14 @@ public:
     TextField bandStatusField{
         {"bandStatusField", 0, "", "Band conditions fetched", "When the conditions were fetched, and what came."}};
 
+    // --- band map
+    TextField bandMapField{
+        {"bandMapField", 0, "", "On the band map", "What you point at on the band map, and what a press does."}};
+    PopUpButton ownClassPopUpButton{{"ownClassPopUpButton", 0, "Your class", "Your operator class",
+                                     "The map shows brightly where this class may transmit."}};
+    Button readOutBandButton{{"readOutBandButton", 0, "Read out", "What is on this band",
+                              "The voice guide speaks what is newest on the band of the active VFO.", "Ctrl+B"}};
+
     // --- settings page: the transceiver's setup menu
     MenuControls menu;
 
@@ -299,6 +308,9 @@ public:
         {"menuItemPreferencesSounds", 901, "Sounds", "Sounds", "Play Corvane's own sounds."}};
     MenuItem menuItemPreferencesIPO{{"menuItemPreferencesIPO", 902, "Memory IPO", "Memory IPO",
                                      "Recalling a memory channel also switches the pre-amplifier off."}};
+    MenuItem menuItemPreferencesBandMap{{"menuItemPreferencesBandMap", 903, "Band map on the Radio page",
+                                         "Band map on the Radio page",
+                                         "Show the active band's part of the band map at the foot of the Radio page."}};
 
     std::array<Button*, 13> bandButtons{&m6Button,   &m10Button,  &m12Button, &m15Button, &m17Button,
                                         &m20Button,  &m30Button,  &m40Button, &m60Button, &m80Button,

@@ -52,15 +52,30 @@ std::string tuneCommandForStation(long long hertz, std::string_view vfo) {
     return fmt::format("MD05;F{}{}{};{}", vfo, fill, hertz, scopeMode);
 }
 
-std::string tuneCommandForNetLogger(std::string_view frequency, std::string_view vfo) {
+namespace {
+
+struct NetLoggerTuning {
+    bool lower;          // side band
+    std::string digits;  // nine, of hertz
+};
+
+NetLoggerTuning netLoggerTuning(std::string_view frequency) {
     constexpr float aboveIsKilohertz = 70.0F;
     float megahertz = decimalNumber<float>(frequency).value_or(0);
     if (megahertz > aboveIsKilohertz) megahertz /= 1000.0F;
     const std::string digits = without(shortestDecimal(megahertz), ".");
     // The digits are filled up or cut on the right. Unlike elsewhere, 10 MHz itself gets the lower side band.
     const bool lower = megahertz <= SideBands::lowestUpper / 1e6F;
-    return lower ? fmt::format("MD01;F{}00{:0<7.7};{}SS0560000;", vfo, digits, scopeMode)
-                 : fmt::format("MD02;F{}0{:0<8.8};{}SS0560000;", vfo, digits, scopeMode);
+    return {lower, lower ? fmt::format("00{:0<7.7}", digits) : fmt::format("0{:0<8.8}", digits)};
 }
+
+}  // namespace
+
+std::string tuneCommandForNetLogger(std::string_view frequency, std::string_view vfo) {
+    const auto [lower, digits] = netLoggerTuning(frequency);
+    return fmt::format("MD0{};F{}{};{}SS0560000;", lower ? lsb : usb, vfo, digits, scopeMode);
+}
+
+long long hertzForNetLogger(std::string_view frequency) { return decimalOrZero(netLoggerTuning(frequency).digits); }
 
 }  // namespace corvane

@@ -19,5 +19,7 @@ std::string tuneCommandForStation(long long hertz, std::string_view vfo);
 // The same for a NetLogger net, whose frequency is in MHz or, above 70, in kHz: "7.255" gives
 // "MD01;FA007255000;SS0640000;SS0560000;". Text that is not a number gives 0 Hz, which the transceiver rejects.
 std::string tuneCommandForNetLogger(std::string_view frequency, std::string_view vfo);
+// The frequency of this command in hertz: "7.255" gives 7255000.
+long long hertzForNetLogger(std::string_view frequency);
 
 }  // namespace corvane

@@ -80,15 +80,16 @@ void MainWindow::makePages() {
     connect(pages, &TabPages::pageShown, this,
             [&display](const QString& title) { display.announcements.say(title.toStdString() + " page"); });
     pages->addPage("Station", [this, &display] { return makeStationPage(display, queue_); });
-    pages->addPage("Radio", [this, &display] { return makeRadioPage(display, queue_); });
+    pages->addPage("Radio", [this, &display] { return makeRadioPage(controller_.bandMap, display, queue_); });
     pages->addPage("Keyer", [this, &display] { return makeKeyerPage(display, queue_); });
     pages->addPage("Memories", [this, &display] { return makeMemoriesPage(display, queue_); });
     pages->addPage("Lists", [this, &display] { return makeListsPage(display, queue_); });
     pages->addPage("Settings", [this, &display] { return makeSettingsPage(display, queue_); });
     pages->addPage("Help", [&display] { return makeHelpPage(display); });
+    pages->addPage("Band map", [this, &display] { return makeBandMapPage(controller_.bandMap, display, queue_); });
     rows->addWidget(pages, 1);
     setCentralWidget(body);
-    for (int index = 0; index <= helpPage; ++index) {
+    for (int index = 0; index <= Display::bandMapPage; ++index) {
         addWay(QKeySequence("Alt+" + QString::number(index + 1)), [this, index] { enterPage(index); });
     }
 }
@@ -98,6 +99,7 @@ void MainWindow::makeMenus() {
     auto* program = menuBar()->addMenu("&Corvane");
     addCommand(*program, "&Connect or disconnect", display.openCloseButton);
     addCommand(*program, "&Say the state", display.sayStateButton);
+    addCommand(*program, "&What is on this band", display.readOutBandButton);
     program->addSeparator();
     program->addAction("&Quit", QKeySequence("Ctrl+Q"), this, &QWidget::close);
 
@@ -109,6 +111,7 @@ void MainWindow::makeMenus() {
     addPreference(*preferences, display.menuItemPreferencesVoice);
     addPreference(*preferences, display.menuItemPreferencesSounds);
     addPreference(*preferences, display.menuItemPreferencesIPO);
+    addPreference(*preferences, display.menuItemPreferencesBandMap);
     preferences->addSeparator();
     auto* themes = new QActionGroup(this);
     for (const char* name : {"dark", "light"}) {

@@ -1,6 +1,8 @@
 // The radio: front panel, function and scope pop-ups, sliders.
 #include <QGridLayout>
 #include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
 
 #include "qt/window/control_views.h"
 #include "qt/window/key_button.h"
@@ -118,9 +120,9 @@ Panel* functionsPanel(Display& display, ChangeQueue& queue) {
 
 }  // namespace
 
-QWidget* makeRadioPage(Display& display, ChangeQueue& queue) {
-    auto* page = new QWidget;
-    auto* grid = new QGridLayout(page);
+QWidget* makeRadioPage(BandMap& map, Display& display, ChangeQueue& queue) {
+    auto* panels = new QWidget;
+    auto* grid = new QGridLayout(panels);
     grid->setContentsMargins(4 * gridStep, 3 * gridStep, 4 * gridStep, 3 * gridStep);
     grid->setSpacing(3 * gridStep);
     grid->addWidget(keysPanel("Bands, meters", display, KeyPanel::bands, queue, 13), 0, 0, 1, 12);
@@ -132,6 +134,18 @@ QWidget* makeRadioPage(Display& display, ChangeQueue& queue) {
     grid->addWidget(scopePanel(display, queue), 2, 8, 1, 4);
     for (int column = 0; column < 12; ++column) grid->setColumnStretch(column, 1);
     grid->setRowStretch(3, 1);
+    // The strip stays in sight while the panels scroll on a small screen.
+    auto* place = new QScrollArea;
+    place->setWidgetResizable(true);
+    place->setFrameShape(QFrame::NoFrame);
+    place->setFocusPolicy(Qt::NoFocus);
+    place->setWidget(panels);
+    auto* page = new QWidget;
+    auto* rows = new QVBoxLayout(page);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(place, 1);
+    rows->addWidget(makeBandMapStrip(map, display, queue));
     return page;
 }
 

@@ -28,7 +28,7 @@ bool repeats(const Control& control) {
     return isKey(control) && frontPanelKeys[frontPanelKeyIndex(control.outlet().tag)].panel == KeyPanel::steps;
 }
 
-// In a table.
+// In a table and on the band map.
 const std::array tableKeys{
     ShortcutText{"Enter, Space", "Table: press, open or edit the cell; pop-up: open it"},
     ShortcutText{"Ctrl+Enter", "Table: tune to the row"},
@@ -36,6 +36,9 @@ const std::array tableKeys{
     ShortcutText{"Shift+F10", "Table: its menu, with sorting"},
     ShortcutText{"Arrow keys", "Keys side by side: the next one"},
 
+    ShortcutText{"Left, Right", "Band map: from entry to entry; Enter tunes"},
+    ShortcutText{"Up, Down", "Band map: from band to band"},
+    ShortcutText{"Home, End", "Band map: the edges of the band"},
 };
 
 }  // namespace
@@ -45,7 +48,7 @@ std::vector<ShortcutText> shortcutTexts(const Display& display) {
         {"F1", "This page"},
         {"Ctrl+Q", "Quit"},
         {"Alt+C, Alt+R, Alt+P, Alt+H", "Menus"},
-        {"Alt+1 to Alt+7", "Pages"},
+        {"Alt+1 to Alt+8", "Pages"},
         {"Tab, Shift+Tab", "Next and previous control"},
         {"F6, Shift+F6", "Next and previous panel"},
     };

@@ -33,7 +33,7 @@ constexpr int helpPage = Display::settingsPage + 1;
 // Shows every page of the window, those of the settings included, one after the other.
 template <class Visit>
 void forEachPage(Station& station, Visit visit) {
-    for (int page = 0; page <= helpPage; ++page) {
+    for (int page = 0; page <= Display::bandMapPage; ++page) {
         station.show(page);
         const bool lists = page == Display::listsPage;
         if (!lists && page != Display::settingsPage) {
@@ -224,7 +224,7 @@ TEST(WindowTest, EveryShortcutStandsForOneThingAndIsOnTheHelpPage) {
 TEST(WindowTest, ShortcutsOfTheWindowGoWhereTheySay) {
     Station station;
     const auto page = [&] { return station.display.mainTab.indexOfSelectedItem(); };
-    for (int index = helpPage; index >= 0; --index) {
+    for (int index = Display::bandMapPage; index >= 0; --index) {
         QTest::keySequence(&station.window, QKeySequence("Alt+" + QString::number(index + 1)));
         EXPECT_EQ(page(), index);
     }
