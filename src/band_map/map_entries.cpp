@@ -22,12 +22,14 @@ namespace {
 
 using Instant = std::chrono::system_clock::time_point;
 
+constexpr std::size_t longestName = 100;  // characters of a note
+
 constexpr float kilohertz = 1'000.0F;
 constexpr float megahertz = 1'000'000.0F;
 
 std::string field(const FeedRow& row, std::size_t position) {
     if (position >= row.fields.size()) return {};
-    return std::string(utf8Prefix(trimmed(row[position]), longestSpokenName));
+    return std::string(trimmed(row[position]));
 }
 
 // What is there of these texts, with ", " between.
@@ -121,11 +123,10 @@ std::optional<MapEntry> autoMemoryEntry(const AutoMemoryState& memories, std::si
     const int tuned = decimalOrZero(memories.vqAutoMemoryArray[row]);
     if (tuned <= 0) return std::nullopt;
     const std::string_view note = trimmed(memories.vqAutoNotesArray[row]);
-    return MapEntry{
-        .kind = EntryKind::autoMemory,
-        .hertz = tuned,
-        .name = note.empty() ? withDecimals(tuned / 1e6, 3) : std::string(utf8Prefix(note, longestSpokenName)),
-        .mode = memories.vqAutoModeArray[row]};
+    return MapEntry{.kind = EntryKind::autoMemory,
+                    .hertz = tuned,
+                    .name = note.empty() ? withDecimals(tuned / 1e6, 3) : std::string(utf8Prefix(note, longestName)),
+                    .mode = memories.vqAutoModeArray[row]};
 }
 
 // Puts entries into their bands.

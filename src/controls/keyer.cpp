@@ -67,7 +67,10 @@ std::optional<std::string> Keyer::playMemory(int memory) {
 }
 
 void Keyer::log(const std::string& text) {
-    display_.sentTextMemoryField.setStringValue(text + '\n' + display_.sentTextMemoryField.stringValue());
+    constexpr std::size_t longest = 20'000;  // bytes; other programs may send texts all day
+    std::string log = text + '\n' + display_.sentTextMemoryField.stringValue();
+    if (log.size() > longest) log.erase(log.rfind('\n', longest) + 1);
+    display_.sentTextMemoryField.setStringValue(log);
 }
 
 void Keyer::clearLog() { display_.sentTextMemoryField.setStringValue({}); }

@@ -122,8 +122,9 @@ public:
     TextField virtualPortNoticeField{{"virtualPortNoticeField", 0, "", "Virtual port refused",
                                       "What the program at the virtual port was refused, and what to do about it."}};
     TableView shareTable;
-    Button shareTableDisconnectButton{{"shareTableDisconnectButton", 0, "Disconnect", "Disconnect this program",
-                                       "Ends the connection; a transmission of the program ends with it."}};
+    Button shareTableDisconnectButton{
+        {"shareTableDisconnectButton", 0, "Disconnect", "Disconnect this program",
+         "Ends the connection. If the program has keyed the transceiver, that ends, too."}};
 
     // --- radio page: bands and functions
     Button& m6Button = key(6);

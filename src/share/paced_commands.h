@@ -25,6 +25,9 @@ public:
     void pump(ShareTime now);
     void flush(ShareTime now);  // sends all
     void drop() { waiting_.clear(); }
+    void drop(Item item) {
+        std::erase_if(waiting_, [item](const Waiting& each) { return each.item == item; });
+    }
     bool empty() const { return waiting_.empty(); }
 
 private:

@@ -33,7 +33,7 @@ constexpr std::array commands{
     get('v', "get_vfo", getVfo),
     set('V', "set_vfo", 1, setVfo),
     get('t', "get_ptt", getTransmit),
-    set('T', "set_ptt", 1, setTransmit),
+    RigctlCommand{'T', "set_ptt", 1, false, true, nothing, setTransmit},
     get('s', "get_split_vfo", getSplit),
     set('S', "set_split_vfo", 2, setSplit),
     get('i', "get_split_freq", getSplitFrequency),

@@ -58,9 +58,9 @@ void RigctlServer::showSoon() {
 }
 
 void RigctlServer::show() {
-    const int wanted = port_ != 0 ? port_ : usualPort;
+    const int wanted = port_ != 0 ? port_ : wantedPort();
     if (!display_.sharePortField.editing() && display_.sharePortField.stringValue().empty())
-        display_.sharePortField.setStringValue(around_.settings.text("sharePort").value_or(std::to_string(wanted)));
+        display_.sharePortField.setStringValue(std::to_string(wanted));
     display_.shareAddressField.setStringValue(
         port_ == 0 ? "Not shared" : fmt::format("In the other program choose \"NET rigctl\" at 127.0.0.1:{}", port_));
     const bool keyed = radio_.keyedBy().has_value();

@@ -1,6 +1,7 @@
 #include "share/rigctl_reader.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "share/rigctl_commands.h"
@@ -12,6 +13,16 @@ namespace {
 // Programs end lines with "\r\n", too, and some send the zero that ends a text.
 constexpr bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\0'; }
 constexpr bool asksForExtended(char c) { return c == '+' || c == ';' || c == '|' || c == ','; }
+
+// What browsers begin a request with. None of them is a command with its argument.
+constexpr std::array browserWords{
+    std::string_view("GET "),    std::string_view("POST "),    std::string_view("PUT "),   std::string_view("HEAD "),
+    std::string_view("DELETE "), std::string_view("OPTIONS "), std::string_view("PATCH "), std::string_view("CONNECT "),
+    std::string_view("TRACE "),  std::string_view("\x16\x03")};  // the last one begins an encrypted connection
+
+bool isBrowsers(std::string_view line) {
+    return std::ranges::any_of(browserWords, [&](std::string_view word) { return line.starts_with(word); });
+}
 
 }  // namespace
 
@@ -26,10 +37,13 @@ bool RigctlReader::takeLine() {
         const std::size_t end = rest.find('\n');
         if (end == std::string_view::npos) {
             if (rest.size() <= longestLine) return false;
+            if (opening_ == Opening::unread) opening_ = Opening::foreign;
             tooLong_ = !std::exchange(skipping_, true);
             read_ = bytes_.size();
             return tooLong_;
         }
+        if (opening_ == Opening::unread)
+            opening_ = end > longestLine || isBrowsers(rest) ? Opening::foreign : Opening::program;
         read_ += end + 1;
         if (std::exchange(skipping_, false)) continue;
         if (end > longestLine) return tooLong_ = true;
@@ -44,8 +58,8 @@ std::optional<RigctlRequest> RigctlReader::next() {
     for (;;) {
         const bool newLine = line_.empty();
         if (!takeLine()) return std::nullopt;
+        if (opening_ == Opening::foreign) return problem(Problem::foreign, "a page in a web browser");
         if (std::exchange(tooLong_, false)) return problem(Problem::malformed, "a line that is too long");
-        // A page in a web browser can send a form to any port, but only in the browser's own words.
         if (newLine && line_.find(" HTTP/1.") != std::string_view::npos) return problem(Problem::foreign, line_);
         skipBlanks();
         if (line_.empty()) continue;

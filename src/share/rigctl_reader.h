@@ -11,7 +11,7 @@ namespace corvane {
 
 class RigctlReader {
 public:
-    static constexpr std::size_t longestLine = 1024;  // bytes; a longer line is one malformed request
+    static constexpr std::size_t longestLine = 1024;  // bytes; a longer line is one malformed request; see `foreign`
 
     // Takes bytes, cut anywhere. What has not been read yet is kept.
     void feed(std::string_view bytes);
@@ -30,6 +30,11 @@ private:
     void skipBlanks();
     RigctlRequest problem(RigctlRequest::Problem kind, std::string_view text);
 
+    // A page in a web browser can send bytes of its choice to any port, but only behind a first line of the browser's:
+    // "POST /some/path HTTP/1.1". Whoever begins so, or with a line that is too long to tell, is foreign.
+    enum class Opening { unread, program, foreign };
+
+    Opening opening_ = Opening::unread;
     std::string bytes_;
     std::size_t read_ = 0;   // of bytes_
     std::string current_;    // the line that is being read

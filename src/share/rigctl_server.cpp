@@ -45,18 +45,27 @@ RigctlServer::~RigctlServer() {
 }
 
 void RigctlServer::applyPreferences() {
-    permissions.mayTransmit = preferences_.shareTransmit();
-    if (!permissions.mayTransmit) radio_.unkey();
-    if (permissions.mayTransmit) display_.shareNoticeField.setStringValue({});
+    const bool mayTransmit = preferences_.shareTransmit();
+    if (!mayTransmit) {
+        radio_.unkey();
+        radio_.cancelTuning();
+    }
+    if (mayTransmit && !permissions.mayTransmit) note({});
+    permissions.mayTransmit = mayTransmit;
     if (preferences_.share())
         open();
     else
         close();
 }
 
-void RigctlServer::open() {
+// The one that the operator chose, unless what is stored is no port.
+int RigctlServer::wantedPort() const {
     const int stored = portOf(around_.settings.text(portKey).value_or(""));
-    const int wanted = stored == 0 ? usualPort : stored;
+    return stored == 0 ? usualPort : stored;
+}
+
+void RigctlServer::open() {
+    const int wanted = wantedPort();
     if (port_ == wanted) return;
     close();
     switch (around_.loopback.listen(wanted)) {

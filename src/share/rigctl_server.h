@@ -52,6 +52,7 @@ public:
 private:
     using Client = RigctlClient;
 
+    int wantedPort() const;
     void open();
     void close();
     void take(std::unique_ptr<TcpConnection> connection);

@@ -52,11 +52,12 @@ void tune(RigctlExchange& exchange, int side, int frequency) {
     exchange.radio.set(ofSide(Item::frequencyA, side), frequency, std::move(command));
 }
 
-// The mode is set on the active side only: that of the other one takes a change of sides and back.
+// The mode is set on the active side only: that of the other one takes a change of sides and back. "MD0;" brings the
+// window back to the mode of the active side.
 void change(RigctlExchange& exchange, int side, int active, char code) {
     std::string command = std::string("MD0") + code + ';';
     if (side != active) {
-        command = (side == sideB ? "VS1;" : "VS0;") + command + (active == sideB ? "VS1;OI;" : "VS0;IF;");
+        command = (side == sideB ? "VS1;" : "VS0;") + command + (active == sideB ? "VS1;OI;" : "VS0;IF;") + "MD0;";
         exchange.radio.assume(Item::vfo, active);
     }
     exchange.radio.set(ofSide(Item::modeA, side), code, std::move(command));
@@ -107,15 +108,20 @@ void setVfo(RigctlExchange& exchange) {
     if (*memory != (named ? 0 : 1)) exchange.radio.set(ofSide(Item::memoryA, side), named ? 0 : 1, "VM;");
 }
 
-// "T 0" is never refused: it can only end a transmission.
+// "T 0" is never refused while a program has keyed the transceiver, also not while that seems silent: it can only end
+// the transmission.
 void setTransmit(RigctlExchange& exchange) {
+    using Contact = SharedTransceiver::Contact;
     const auto on = decimal(exchange.word(0));
     if (!on || *on < 0 || *on > 3) return exchange.fail(RigctlError::invalid);
+    if (*on == 0 && exchange.radio.keyedBy()) return exchange.radio.unkey();
+    const Contact contact = exchange.radio.contact();
+    if (contact != Contact::present)
+        return exchange.fail(contact == Contact::silent ? RigctlError::timeOut : RigctlError::inputOutput);
     if (*on != 0) {
         if (exchange.mayTransmit()) exchange.radio.key(exchange.session.number);
         return;
     }
-    if (exchange.radio.keyedBy()) return exchange.radio.unkey();
     if (exchange.radio.onAir()) exchange.radio.set(Item::transmit, 0, "TX0;");
 }
 
@@ -214,7 +220,7 @@ void operateVfo(RigctlExchange& exchange) {
     if (operation == "XCHG") return swapSides(exchange.radio);
     if (operation == "TO_VFO") return exchange.radio.send(Item::memoryB, "MA;");
     if (operation == "TUNE") {
-        if (exchange.mayTransmit()) exchange.radio.send(Item::transmit, "AC002;");
+        if (exchange.mayTransmit()) exchange.radio.tune();
         return;
     }
     if (operation != "TOGGLE") return exchange.fail(RigctlError::notAvailable);

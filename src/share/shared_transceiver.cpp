@@ -18,13 +18,17 @@ void SharedTransceiver::takeResponse(std::string_view response) {
     forEachReported(response, values_.reported(Item::vfo).value_or(0),
                     [this](Item item, int value) { take(item, value); });
     if (vfo && value(Item::vfo) != vfo) onVfoChanged();
-    if (keyedBy_ && value(Item::transmit) == 0) setKeyedBy(std::nullopt);
 }
 
 void SharedTransceiver::take(Item item, int value) {
     values_.take(item, value, now_);
-    if (item == Item::autoInformation) values_.setReporting(value == 1);
+    if (item == Item::autoInformation) {
+        values_.setReporting(value == 1);
+        reportingInDoubt_ = false;
+    }
     if (item == Item::switchedOn) off_ = value == 0;
+    // Only a report from after the keying ends it here: an older one leaves the program responsible.
+    if (item == Item::transmit && value == 0 && this->value(Item::transmit) == 0) setKeyedBy(std::nullopt);
     if (std::exchange(questions_[index(item)], {}).asked) onAnswered();
 }
 
@@ -32,13 +36,19 @@ void SharedTransceiver::take(Item item, int value) {
 void SharedTransceiver::comeBack() {
     silent_ = off_ = false;
     values_.forgetAll();
-    values_.setReporting(false);
     questions_ = {};
-    link_.sendCommand("AI;");
+    doubtReporting();
 }
 
+// Nothing is asked before a program asks for something: then "AI;" goes first.
+void SharedTransceiver::doubtReporting() {
+    values_.setReporting(false);
+    reportingInDoubt_ = true;
+}
+
+// The switch is not answered, and what changed while it was off was not reported.
 void SharedTransceiver::noteSent(std::string_view command) {
-    if (command == "AI0;") values_.setReporting(false);
+    if (command == "AI0;" || command == "AI1;") doubtReporting();
 }
 
 void SharedTransceiver::portOpened() {
@@ -46,11 +56,15 @@ void SharedTransceiver::portOpened() {
     if (std::exchange(unkeyOwed_, false)) link_.sendCommand("TX0;");
 }
 
-void SharedTransceiver::portClosing() { unkey(); }
+void SharedTransceiver::portClosing() {
+    unkeyOwed_ = keyedBy_.has_value();
+    unkey();
+}
 
 void SharedTransceiver::portClosed() {
     if (!std::exchange(open_, false)) return;
-    unkeyOwed_ = keyedBy_.has_value();
+    // A line that took no bytes to the end took no "TX0;" either.
+    unkeyOwed_ = keyedBy_.has_value() || (unkeyOwed_ && link_.waitingBytes() > 0);
     setKeyedBy(std::nullopt);
     silent_ = off_ = false;
     paced_.drop();
@@ -75,6 +89,7 @@ bool SharedTransceiver::ask(Item item) {
     Question& question = questions_[index(item)];
     if (question.asked) return true;
     if (!link_.isOpen() || congested() || now_ < question.again) return false;
+    if (std::exchange(reportingInDoubt_, false) && item != Item::autoInformation) ask(Item::autoInformation);
     question = {now_, heard_, question.again};
     wake();
     link_.sendCommand(requestFor(item, values_.reported(Item::vfo).value_or(0)));
@@ -117,6 +132,8 @@ void SharedTransceiver::unkey() {
     paced_.flush(now_);
     setKeyedBy(std::nullopt);
 }
+
+void SharedTransceiver::cancelTuning() { paced_.drop(tuning); }
 
 void SharedTransceiver::setKeyedBy(std::optional<unsigned> program) {
     if (std::exchange(keyedBy_, program) != program) onKeyed();

@@ -30,10 +30,11 @@ public:
     ~SharedTransceiver() { unkey(); }
 
     // Called by it:
-    std::function<void()> onAnswered = [] {};    // a question has been answered, or will not be
-    std::function<void()> onVfoChanged = [] {};  // not by a program: at the front panel, or by the operator here
-    std::function<void()> onKeyed = [] {};       // who has keyed the transceiver has changed
-    std::function<void()> onBeat = [] {};        // every 50 ms while something is going on
+    std::function<void()> onAnswered = [] {};  // a question has been answered, or will not be
+    std::function<void()> onVfoChanged = [] {
+    };                                      // at the front panel, by the operator here, or by a report that came late
+    std::function<void()> onKeyed = [] {};  // who has keyed the transceiver has changed
+    std::function<void()> onBeat = [] {};   // every 50 ms while something is going on
 
     // --- what happens on the line
     void takeResponse(std::string_view response);  // each, without its ";"
@@ -60,8 +61,10 @@ public:
 
     // --- transmitting
     void key(unsigned program);
-    void release(unsigned program);  // unkeys if this program has keyed
-    void unkey();                    // at once, whoever has keyed; nothing is sent if no program has
+    void release(unsigned program);          // unkeys if this program has keyed
+    void tune() { send(tuning, "AC002;"); }  // the antenna tuner, which transmits
+    void cancelTuning();                     // one that has not left yet
+    void unkey();                            // at once, whoever has keyed; nothing is sent if no program has
     std::optional<unsigned> keyedBy() const { return keyedBy_; }
     bool onAir() const { return value(Item::transmit).value_or(0) != 0; }
 
@@ -69,6 +72,9 @@ public:
     void noteActivity();  // keeps the clock going for a second
 
 private:
+    // In the queue the tuner has a place of its own: a signal report is never sent, so that nothing else takes it.
+    static constexpr Item tuning = Item::signal;
+
     struct Question {
         std::optional<ShareTime> asked;
         unsigned heard = 0;  // what had been heard by then
@@ -81,6 +87,7 @@ private:
     bool busy() const;
     void pump();
     void expireQuestions();
+    void doubtReporting();
     void setKeyedBy(std::optional<unsigned> program);
 
     Link& link_;
@@ -89,8 +96,9 @@ private:
     PacedCommands paced_;
     std::array<Question, itemCount> questions_{};
     std::optional<unsigned> keyedBy_;
-    bool unkeyOwed_ = false;  // the link was lost while a program had keyed
+    bool unkeyOwed_ = false;  // "TX0;" may not have reached the transceiver: the next opening sends it
     bool open_ = false;
+    bool reportingInDoubt_ = true;
     bool silent_ = false;
     bool off_ = false;
     bool ticking_ = false;

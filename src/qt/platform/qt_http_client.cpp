@@ -134,7 +134,10 @@ private:
             return;
         const bool lessSafe = at_.scheme() == QLatin1String("https") && target.scheme() != QLatin1String("https");
         if (lessSafe) return end("redirected to an unsafe address");
-        if (target.host() != at_.host()) return end("redirected to another server");
+        const auto portOf = [](const QUrl& url) { return url.port(url.scheme() == QLatin1String("https") ? 443 : 80); };
+        const bool moved =
+            target.host() != at_.host() || (target.scheme() == at_.scheme() && portOf(target) != portOf(at_));
+        if (moved) return end("redirected to another server");
         at_ = target;
         emit reply_->redirectAllowed();
     }

@@ -35,7 +35,6 @@ const std::array tableKeys{
     ShortcutText{"Alt+Up, Alt+Down", "Memory channels: move the row"},
     ShortcutText{"Shift+F10", "Table: its menu, with sorting"},
     ShortcutText{"Arrow keys", "Keys side by side: the next one"},
-
     ShortcutText{"Left, Right", "Band map: from entry to entry; Enter tunes"},
     ShortcutText{"Up, Down", "Band map: from band to band"},
     ShortcutText{"Home, End", "Band map: the edges of the band"},

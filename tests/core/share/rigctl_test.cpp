@@ -129,9 +129,14 @@ TEST_F(RigctlTest, AnswersWhatIsKnownWithoutAByteOnTheLine) {
     ask("q\n");
     EXPECT_FALSE(program.connected);
     // A page in a web browser.
-    door().connect(program);
-    EXPECT_EQ(ask("POST / HTTP/1.1\r\nHost: x\r\n\r\nF 7000000\n"), "");
-    EXPECT_FALSE(program.connected);
+    for (const std::string& line :
+         std::vector<std::string>{"POST / HTTP/1.1\r\n", "GET /?" + std::string(1'100, 'a') + " HTTP/1.1\r\n",
+                                  "POST /" + std::string(990, 'a') + '\n', std::string(2'000, 'a') + '\n'}) {
+        door().connect(program);
+        EXPECT_EQ(ask(line + "Host: x\r\n\r\nF 7000000\n"), "") << line;
+        EXPECT_FALSE(program.connected) << line;
+    }
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
 }
 
 TEST_F(RigctlTest, SetsThroughTheLineAndReadsBackAtOnce) {
@@ -148,7 +153,7 @@ TEST_F(RigctlTest, SetsThroughTheLineAndReadsBackAtOnce) {
         {"M PKTUSB 2800", {"MD0C;"}, "m", "PKTUSB\n3000\n"},
         {"M RTTY -1", {"MD06;"}, "m", "RTTY\n500\n"},
         {"I 7074000", {"FB007074000;", "VS;"}, "i", "7074000\n"},
-        {"X LSB 0", {"VS1;", "MD01;", "VS0;", "IF;"}, "x", "LSB\n2400\n"},
+        {"X LSB 0", {"VS1;", "MD01;", "VS0;", "IF;", "MD0;"}, "x", "LSB\n2400\n"},
         {"S 1 VFOB", {"ST1;"}, "s", "1\nVFOB\n"},
         {"S 0 VFOA", {"ST0;"}, "s", "0\nVFOA\n"},
         {"L AF 0.5", {"AG0128;"}, "l AF", "0.501961\n"},
@@ -316,6 +321,48 @@ TEST_F(RigctlTest, UnkeysWhoeverCannotUnkeyItself) {
     bench.controller.setSerialPort(bench.port);
     bench.display.openCloseButton.performClick();
     EXPECT_THAT(bench.takeWrites(), testing::Contains("TX0;"));
+}
+
+TEST_F(RigctlTest, WhoeverKeyedStaysResponsibleWhileTheTransceiverSaysNothing) {
+    permitTransmitting();
+    ask("t\n");
+    const auto onWrite = std::exchange(bench.port->onWrite, [](std::string_view) {});
+    ASSERT_EQ(program.ask("T 1\n"), "RPRT 0\n");
+    bench.receive("TX0;");  // older than the keying
+    bench.advance(200ms);
+    bench.receive("RM1042000;");
+    EXPECT_TRUE(bench.controller.sharedTransceiver.keyedBy());
+    bench.advance(2s);
+    EXPECT_TRUE(bench.controller.sharedTransceiver.keyedBy());
+    bench.takeWrites();
+    EXPECT_EQ(program.ask("T 0\n"), "RPRT 0\n");
+    EXPECT_THAT(bench.takeWrites(), ElementsAre("TX0;"));
+
+    // A line that is stalled at its closing has not taken the command.
+    bench.port->onWrite = onWrite;
+    bench.receive("TX0;");
+    ASSERT_EQ(ask("T 1\n"), "RPRT 0\n");
+    bench.port->waiting = 4;
+    bench.display.openCloseButton.performClick();
+    bench.port->waiting = 0;
+    bench.takeWrites();
+    bench.display.openCloseButton.performClick();
+    EXPECT_THAT(bench.takeWrites(), testing::Contains("TX0;"));
+}
+
+TEST_F(RigctlTest, NothingIsAskedWhileNoProgramAsks) {
+    bench.receive("PS0;");
+    bench.takeWrites();
+    bench.receive("PS1;");
+    bench.controller.sendCommand("AI0;");
+    bench.controller.sendCommand("AI1;");
+    EXPECT_THAT(bench.takeWrites(), ElementsAre("AI0;", "AI1;"));
+    EXPECT_EQ(ask("f\n"), "14250000\n");
+    EXPECT_THAT(bench.takeWrites(), testing::IsSupersetOf({"AI;", "FA;"}));
+    bench.advance(2s);
+    bench.takeWrites();
+    EXPECT_EQ(ask("f\n"), "14250000\n");
+    EXPECT_THAT(bench.takeWrites(), IsEmpty());
 }
 
 TEST_F(RigctlTest, ServesManyAndKeepsEachToItself) {
