@@ -60,7 +60,8 @@ std::vector<ShortcutText> shortcutTexts(const Display& display) {
 void addShortcuts(QWidget& window, const Display& display) {
     for (Control* control : display.controls()) {
         auto* button = dynamic_cast<Button*>(control);
-        const bool inMenu = button == &display.openCloseButton || button == &display.sayStateButton;
+        const bool inMenu = button == &display.openCloseButton || button == &display.sayStateButton ||
+                            button == &display.readOutBandButton;
         if (!button || button->outlet().shortcut.empty() || inMenu) continue;
         auto* shortcut = new QShortcut(QKeySequence(toQString(button->outlet().shortcut)), &window);
         shortcut->setAutoRepeat(repeats(*button));
