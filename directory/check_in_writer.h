@@ -23,6 +23,7 @@ public:
     void forgetOldSessions() {
         thread_.submit({{}, [](const Answer&) {}});
     }
+    bool stop(std::chrono::milliseconds patience) { return thread_.stop(patience); }
 
 private:
     struct Job {

@@ -24,6 +24,7 @@ public:
     void stations(Reply reply) { thread_.submit({List::stations, {}, std::move(reply)}); }
     // Whether the database can be read now.
     void health(Reply reply) { thread_.submit({List::none, {}, std::move(reply)}); }
+    bool stop(std::chrono::milliseconds patience) { return thread_.stop(patience); }
 
 private:
     enum class List { nets, stations, none };

@@ -39,16 +39,14 @@ int serve(const Options& options) {
     if (!service.hasDocuments()) log.line("documents", {{"missing in", options.service.documents}});
     log.line("start",
              {{"version", CORVANE_VERSION}, {"address", options.service.server.address}, {"port", service.port()}});
-    const timespec second{1, 0};
-    Seconds cleaned{};
+    constexpr timespec hour{3600, 0};
     int signal = -1;
-    while ((signal = sigtimedwait(&stopSignals, nullptr, &second)) < 0) {
-        service.closeLateConnections();
-        if (now() - cleaned < std::chrono::hours(1)) continue;
+    do {
         service.forgetOldSessions();
-        cleaned = now();
-    }
-    log.line("stop", {{"signal", signal}});
+    } while ((signal = sigtimedwait(&stopSignals, nullptr, &hour)) < 0);
+    const bool stopped = service.stop();
+    log.line("stop", {{"signal", signal}, {"database", stopped ? "closed" : "stuck"}});
+    if (!stopped) std::_Exit(0);  // waiting for the database could take for ever
     return 0;
 }
 

@@ -3,14 +3,12 @@
 #include <microhttpd.h>
 #include <netdb.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <stdexcept>
-#include <thread>
 
 namespace corvane::directory {
 
@@ -21,7 +19,8 @@ using SteadyClock = std::chrono::steady_clock;
 constexpr std::size_t longestBody = std::size_t{16} * 1024;
 constexpr unsigned mostConnections = 800;  // a process may have 1024 files open
 constexpr unsigned idleSeconds = 10;
-constexpr std::chrono::seconds endingTime{5};
+constexpr std::chrono::seconds sendingTime{1};  // for the last answers
+constexpr std::chrono::milliseconds watchingTime{100};
 
 std::string header(MHD_Connection* connection, const char* name) {
     const char* const value = MHD_lookup_connection_value(connection, MHD_HEADER_KIND, name);
@@ -71,7 +70,7 @@ struct WebServer::Exchange {
     WebRequest request;
     SteadyClock::time_point start = SteadyClock::now();
     bool begun = false;
-    bool bodyIsTooLong = false;
+    bool admitted = false;
     std::optional<Answer> reply;
     int status = 0;
     std::size_t size = 0;
@@ -109,17 +108,38 @@ WebServer::WebServer(const Options& options, WebSite& site, Log& log) : options_
     if (!daemon_)
         throw std::runtime_error("Port " + std::to_string(options.port) + " of " + options.address +
                                  " is taken, or may not be used.");
+    watch_ = std::thread([this] { watch(); });
 }
 
 WebServer::~WebServer() {
-    ending_ = true;
-    const int listening = MHD_quiesce_daemon(daemon_);
+    stop();
     {
-        std::unique_lock lock(mutex_);
-        ended_.wait_for(lock, endingTime, [this] { return exchanges_ == 0; });
+        const std::lock_guard lock(mutex_);
+        stopped_ = true;
     }
+    changed_.notify_all();
+    watch_.join();
     MHD_stop_daemon(daemon_);
-    if (listening >= 0) close(listening);
+}
+
+// The library aborts the process if a request waits in it when it stops.
+void WebServer::stop() {
+    stopping_ = true;
+    waiting_->close();
+    std::unique_lock lock(mutex_);
+    changed_.wait_for(lock, sendingTime, [this] { return admitted_ == 0; });
+}
+
+void WebServer::watch() {
+    std::unique_lock lock(mutex_);
+    while (!stopped_) {
+        changed_.wait_for(lock, watchingTime);
+        lock.unlock();
+        const auto now = SteadyClock::now();
+        waiting_->answerLate(now);
+        connections_.closeLate(now);
+        lock.lock();
+    }
 }
 
 int WebServer::port() const { return MHD_get_daemon_info(daemon_, MHD_DAEMON_INFO_BIND_PORT)->port; }
@@ -127,11 +147,7 @@ int WebServer::port() const { return MHD_get_daemon_info(daemon_, MHD_DAEMON_INF
 // Called once with the head, then for each piece of the body, then for the answer, and again after each wait for it.
 int WebServer::take(MHD_Connection* connection, const char* path, const char* method, const char* data,
                     std::size_t* size, void** exchange) {
-    if (!*exchange) {
-        *exchange = new Exchange;
-        const std::lock_guard lock(mutex_);
-        ++exchanges_;
-    }
+    if (!*exchange) *exchange = new Exchange;
     Exchange& one = *static_cast<Exchange*>(*exchange);
     if (!one.begun) {
         one.request.method = std::string_view(method) == MHD_HTTP_METHOD_HEAD ? MHD_HTTP_METHOD_GET : method;
@@ -139,12 +155,13 @@ int WebServer::take(MHD_Connection* connection, const char* path, const char* me
         return begin(connection, one);
     }
     if (*size == 0) return finish(connection, one);
-    one.bodyIsTooLong = one.bodyIsTooLong || one.request.body.size() + *size > longestBody;
-    if (!one.bodyIsTooLong) one.request.body.append(data, *size);
+    if (!one.reply && one.request.body.size() + *size > longestBody) one.reply = tooLong();
+    if (!one.reply) one.request.body.append(data, *size);
     *size = 0;
     return MHD_YES;
 }
 
+// The library closes the connection of a request that is answered before its end, so most answers wait for that.
 int WebServer::begin(MHD_Connection* connection, Exchange& exchange) {
     exchange.begun = true;
     exchange.request.address = options_.behindProxy ? lastForwarded(header(connection, "X-Forwarded-For")) : "";
@@ -153,19 +170,30 @@ int WebServer::begin(MHD_Connection* connection, Exchange& exchange) {
     std::size_t size = 0;
     if (MHD_lookup_connection_value_n(connection, MHD_GET_ARGUMENT_KIND, "key", 3, &key, &size) == MHD_YES && key)
         exchange.request.key.assign(key, size);
-    const auto answer = site_.answerAtOnce(exchange.request);
-    if (answer) return send(connection, exchange, *answer);
-    return announcedLength(connection) > longestBody ? send(connection, exchange, tooLong()) : int{MHD_YES};
+    exchange.reply = answerToHead(connection, exchange);
+    const bool bodyIsTooLong = announcedLength(connection) > longestBody;
+    return bodyIsTooLong ? send(connection, exchange, exchange.reply.value_or(tooLong())) : int{MHD_YES};
+}
+
+std::optional<Answer> WebServer::answerToHead(MHD_Connection*, Exchange& exchange) {
+    if (stopping_) return stoppingAnswer();
+    exchange.admitted = true;
+    {
+        const std::lock_guard lock(mutex_);
+        ++admitted_;
+    }
+    return site_.answerAtOnce(exchange.request);
 }
 
 int WebServer::finish(MHD_Connection* connection, Exchange& exchange) {
-    if (exchange.bodyIsTooLong) return send(connection, exchange, tooLong());
     if (exchange.reply) return send(connection, exchange, *exchange.reply);
     MHD_suspend_connection(connection);
-    site_.answer(exchange.request, [connection, &exchange](Answer answer) {
-        exchange.reply = std::move(answer);
-        MHD_resume_connection(connection);
-    });
+    Reply reply = waiting_->enter(SteadyClock::now() + options_.patience, site_.lateText(exchange.request),
+                                  [connection, &exchange](Answer answer) {
+                                      exchange.reply = std::move(answer);
+                                      MHD_resume_connection(connection);
+                                  });
+    site_.answer(exchange.request, std::move(reply));
     return MHD_YES;
 }
 
@@ -184,7 +212,7 @@ int WebServer::send(MHD_Connection* connection, Exchange& exchange, const Answer
     add("X-Content-Type-Options", "nosniff");
     add("Content-Security-Policy", "default-src 'self'");
     if (!answer.headerName.empty()) add(answer.headerName.c_str(), answer.headerValue);
-    if (ending_) add(MHD_HTTP_HEADER_CONNECTION, "close");
+    if (stopping_) add(MHD_HTTP_HEADER_CONNECTION, "close");
     exchange.status = answer.status;
     exchange.size = (*body)->size();
     const MHD_Result queued = MHD_queue_response(connection, static_cast<unsigned>(answer.status), response);
@@ -205,11 +233,12 @@ void WebServer::end(MHD_Connection* connection, Exchange* exchange, bool sent) {
                           {"bytes", one->size},
                           {"ms", std::round(took.count() * 100) / 100},
                           {"sent", sent}});
+    if (!one->admitted) return;
     {
         const std::lock_guard lock(mutex_);
-        --exchanges_;
+        --admitted_;
     }
-    ended_.notify_all();
+    if (stopping_) changed_.notify_all();
 }
 
 }  // namespace corvane::directory

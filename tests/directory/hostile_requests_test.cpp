@@ -1,6 +1,7 @@
 // Requests that our program never sends.
 #include <gmock/gmock.h>
 
+#include <future>
 #include <thread>
 
 #include "running_service.h"
@@ -150,6 +151,32 @@ TEST_F(HostileRequests, SlowClientsDelayNoOthersAndAreCutOff) {
     watched.closed(connection);
     for (const int end : ends) close(end);
     watched.closeLate(start + 99s);
+}
+
+// Keeps its replies, as a database does that blocks.
+struct SilentSite : WebSite {
+    std::optional<Answer> answerAtOnce(const WebRequest&) override { return {}; }
+    void answer(const WebRequest&, Reply reply) override { asked.set_value(std::move(reply)); }
+    std::string_view lateText(const WebRequest&) const override { return "late"; }
+
+    std::promise<Reply> asked;
+};
+
+TEST(WebServer, StopsWhileARequestWaitsAndAnswersItLate) {
+    std::ostringstream lines;
+    Log log(lines);
+    SilentSite site;
+    auto server = std::make_unique<WebServer>(WebServer::Options{.patience = 300ms}, site, log);
+    const Client waiting(server->port());
+    const Client keptAlive(server->port());
+    waiting.send("GET /a HTTP/1.1\r\nHost: x\r\n\r\n");
+    const Reply reply = site.asked.get_future().get();
+    auto stopping = std::async([&] { server.reset(); });
+    const std::string answer = waiting.receive();
+    EXPECT_THAT(answer, testing::StartsWith("HTTP/1.1 503 "));
+    EXPECT_THAT(answer, testing::AllOf(HasSubstr("Connection: close\r\n"), testing::EndsWith("late\n")));
+    stopping.get();
+    reply(textAnswer(200, "too late"));
 }
 
 }  // namespace
