@@ -5,7 +5,9 @@
 #include <condition_variable>
 #include <optional>
 #include <thread>
+#include <vector>
 
+#include "address.h"
 #include "answer.h"
 #include "log.h"
 #include "open_connections.h"
@@ -17,10 +19,10 @@ struct MHD_Daemon;
 namespace corvane::directory {
 
 struct WebRequest {
-    std::string method;   // "GET"; "HEAD" comes as "GET"
-    std::string path;     // "/nets.php", decoded
-    std::string key;      // the value of "key" in the query, or empty
-    std::string address;  // of the client: "192.0.2.1"
+    std::string method;  // "GET"; "HEAD" comes as "GET"
+    std::string path;    // "/nets.php", decoded
+    std::string key;     // the value of "key" in the query, or empty
+    Address address;     // of the client
     std::string body;
 };
 
@@ -35,15 +37,16 @@ public:
     virtual std::string_view lateText(const WebRequest& request) const = 0;
 };
 
-// A body of more than 16 KiB is answered with 413, and a request whose answer takes longer than the site's patience
-// with 503. A connection is closed when a request is not complete within 15 s. Each request is logged, without its
-// query and body.
+// A request with two lengths, a blank before a colon, two hosts, or without the Host of HTTP/1.1 is answered with 400
+// and its connection closed. A body of more than 16 KiB is answered with 413, and a request whose answer takes longer
+// than the site's patience with 503. A connection is closed when a request is not complete within 15 s. Each request is
+// logged, without its query and body.
 class WebServer {
 public:
     struct Options {
-        std::string address = "127.0.0.1";  // or an IPv6 address
+        std::string address = "127.0.0.1";  // or a name; "::" is all addresses, also IPv4
         int port = 0;                       // 0: one that is free
-        bool behindProxy = false;           // the last entry of X-Forwarded-For is the client's address
+        std::vector<Address> proxies{};     // whose X-Forwarded-For is believed
         unsigned connectionsAnAddress = 64;
         std::chrono::milliseconds patience{2000};  // with the site
     };
@@ -63,12 +66,12 @@ public:
 private:
     struct Exchange;
 
-    int take(MHD_Connection* connection, const char* path, const char* method, const char* data, std::size_t* size,
-             void** exchange);
-    int begin(MHD_Connection* connection, Exchange& exchange);
-    std::optional<Answer> answerToHead(MHD_Connection* connection, Exchange& exchange);
+    int take(MHD_Connection* connection, const char* path, const char* method, const char* version, const char* data,
+             std::size_t* size, void** exchange);
+    int begin(MHD_Connection* connection, Exchange& exchange, std::string_view version);
+    std::optional<Answer> answerToHead(Exchange& exchange);
     int finish(MHD_Connection* connection, Exchange& exchange);
-    int send(MHD_Connection* connection, Exchange& exchange, const Answer& answer) const;
+    int send(MHD_Connection* connection, Exchange& exchange, const Answer& answer, bool closes = false) const;
     void end(MHD_Connection* connection, Exchange* exchange, bool sent);
 
     const Options options_;

@@ -49,14 +49,19 @@ private:
 // A connection to a port of this machine.
 class Client {
 public:
-    explicit Client(int port) {
+    explicit Client(int port, int family = AF_INET) : socket_(socket(family, SOCK_STREAM, 0)) {
         const timeval patience{30, 0};
         setsockopt(socket_, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_port = htons(static_cast<uint16_t>(port));
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        connected_ = connect(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+        sockaddr_in6 address{.sin6_family = AF_INET6,
+                             .sin6_port = htons(static_cast<uint16_t>(port)),
+                             .sin6_flowinfo = 0,
+                             .sin6_addr = IN6ADDR_LOOPBACK_INIT,
+                             .sin6_scope_id = 0};
+        sockaddr_in four{
+            .sin_family = AF_INET, .sin_port = address.sin6_port, .sin_addr = {htonl(INADDR_LOOPBACK)}, .sin_zero = {}};
+        connected_ = family == AF_INET
+                         ? connect(socket_, reinterpret_cast<const sockaddr*>(&four), sizeof four) == 0
+                         : connect(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
     }
     ~Client() { close(socket_); }
     Client(const Client&) = delete;
@@ -74,7 +79,7 @@ public:
     }
 
 private:
-    const int socket_ = socket(AF_INET, SOCK_STREAM, 0);
+    const int socket_;
     bool connected_ = false;
 };
 
@@ -100,9 +105,9 @@ inline std::string checkIn(const std::string& key, const std::string& net, int a
 }
 
 struct RunningService {
-    explicit RunningService(const std::string& database, int requestsAMinute = 0, bool behindProxy = false) {
-        DirectoryService::Options options{database, CORVANE_SOURCE "/docs", requestsAMinute, {}};
-        options.server.behindProxy = behindProxy;
+    explicit RunningService(const std::string& database, int requestsAMinute = 0,
+                            const WebServer::Options& server = {}) {
+        const DirectoryService::Options options{database, CORVANE_SOURCE "/docs", requestsAMinute, server};
         service.emplace(
             options, [this] { return now.load(); }, log);
     }
