@@ -8,8 +8,8 @@ namespace corvane::directory {
 class DirectoryService {
 public:
     struct Options {
-        std::string database;   // prepared, see new_database.h
-        std::string documents;  // folder
+        DatabaseLocation database;  // prepared, see new_database.h
+        std::string documents;      // folder
         int requestsAMinute = 0;
         WebServer::Options server;
     };

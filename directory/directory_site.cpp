@@ -36,7 +36,7 @@ const DirectorySite::Route* DirectorySite::routeOf(const std::string& path) {
                       reply(textAnswer(400, "The body is not a check-in."));
               }},
         Route{healthPath, "GET",
-              [](DirectorySite& site, const WebRequest&, Reply reply) { site.reader_.health(std::move(reply)); }},
+              [](DirectorySite& site, const WebRequest&, Reply reply) { site.writer_.health(std::move(reply)); }},
     };
     const auto* const route = std::ranges::find(routes, path, &Route::path);
     return route == routes.end() ? nullptr : route;

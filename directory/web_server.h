@@ -48,7 +48,7 @@ public:
         int port = 0;                       // 0: one that is free
         std::vector<Address> proxies{};     // whose X-Forwarded-For is believed
         unsigned connectionsAnAddress = 64;
-        std::chrono::milliseconds patience{2000};  // with the site
+        std::chrono::milliseconds patience = answerPatience;  // with the site
     };
 
     // Throws std::runtime_error when the port is taken or may not be used.

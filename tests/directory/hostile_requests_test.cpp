@@ -233,8 +233,8 @@ struct SilentSite : WebSite {
 };
 
 TEST(WebServer, StopsWhileARequestWaitsAndAnswersItLate) {
-    std::ostringstream lines;
-    Log log(lines);
+    const LogFile lines;
+    Log log(lines.file);
     SilentSite site;
     auto server = std::make_unique<WebServer>(WebServer::Options{.patience = 300ms}, site, log);
     const Client waiting(server->port());
