@@ -136,9 +136,15 @@ void Database::run(const char* statement) {
     if (!query.exec(statement)) fail(query.lastError());
 }
 
-Statement::Statement(Database& database, const char* text) : database_(database), query_(database.connection()) {
+Statement::Statement(Database& database, const char* text)
+    : database_(database), query_(database.connection()), text_(text) {
     query_.setForwardOnly(true);
-    if (!query_.prepare(text)) database_.fail(query_.lastError());
+}
+
+void Statement::prepare() {
+    if (prepared_) return;
+    if (!query_.prepare(text_)) database_.fail(query_.lastError());
+    prepared_ = true;
 }
 
 void Statement::execute() {

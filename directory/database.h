@@ -44,13 +44,14 @@ private:
     unsigned long long file_ = 0;  // the number of the file that was opened
 };
 
-// A statement with "?" for each value, prepared once and run many times.
+// A statement with "?" for each value, prepared when it first runs: preparing one that writes may wait for a lock.
 class Statement {
 public:
     Statement(Database& database, const char* text);
 
     template <class... Values>
     Statement& run(const Values&... values) {
+        prepare();
         int place = 0;
         (query_.bindValue(place++, value(values)), ...);
         execute();
@@ -65,10 +66,13 @@ public:
 private:
     static QVariant value(const std::string& text) { return QString::fromStdString(text); }
     static QVariant value(long long number) { return number; }
+    void prepare();
     void execute();
 
     const Database& database_;
     QSqlQuery query_;
+    const QString text_;
+    bool prepared_ = false;
 };
 
 // All changes from here to commit() are stored, or none. Waits for other writers.

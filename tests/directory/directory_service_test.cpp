@@ -91,7 +91,9 @@ TEST_P(DirectoryServiceTest, ConfirmsAndRetractsForOneSession) {
     EXPECT_EQ(rows("confirmations"), 2);
     running.now = running.now.load() + 10 * 24h;
     running.service->forgetOldSessions();
-    for (int i = 0; i < 20 && rows("confirmations") != 1; ++i)
+    do {
+        EXPECT_EQ(running.confirm(alice, "tuesday"), 200);  // between the steps
+    } while (rows("confirmations") > 1);
         running.confirm(alice, "tuesday");  // others come between
     EXPECT_EQ(rows("confirmations"), 1);
 }
