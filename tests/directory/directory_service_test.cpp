@@ -94,7 +94,7 @@ TEST_P(DirectoryServiceTest, ConfirmsAndRetractsForOneSession) {
     do {
         EXPECT_EQ(running.confirm(alice, "tuesday"), 200);  // between the steps
     } while (rows("confirmations") > 1);
-        running.confirm(alice, "tuesday");  // others come between
+    running.confirm(alice, "tuesday");  // others come between
     EXPECT_EQ(rows("confirmations"), 1);
 }
 
@@ -190,7 +190,8 @@ TEST_P(DirectoryServiceTest, ALockRefusesAllThatWaitWithinTwoSeconds) {
     std::vector<std::future<int>> statuses;
     for (const std::string& key : {alice, bob})
         for (const char* const net : {"noon", "tuesday", "noon"})
-            statuses.push_back(std::async(std::launch::async, [&running, key, net] { return running.confirm(key, net); }));
+            statuses.push_back(
+                std::async(std::launch::async, [&running, key, net] { return running.confirm(key, net); }));
     for (auto& status : statuses) EXPECT_EQ(status.get(), 503);
     EXPECT_LT(std::chrono::steady_clock::now() - start, 3s);
     const Received health = ask(running.port(), "GET", "/healthz");
