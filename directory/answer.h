@@ -1,12 +1,16 @@
 // The answer to a request.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
 namespace corvane::directory {
+
+// How long a request waits for the database.
+inline constexpr std::chrono::milliseconds answerPatience{2000};
 
 inline constexpr std::string_view plainText = "text/plain; charset=utf-8";
 

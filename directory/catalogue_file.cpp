@@ -1,6 +1,7 @@
 #include "catalogue_file.h"
 
 #include <QByteArrayView>
+#include <QString>
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -18,8 +19,9 @@ bool isUtf8(std::string_view text) {
 }
 
 bool isText(std::string_view text) {
+    const QString characters = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     return text.size() <= 200 && isUtf8(text) &&
-           std::ranges::none_of(text, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; });
+           std::ranges::none_of(characters, [](QChar c) { return c.category() == QChar::Other_Control; });
 }
 
 bool isWord(std::string_view text) { return !text.empty() && isText(text); }
@@ -31,16 +33,24 @@ bool isId(std::string_view text) {
 }
 
 // Digits and at most one point: the program keeps only these of a frequency.
-template <int least, int most>
-bool isNumber(std::string_view text) {
-    if (text.empty() || text.front() < '0' || text.front() > '9') return false;
+bool isBetween(double least, double most, std::string_view text) {
+    if (text.empty() || text.size() > 12 || text.front() < '0' || text.front() > '9') return false;
     double number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
     return error == std::errc{} && end == text.data() + text.size() && number >= least && number <= most;
 }
 
+// What the program tunes to: the receiver's range, and the modes that it knows of a net.
+bool isMegahertz(std::string_view text) { return isBetween(0.03, 75, text); }
+bool isKilohertz(std::string_view text) { return isBetween(520, 1720, text); }
+bool isPower(std::string_view text) { return isBetween(0, 2500, text); }
+bool isMode(std::string_view text) {
+    return text == "LSB" || text == "USB" || text == "CW" || text == "FT8" || text == "FT4";
+}
+
+constexpr std::size_t longestDays = std::string_view("Sun Mon Tue Wed Thu Fri Sat").size();
 bool isTime(std::string_view text) { return scheduleOf(text, "daily").has_value(); }
-bool isDays(std::string_view text) { return scheduleOf("00:00", text).has_value(); }
+bool isDays(std::string_view text) { return text.size() <= longestDays && scheduleOf("00:00", text).has_value(); }
 
 bool isWebPage(std::string_view text) {
     return text.empty() || (isText(text) && (text.starts_with("https://") || text.starts_with("http://")));
@@ -57,23 +67,33 @@ struct Column {
 constexpr std::array netColumns{
     Column<Net>{"id", &Net::id, isId, "lower-case letters, digits and -, at most 64"},
     Column<Net>{"name", &Net::name, isWord, "1 to 200 bytes of text"},
-    Column<Net>{"frequency_mhz", &Net::frequency, isNumber<0, 450>, "MHz like 3.940"},
+    Column<Net>{"frequency_mhz", &Net::frequency, isMegahertz, "MHz from 0.03 to 75, like 3.940"},
     Column<Net>{"utc", &Net::utc, isTime, "a time like 17:00"},
     Column<Net>{"days", &Net::days, isDays, "daily, or days like Mon-Fri Sun"},
-    Column<Net>{"mode", &Net::mode, isWord, "a mode like LSB"},
+    Column<Net>{"mode", &Net::mode, isMode, "LSB, USB, CW, FT8 or FT4"},
     Column<Net>{"url", &Net::url, isWebPage, "empty, or an address that begins with https:// or http://"},
 };
 
 constexpr std::array stationColumns{
     Column<Station>{"call_sign", &Station::callSign, isWord, "1 to 200 bytes of text"},
-    Column<Station>{"frequency_khz", &Station::frequency, isNumber<520, 1720>, "kHz from 520 to 1720"},
+    Column<Station>{"frequency_khz", &Station::frequency, isKilohertz, "kHz from 520 to 1720"},
     Column<Station>{"city", &Station::city, isWord, "1 to 200 bytes of text"},
-    Column<Station>{"power_kw", &Station::power, isNumber<0, 2500>, "kW like 50"},
+    Column<Station>{"power_kw", &Station::power, isPower, "kW like 50"},
     Column<Station>{"url", &Station::url, isWebPage, "empty, or an address that begins with https:// or http://"},
 };
 
+// Escape sequences of terminals are not shown as they are, nor is a value of a megabyte.
+std::string shown(std::string_view value) {
+    constexpr qsizetype most = 80;
+    const QString text = QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
+    QString shown;
+    for (const QChar c : text.first(std::min(most, text.size())))
+        shown += c.isPrint() || c.isSurrogate() ? QString(c) : QString("\\u%1").arg(c.unicode(), 4, 16, QChar('0'));
+    return (text.size() > most ? shown + "\u2026" : shown).toStdString();
+}
+
 std::string problem(int line, std::string_view what, std::string_view value, std::string_view wanted) {
-    return "line " + std::to_string(line) + ": " + std::string(what) + " \"" + std::string(value) +
+    return "line " + std::to_string(line) + ": " + std::string(what) + " \"" + shown(value) +
            "\": " + std::string(wanted);
 }
 

@@ -1,10 +1,9 @@
 #include "directory_reader.h"
 
-#include <algorithm>
-
 namespace corvane::directory {
 
-DirectoryReader::DirectoryReader(std::string location, Clock clock, const std::atomic<long long>& changes, Log& log)
+DirectoryReader::DirectoryReader(DatabaseLocation location, Clock clock, const std::atomic<long long>& changes,
+                                 Log& log)
     : location_(std::move(location)), clock_(std::move(clock)), changes_(changes), log_(log), thread_([this] {
           return [this, catalogue = std::make_shared<std::unique_ptr<Catalogue>>()](std::vector<Job>& batch) {
               answer(*catalogue, batch);
@@ -35,15 +34,12 @@ void DirectoryReader::answer(std::unique_ptr<Catalogue>& catalogue, std::vector<
         for (const Job& job : batch)
             own.push_back(job.operatorKey.empty() ? std::vector<Confirmation>{}
                                                   : catalogue->store.confirmationsOf(job.operatorKey, now));
-        if (std::ranges::any_of(batch, [](const Job& job) { return job.list == List::none; })) catalogue->changes = -1;
         catalogue->refresh(changes, now);
         for (std::size_t i = 0; i < batch.size(); ++i) {
             if (batch[i].list == List::nets)
                 answers.push_back({200, catalogue->netsPage->with(own[i])});
-            else if (batch[i].list == List::stations)
-                answers.push_back({200, catalogue->stations});
             else
-                answers.push_back(textAnswer(200, "ok"));
+                answers.push_back({200, catalogue->stations});
         }
     } catch (const std::exception& error) {
         log_.line("database", {{"problem", error.what()}, {"reads", batch.size()}});

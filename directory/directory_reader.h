@@ -15,18 +15,17 @@ namespace corvane::directory {
 class DirectoryReader {
 public:
     // Lists are read again when `changes` has changed, and every second for changes by other processes.
-    DirectoryReader(std::string location, Clock clock, const std::atomic<long long>& changes, Log& log);
+    DirectoryReader(DatabaseLocation location, Clock clock, const std::atomic<long long>& changes, Log& log);
 
     // From any thread. The key is an operator's, or empty.
     void nets(std::string operatorKey, Reply reply) {
         thread_.submit({List::nets, std::move(operatorKey), std::move(reply)});
     }
     void stations(Reply reply) { thread_.submit({List::stations, {}, std::move(reply)}); }
-    // Whether the database can be read now.
-    void health(Reply reply) { thread_.submit({List::none, {}, std::move(reply)}); }
+    bool stop(std::chrono::milliseconds patience) { return thread_.stop(patience); }
 
 private:
-    enum class List { nets, stations, none };
+    enum class List { nets, stations };
     struct Job {
         List list;
         std::string operatorKey;
@@ -34,7 +33,7 @@ private:
     };
     // The lists last read, and the connection.
     struct Catalogue {
-        explicit Catalogue(const std::string& location) : store(location) {}
+        explicit Catalogue(const DatabaseLocation& location) : store(location) {}
         void refresh(long long changesNow, Seconds now);
 
         DirectoryStore store;
@@ -48,7 +47,7 @@ private:
 
     void answer(std::unique_ptr<Catalogue>& catalogue, std::vector<Job>& batch);
 
-    const std::string location_;
+    const DatabaseLocation location_;
     const Clock clock_;
     const std::atomic<long long>& changes_;
     Log& log_;

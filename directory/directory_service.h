@@ -8,8 +8,8 @@ namespace corvane::directory {
 class DirectoryService {
 public:
     struct Options {
-        std::string database;   // prepared, see new_database.h
-        std::string documents;  // folder
+        DatabaseLocation database;  // prepared, see new_database.h
+        std::string documents;      // folder
         int requestsAMinute = 0;
         WebServer::Options server;
     };
@@ -24,9 +24,15 @@ public:
 
     int port() const { return server_.port(); }
     bool hasDocuments() const { return !documents_.empty(); }
-    // To be called about once a second, and about once an hour.
-    void closeLateConnections() { server_.closeLateConnections(); }
+    // To be called about once an hour.
     void forgetOldSessions() { writer_.forgetOldSessions(); }
+    // Answers what is under way, and stores what it acknowledged. New requests get 503. False when the database does
+    // not let go: then nothing that it holds was acknowledged, but destroying this object would wait for it.
+    bool stop() {
+        constexpr std::chrono::seconds patience{3};
+        server_.stop();
+        return writer_.stop(patience) && reader_.stop(patience);
+    }
 
 private:
     // Destroyed in reverse order: first the server, then what its last requests wait for.

@@ -7,6 +7,12 @@
 
 namespace corvane::directory {
 
+namespace {
+
+constexpr std::string_view healthPath = "/healthz";
+
+}  // namespace
+
 struct DirectorySite::Route {
     std::string_view path;
     std::string_view method;
@@ -30,8 +36,8 @@ const DirectorySite::Route* DirectorySite::routeOf(const std::string& path) {
                   else
                       reply(textAnswer(400, "The body is not a check-in."));
               }},
-        Route{"/healthz", "GET",
-              [](DirectorySite& site, const WebRequest&, Reply reply) { site.reader_.health(std::move(reply)); }},
+        Route{healthPath, "GET",
+              [](DirectorySite& site, const WebRequest&, Reply reply) { site.writer_.health(std::move(reply)); }},
     };
     const auto* const route = std::ranges::find(routes, path, &Route::path);
     return route == routes.end() ? nullptr : route;
@@ -61,6 +67,10 @@ std::optional<Answer> DirectorySite::answerAtOnce(const WebRequest& request) {
 
 void DirectorySite::answer(const WebRequest& request, Reply reply) {
     routeOf(request.path)->answer(*this, request, std::move(reply));
+}
+
+std::string_view DirectorySite::lateText(const WebRequest& request) const {
+    return request.path == healthPath ? "blocked" : "The database does not answer in time.";
 }
 
 }  // namespace corvane::directory

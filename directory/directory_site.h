@@ -20,6 +20,7 @@ public:
 
     std::optional<Answer> answerAtOnce(const WebRequest& request) override;
     void answer(const WebRequest& request, Reply reply) override;
+    std::string_view lateText(const WebRequest& request) const override;
 
 private:
     struct Route;

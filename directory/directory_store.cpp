@@ -1,6 +1,9 @@
 #include "directory_store.h"
 
-#include <set>
+#include <algorithm>
+#include <map>
+#include <numeric>
+#include <tuple>
 
 namespace corvane::directory {
 
@@ -12,7 +15,9 @@ long long number(Seconds time) { return time.time_since_epoch().count(); }
 }  // namespace
 
 std::vector<Net> DirectoryStore::nets() {
-    Statement rows(database_, "SELECT id, name, frequency, utc, days, mode, url FROM nets ORDER BY position");
+    Statement rows(database_,
+                   "SELECT id, name, frequency, utc, days, mode, url FROM nets "
+                   "WHERE list = (SELECT nets_list FROM catalogue) ORDER BY position");
     std::vector<Net> nets;
     for (rows.run(); rows.next();)
         nets.push_back(
@@ -21,40 +26,13 @@ std::vector<Net> DirectoryStore::nets() {
 }
 
 std::vector<Station> DirectoryStore::stations() {
-    Statement rows(database_, "SELECT call_sign, frequency, city, power, url FROM stations ORDER BY position");
+    Statement rows(database_,
+                   "SELECT call_sign, frequency, city, power, url FROM stations "
+                   "WHERE list = (SELECT stations_list FROM catalogue) ORDER BY position");
     std::vector<Station> stations;
     for (rows.run(); rows.next();)
         stations.push_back({rows.text(0), rows.text(1), rows.text(2), rows.text(3), rows.text(4)});
     return stations;
-}
-
-void DirectoryStore::replace(const std::vector<Net>& nets) {
-    std::set<std::string> gone;
-    Statement ids(database_, "SELECT id FROM nets");
-    for (ids.run(); ids.next();) gone.insert(ids.text(0));
-    Statement put(database_,
-                  "INSERT INTO nets (id, position, name, frequency, utc, days, mode, url) "
-                  "VALUES (?, ?, ?, ?, ?, ?, ?, ?) ON CONFLICT (id) DO UPDATE SET "
-                  "position = excluded.position, name = excluded.name, frequency = excluded.frequency, "
-                  "utc = excluded.utc, days = excluded.days, mode = excluded.mode, url = excluded.url");
-    long long position = 0;
-    for (const Net& net : nets) {
-        put.run(net.id, ++position, net.name, net.frequency, net.utc, net.days, net.mode, net.url);
-        gone.erase(net.id);
-    }
-    Statement remove(database_, "DELETE FROM nets WHERE id = ?");
-    for (const std::string& id : gone) remove.run(id);
-    changeCatalogue();
-}
-
-void DirectoryStore::replace(const std::vector<Station>& stations) {
-    database_.run("DELETE FROM stations");
-    Statement put(database_,
-                  "INSERT INTO stations (position, call_sign, frequency, city, power, url) VALUES (?, ?, ?, ?, ?, ?)");
-    long long position = 0;
-    for (const Station& station : stations)
-        put.run(++position, station.callSign, station.frequency, station.city, station.power, station.url);
-    changeCatalogue();
 }
 
 long long DirectoryStore::revision() {
@@ -63,23 +41,35 @@ long long DirectoryStore::revision() {
     return revision;
 }
 
-bool DirectoryStore::record(const CheckIn& checkIn, Seconds now) {
+std::optional<Seconds> DirectoryStore::nextSessionOf(const std::string& net, Seconds now) {
     std::optional<Schedule> schedule;
-    for (timeOfNet_.run(checkIn.net); timeOfNet_.next();) schedule = scheduleOf(timeOfNet_.text(0), timeOfNet_.text(1));
-    if (!schedule) return false;
-    const long long starts = number(nextSession(*schedule, now));
-    if (checkIn.confirms ? insert(checkIn, starts) : remove(checkIn, starts))
-        count_.run(checkIn.confirms ? 1LL : -1LL, checkIn.net, starts);
-    return true;
+    for (timeOfNet_.run(net); timeOfNet_.next();) schedule = scheduleOf(timeOfNet_.text(0), timeOfNet_.text(1));
+    if (!schedule) return {};
+    return nextSession(*schedule, now);
 }
 
-bool DirectoryStore::insert(const CheckIn& checkIn, long long starts) {
-    addSession_.run(checkIn.net, starts);
-    return addConfirmation_.run(checkIn.operatorKey, checkIn.net, starts).changedRows() > 0;
-}
-
-bool DirectoryStore::remove(const CheckIn& checkIn, long long starts) {
-    return removeConfirmation_.run(checkIn.operatorKey, checkIn.net, starts).changedRows() > 0;
+// The counts come last: a session's row is locked from there to the commit.
+std::vector<bool> DirectoryStore::record(const std::vector<CheckIn>& checkIns, Seconds now) {
+    const auto place = [](const CheckIn& one) { return std::tie(one.net, one.operatorKey); };
+    std::vector<std::size_t> order(checkIns.size());
+    std::iota(order.begin(), order.end(), 0U);
+    std::ranges::stable_sort(order, {}, [&](std::size_t i) { return place(checkIns[i]); });
+    std::vector<bool> known(checkIns.size());
+    std::map<std::string, std::pair<std::optional<Seconds>, long long>> sessions;
+    for (const std::size_t i : order) {
+        const CheckIn& one = checkIns[i];
+        const auto [session, isFirst] = sessions.try_emplace(one.net);
+        auto& [starts, change] = session->second;
+        if (isFirst) starts = nextSessionOf(one.net, now);
+        known[i] = starts.has_value();
+        if (!starts) continue;
+        if (isFirst) addSession_.run(one.net, number(*starts));
+        Statement& statement = one.confirms ? addConfirmation_ : removeConfirmation_;
+        change += (one.confirms ? 1 : -1) * statement.run(one.operatorKey, one.net, number(*starts)).changedRows();
+    }
+    for (const auto& [net, session] : sessions)
+        if (session.second != 0) count_.run(session.second, net, number(*session.first));
+    return known;
 }
 
 std::vector<Confirmation> DirectoryStore::confirmationsOf(const std::string& operatorKey, Seconds now) {
@@ -96,8 +86,32 @@ std::vector<SessionCount> DirectoryStore::counts(Seconds now) {
     return counts;
 }
 
-void DirectoryStore::forgetSessionsBefore(Seconds time) {
-    Statement(database_, "DELETE FROM sessions WHERE starts < ?").run(number(time));
+bool DirectoryStore::forgetSomeBefore(Seconds time) {
+    constexpr long long step = 200;
+    Transaction transaction(database_);
+    Statement old(database_, "SELECT net, starts FROM sessions WHERE starts < ? ORDER BY net, starts LIMIT 1");
+    if (!old.run(number(time)).next()) return false;
+    const std::string net = old.text(0);
+    const long long starts = old.number(1);
+    while (old.next()) {
+    }
+    const int forgotten =
+        Statement(database_,
+                  "DELETE FROM confirmations WHERE net = ? AND starts = ? AND operator IN (SELECT "
+                  "operator FROM confirmations WHERE net = ? AND starts = ? ORDER BY operator LIMIT ?)")
+            .run(net, starts, net, starts, step)
+            .changedRows();
+    if (forgotten < step) Statement(database_, "DELETE FROM sessions WHERE net = ? AND starts = ?").run(net, starts);
+    transaction.commit();
+    return true;
+}
+
+void DirectoryStore::checkHealth() {
+    Transaction transaction(database_);
+    for (const char* const table : {"nets", "sessions", "confirmations"})
+        database_.run((std::string("SELECT 1 FROM ") + table + " LIMIT 1").c_str());
+    database_.run("UPDATE health SET checks = checks + 1");
+    transaction.commit();
 }
 
 }  // namespace corvane::directory

@@ -30,34 +30,34 @@ struct Confirmation {
 // One connection to a migrated database, used in the thread that made it. Throws DatabaseError.
 class DirectoryStore {
 public:
-    explicit DirectoryStore(const std::string& location) : database_(location) {}
+    explicit DirectoryStore(const DatabaseLocation& location) : database_(location) {}
 
     Database& database() { return database_; }
 
     // In the order of the import.
     std::vector<Net> nets();
     std::vector<Station> stations();
-    // Within a transaction. Replaces the whole list. A net whose id stays keeps its confirmations; those of a removed
-    // net are deleted.
-    void replace(const std::vector<Net>& nets);
-    void replace(const std::vector<Station>& stations);
-    // 0 until the first replacement, and a new number after each.
+    // 0 until the first import, and a new number after each.
     long long revision();
 
-    // Within a transaction. False for an unknown net. Confirming or retracting twice has the effect of once.
-    bool record(const CheckIn& checkIn, Seconds now);
+    // Within a transaction. For each check-in whether its net is known. Confirming or retracting twice has the effect
+    // of once. Rows are locked in an order that all services share, so that two of them never wait for each other.
+    std::vector<bool> record(const std::vector<CheckIn>& checkIns, Seconds now);
     // Of sessions that have not ended at `now`.
     std::vector<Confirmation> confirmationsOf(const std::string& operatorKey, Seconds now);
     std::vector<SessionCount> counts(Seconds now);
-    void forgetSessionsBefore(Seconds time);
+    // Deletes a part of the sessions that began before `time`, in a transaction of its own that takes a few
+    // milliseconds. Whether there may be more.
+    bool forgetSomeBefore(Seconds time);
+    // Fails when no check-in can be stored. Writes to the disk.
+    void checkHealth();
 
 private:
-    bool insert(const CheckIn& checkIn, long long starts);
-    bool remove(const CheckIn& checkIn, long long starts);
-    void changeCatalogue() { database_.run("UPDATE catalogue SET revision = revision + 1"); }
+    std::optional<Seconds> nextSessionOf(const std::string& net, Seconds now);
 
     Database database_;
-    Statement timeOfNet_{database_, "SELECT utc, days FROM nets WHERE id = ?"};
+    Statement timeOfNet_{database_,
+                         "SELECT utc, days FROM nets WHERE id = ? AND list = (SELECT nets_list FROM catalogue)"};
     Statement addSession_{database_,
                           "INSERT INTO sessions (net, starts, confirmed) VALUES (?, ?, 0) ON CONFLICT DO NOTHING"};
     Statement addConfirmation_{

@@ -1,12 +1,13 @@
 // corvane-directory: the nets directory, the check-ins, the medium-wave stations and the help pages, over HTTP.
-#include <QCoreApplication>
-#include <csignal>
-#include <filesystem>
-#include <fstream>
-#include <iostream>
-#include <iterator>
+#include <unistd.h>
 
-#include "catalogue_file.h"
+#include <QCoreApplication>
+
+#include <csignal>
+#include <cstdlib>
+#include <iostream>
+
+#include "catalogue_commands.h"
 #include "directory_service.h"
 #include "new_database.h"
 #include "options.h"
@@ -33,63 +34,33 @@ sigset_t blockStopSignals() {
 
 int serve(const Options& options) {
     const sigset_t stopSignals = blockStopSignals();
-    Log log(std::cout);
+    Log log(STDOUT_FILENO);
     prepareDatabase(options.service.database);
     DirectoryService service(options.service, now, log);
     if (!service.hasDocuments()) log.line("documents", {{"missing in", options.service.documents}});
     log.line("start",
              {{"version", CORVANE_VERSION}, {"address", options.service.server.address}, {"port", service.port()}});
-    const timespec second{1, 0};
-    Seconds cleaned{};
+    constexpr timespec hour{3600, 0};
     int signal = -1;
-    while ((signal = sigtimedwait(&stopSignals, nullptr, &second)) < 0) {
-        service.closeLateConnections();
-        if (now() - cleaned < std::chrono::hours(1)) continue;
+    do {
         service.forgetOldSessions();
-        cleaned = now();
-    }
-    log.line("stop", {{"signal", signal}});
-    return 0;
-}
-
-template <class Entry>
-int import(const Options& options, CatalogueFile<Entry> (*read)(std::string_view text)) {
-    std::ifstream stream(options.file, std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    if (!stream) {
-        std::cerr << options.file << " cannot be read.\n";
-        return failed;
-    }
-    const CatalogueFile<Entry> file = read(text);
-    for (const std::string& problem : file.problems) std::cerr << options.file << ": " << problem << '\n';
-    if (!file.problems.empty()) {
-        std::cerr << "Nothing was imported.\n";
-        return failed;
-    }
-    prepareDatabase(options.service.database);
-    DirectoryStore store(options.service.database);
-    Transaction transaction(store.database());
-    store.replace(file.entries);
-    transaction.commit();
-    std::cout << file.entries.size() << " imported\n";
-    return 0;
+    } while ((signal = sigtimedwait(&stopSignals, nullptr, &hour)) < 0);
+    const bool stopped = service.stop();
+    log.line("stop", {{"signal", signal}, {"database", stopped ? "closed" : "stuck"}});
+    if (stopped) return 0;
+    log.close();
+    std::_Exit(0);  // waiting for the database could take for ever
 }
 
 int run(const Options& options) {
     switch (options.command) {
         case Options::Command::serve:
             return serve(options);
-        case Options::Command::importNets:
-            return import(options, readNets);
-        case Options::Command::importStations:
-            return import(options, readStations);
-        case Options::Command::exportNets:
-            prepareDatabase(options.service.database);
-            std::cout << writeNets(DirectoryStore(options.service.database).nets());
+        case Options::Command::import:
+            importList(options.service.database, {options.list, options.file, options.mayShrink}, now(), std::cout);
             return 0;
-        case Options::Command::exportStations:
-            prepareDatabase(options.service.database);
-            std::cout << writeStations(DirectoryStore(options.service.database).stations());
+        case Options::Command::exportList:
+            exportList(options.service.database, options.list, std::cout);
             return 0;
         case Options::Command::help:
             std::cout << helpText();

@@ -1,12 +1,13 @@
 // Makes a database ready for use.
 #pragma once
 
-#include <string>
+#include "database.h"
 
 namespace corvane::directory {
 
-// Makes the SQLite file and its folder if they are missing, runs the migrations, and fills an empty database with the
-// starter set. Throws DatabaseError.
-void prepareDatabase(const std::string& location);
+// Runs the migrations and fills an empty database with the starter set. Makes an SQLite file that is missing, with its
+// folder, unless only an `existing` database is wanted: then also a database of another kind is refused. Throws
+// DatabaseError.
+void prepareDatabase(const DatabaseLocation& location, Database::Open open = Database::Open::orNewFile);
 
 }  // namespace corvane::directory

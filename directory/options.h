@@ -3,15 +3,18 @@
 
 #include <string>
 
+#include "catalogue_commands.h"
 #include "directory_service.h"
 
 namespace corvane::directory {
 
 struct Options {
-    enum class Command { serve, importNets, importStations, exportNets, exportStations, help, version };
+    enum class Command { serve, import, exportList, help, version };
 
     Command command = Command::serve;
-    std::string file;  // of an import
+    List list = List::nets;  // of an import or export
+    std::string file;        // of an import
+    bool mayShrink = false;  // see Import
     DirectoryService::Options service{{}, {}, 120, {.port = 8073}};
 };
 

@@ -1,21 +1,12 @@
 #include "rate_limit.h"
 
-#include <arpa/inet.h>
-
 #include <algorithm>
-#include <array>
 
 namespace corvane::directory {
 
 namespace {
 
 constexpr std::size_t mostAddresses = 100'000;
-
-std::string network(const std::string& address) {
-    std::array<unsigned char, 16> bytes{};
-    if (inet_pton(AF_INET6, address.c_str(), bytes.data()) != 1) return address;
-    return {bytes.begin(), bytes.begin() + 8};
-}
 
 }  // namespace
 
@@ -24,11 +15,11 @@ double RateLimit::filled(const Stock& stock, Time now) const {
     return std::min<double>(perMinute_, stock.requests + minutes.count() * perMinute_);
 }
 
-bool RateLimit::allows(std::string_view address, Time now) {
+bool RateLimit::allows(const Address& address, Time now) {
     if (perMinute_ == 0) return true;
     const std::lock_guard lock(mutex_);
     if (stocks_.size() >= mostAddresses) forgetFullStocks(now);
-    Stock& stock = stocks_.try_emplace(network(std::string(address)), Stock{double(perMinute_), now}).first->second;
+    Stock& stock = stocks_.try_emplace(address.network(), Stock{double(perMinute_), now}).first->second;
     stock = {filled(stock, now), now};
     if (stock.requests < 1) return false;
     stock.requests -= 1;

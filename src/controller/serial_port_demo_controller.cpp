@@ -10,12 +10,19 @@ namespace corvane {
 namespace {
 
 constexpr int powerOnTag = 300;
+constexpr std::string_view directoryKey = "directoryServer";
+
+ServiceHosts withSetting(ServiceHosts hosts, const SettingsStore& settings) {
+    const std::string server = settings.text(directoryKey).value_or("");
+    if (!hosts.directoryIsGiven && !server.empty()) hosts.setDirectory(server);
+    return hosts;
+}
 
 }  // namespace
 
 SerialPortDemoController::SerialPortDemoController(const Platform& platform, ServiceHosts serviceHosts)
     : platform_(platform),
-      hosts(std::move(serviceHosts)),
+      hosts(withSetting(std::move(serviceHosts), platform.settings)),
       preferences(display, platform.settings),
       voice(preferences, platform.speech, platform.sounds, platform.alerts),
       link(display, voice,
@@ -54,6 +61,14 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
 SerialPortDemoController::~SerialPortDemoController() {
     serialPortManager.setObserver(nullptr);
     userDefaults.onProblem = nullptr;
+}
+
+bool SerialPortDemoController::setDirectoryServer(std::string_view server) {
+    if (!hosts.setDirectory(server)) return false;
+    userDefaults.setText(directoryKey, server.empty() ? server : hosts.directory);
+    fetchNets();
+    fetchMWStations();
+    return true;
 }
 
 void SerialPortDemoController::wire() {

@@ -47,6 +47,8 @@ public:
     void awakeFromNib();     // the window is made: restores the settings, the first time only
     void restoreSettings();  // restores what is kept between runs
     void goMainMenu(MenuItem& sender);
+    // Kept between runs. False for what is no address of a web server, see ServiceHosts.
+    bool setDirectoryServer(std::string_view server);
     void showHelp() { platform_.browser.open(hosts.helpPage()); }
 
     // --- app: what is heard
@@ -163,7 +165,7 @@ private:
 public:
     ORSSerialPortManager& serialPortManager = platform_.serialPortManager;
     SettingsStore& userDefaults = platform_.settings;
-    const ServiceHosts hosts;
+    ServiceHosts hosts;
 
     // The rooms; each may use only those above it in this list.
     Display display;

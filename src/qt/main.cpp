@@ -31,7 +31,8 @@ int main(int argc, char** argv) {
 
     corvane::QtPlatform platform;
     corvane::SerialPortDemoController controller(
-        platform.platform(), corvane::ServiceHosts::from(qEnvironmentVariable("CORVANE_SERVICES").toStdString()));
+        platform.platform(), corvane::ServiceHosts::from(qEnvironmentVariable("CORVANE_SERVICES").toStdString(),
+                                                         qEnvironmentVariable("CORVANE_DIRECTORY").toStdString()));
     corvane::MainWindow window(controller);
     instance.onActivated = [&window](const QString& token) { window.comeToFront(token); };
     corvane::reportStart(window);

@@ -31,15 +31,18 @@ TEST(CatalogueFile, ListsEveryProblemWithItsLineAndGivesNothing) {
                                              "B b,,7_2,25:00,weekly,,ftp://x\n"
                                              "b,Again,1e1,10:00,daily,LSB,\n"
                                              "c,short,7.2\n"
-                                             "d,\xff,-1,10:00,daily,LSB,javascript:alert(1)\n");
+                                             "d,\xff,-1,10:00,daily,LSB,javascript:alert(1)\n"
+                                             "e,\x1b]0;x\a\xc2\x9b,75.1,10:00,Mon Mon Mon Mon Mon Mon Mon Mon,AM,\n");
     EXPECT_THAT(nets.entries, IsEmpty());
     EXPECT_THAT(nets.problems,
-                ElementsAre(StartsWith("line 2: name \"Two\nlines\""), StartsWith("line 5: id \"B b\""),
+                ElementsAre(StartsWith("line 2: name \"Two\\u000alines\""), StartsWith("line 5: id \"B b\""),
                             "line 5: name \"\": 1 to 200 bytes of text", StartsWith("line 5: frequency_mhz \"7_2\""),
                             StartsWith("line 5: utc"), StartsWith("line 5: days"), StartsWith("line 5: mode"),
                             StartsWith("line 5: url"), StartsWith("line 6: frequency_mhz \"1e1\""),
                             "line 6: id \"b\": comes twice", "line 7: 3 values, not 7", StartsWith("line 8: name"),
-                            StartsWith("line 8: frequency_mhz"), StartsWith("line 8: url")));
+                            StartsWith("line 8: frequency_mhz"), StartsWith("line 8: url"),
+                            StartsWith(R"(line 9: name "\u001b]0;x\u0007\u009b")"), StartsWith("line 9: frequency_mhz"),
+                            StartsWith("line 9: days"), StartsWith("line 9: mode \"AM\"")));
     for (const char* const bad : {"", "id,name\n", "WSM,650,Nashville,50,\n"})
         EXPECT_THAT(readStations(bad).problems, ElementsAre(StartsWith("line 1: the columns must be call_sign,")))
             << bad;

@@ -1,10 +1,11 @@
 #!/usr/bin/python3
-"""Kills the directory service under load, again and again, and checks that every acknowledged check-in is stored.
+"""Kills and stops the directory service under load, again and again. Every acknowledged check-in must be stored.
 
-crash_test.py CORVANE-DIRECTORY [ROUNDS]
+crash_test.py CORVANE-DIRECTORY KILLS STOPS
 """
 
-import http.client
+import asyncio
+import itertools
 import json
 import secrets
 import signal
@@ -13,9 +14,10 @@ import subprocess
 import sys
 import tempfile
 import threading
+import time
 
-CLIENTS = 16
-CHECK_INS_A_ROUND = 400  # acknowledged ones, before the kill
+CLIENTS = 300
+CHECK_INS_A_ROUND = 400  # acknowledged ones, before the end
 
 
 class Service:
@@ -38,47 +40,54 @@ class Service:
         # Its log needs a reader, or the service would wait for one.
         threading.Thread(target=lambda: [None for _ in self.process.stdout], daemon=True).start()
 
-    def kill(self):
-        self.process.send_signal(signal.SIGKILL)
+    def end(self, signal_):
+        start = time.monotonic()
+        self.process.send_signal(signal_)
         self.process.wait()
+        self.seconds = time.monotonic() - start
 
 
 class Load:
-    """Operators who check in to nets, each with their own key, until the service is gone."""
+    """Operators who check in to nets, each with their own key, on connections that stay, until the service is gone."""
 
     def __init__(self, port, nets):
         self.port = port
         self.nets = nets
         self.acknowledged = []
-        self.enough = threading.Event()
         self.refused = []
-        self.clients = [threading.Thread(target=self.check_in, args=(number,)) for number in range(CLIENTS)]
-        for client in self.clients:
-            client.start()
+        self.enough = asyncio.Event()
 
-    def check_in(self, number):
-        connection = http.client.HTTPConnection("127.0.0.1", self.port, timeout=30)
-        turn = 0
+    async def check_in(self, number):
         try:
-            while True:
+            reader, writer = await asyncio.open_connection("127.0.0.1", self.port)
+            for turn in itertools.count():
                 key, net = secrets.token_hex(16), self.nets[(number + turn) % len(self.nets)]
                 body = json.dumps({"key": key, "net_id": net, "action": 1})
-                connection.request("POST", "/netconf.php", body, {"Content-Type": "Application/json"})
-                answer = connection.getresponse()
-                answer.read()
-                if answer.status != 200:
-                    self.refused.append(answer.status)
-                    return
+                checks_in = number % 2 == 0
+                line = "POST /netconf.php" if checks_in else f"GET /nets.php?key={key}"
+                length = f"Content-Length: {len(body)}\r\n\r\n{body}" if checks_in else "\r\n"
+                writer.write(f"{line} HTTP/1.1\r\nHost: x\r\n{length}".encode())
+                head = (await reader.readuntil(b"\r\n\r\n")).decode()
+                text = await reader.readexactly(int(head.lower().split("content-length: ")[1].split()[0]))
+                if not head.startswith("HTTP/1.1 200 "):
+                    self.refused.append(head + text.decode())
+                    break
+                if not checks_in:
+                    continue
                 self.acknowledged.append((key, net))
-                turn += 1
                 if len(self.acknowledged) >= CHECK_INS_A_ROUND:
                     self.enough.set()
-        except (OSError, http.client.HTTPException):
-            pass  # the service has been killed
+            writer.close()
+        except (OSError, asyncio.IncompleteReadError):
+            pass  # the service has ended
 
-    def wait(self):
-        for client in self.clients:
-            client.join()
+    async def until(self, end):
+        clients = [asyncio.create_task(self.check_in(number)) for number in range(CLIENTS)]
+        await asyncio.wait_for(self.enough.wait(), 60)
+        refused = len(self.refused)
+        await asyncio.get_running_loop().run_in_executor(None, end)
+        await asyncio.gather(*clients)
+        return refused
 
 
 def problems(database, acknowledged):
@@ -99,24 +108,26 @@ def problems(database, acknowledged):
 
 
 def main():
-    program, rounds = sys.argv[1], int(sys.argv[2]) if len(sys.argv) > 2 else 10
+    program, kills, stops = sys.argv[1], int(sys.argv[2]), int(sys.argv[3])
     acknowledged = []
     with tempfile.TemporaryDirectory() as folder:
         database = folder + "/directory.sqlite"
-        for round_number in range(1, rounds + 1):
+        for end in [signal.SIGKILL] * kills + [signal.SIGTERM] * stops:
             service = Service(program, database)
             nets = [row[0] for row in sqlite3.connect(database).execute("SELECT id FROM nets ORDER BY id")]
             load = Load(service.port, nets)
-            came = load.enough.wait(60)
-            service.kill()
-            load.wait()
+            refused = asyncio.run(load.until(lambda: service.end(end)))
             acknowledged += load.acknowledged
-            if not came or load.refused:
-                sys.exit(f"crash: FAILED: {len(load.acknowledged)} acknowledged, refused with {load.refused}")
             found, stored = problems(database, acknowledged)
+            if refused:
+                found.append(f"refused with {load.refused[:refused]}")
+            found += [f"not closed: {head}" for head in load.refused if "Connection: close" not in head or " 503 " not in head]
+            if service.process.returncode != (-end if end == signal.SIGKILL else 0):
+                found.append(f"ended with {service.process.returncode}")
             if found:
-                sys.exit(f"crash: FAILED after kill {round_number}: {found[:5]}, {len(found)} in all")
-            print(f"kill {round_number}: {len(acknowledged)} acknowledged so far, all of them among {stored} stored")
+                sys.exit(f"crash: FAILED after {end.name}: {found[:5]}, {len(found)} in all")
+            print(f"{end.name}: {len(acknowledged)} acknowledged so far, all of them among {stored} stored,"
+                  f" {len(load.refused)} refused as it stopped, {sum('in time' in x for x in load.refused)} late, ended in {service.seconds:.2f} s")
     print("crash: passed")
 
 

@@ -1,6 +1,8 @@
 // Requests that our program never sends.
 #include <gmock/gmock.h>
 
+#include <QFile>
+#include <future>
 #include <thread>
 
 #include "running_service.h"
@@ -95,32 +97,101 @@ TEST_F(HostileRequests, OneAddressMayAskOnlySoOften) {
     EXPECT_THAT(refused.head, HasSubstr("Retry-After: "));
 }
 
-// The last entry is the proxy's; the client can forge those before it.
-TEST_F(HostileRequests, BehindAProxyTheAddressIsTheOneItNames) {
-    const RunningService running(database.location(), 1, true);
-    const auto status = [&](const std::string& addresses) {
-        return ask(running.port(), "GET", "/healthz", "", "X-Forwarded-For: " + addresses + "\r\n").status;
+TEST_F(HostileRequests, BehindATrustedProxyTheAddressIsTheOneItNames) {
+    const auto statuses = [&](const char* proxy, const std::vector<std::string>& headers) {
+        const RunningService running(database.location(), 1, {.proxies = {*Address::from(proxy)}});
+        std::vector<int> found;
+        for (const std::string& header : headers)
+            found.push_back(ask(running.port(), "GET", "/healthz", "", header).status);
+        return found;
     };
-    EXPECT_EQ(status("192.0.2.1"), 200);
-    EXPECT_EQ(status("192.0.2.1, 192.0.2.2"), 200);
-    EXPECT_EQ(status("192.0.2.3, 192.0.2.1"), 429);
-    EXPECT_EQ(ask(running.port(), "GET", "/healthz").status, 200);
+    const std::string line = "X-Forwarded-For: ";
+    const std::string forged = line + std::string(5'000, 'x') + "\r\n";
+    EXPECT_THAT(statuses("127.0.0.1", {line + "192.0.2.1\r\n", line + "192.0.2.1, 192.0.2.2\r\n",
+                                       line + "192.0.2.4\r\nx-forwarded-for: 192.0.2.3,127.0.0.1\r\n",
+                                       line + "192.0.2.3\r\n" + line + "192.0.2.1\r\n", forged, ""}),
+                testing::ElementsAre(200, 200, 200, 429, 200, 429));
+    EXPECT_THAT(statuses("192.0.2.9", {line + "192.0.2.1\r\n", line + "192.0.2.2\r\n"}),
+                testing::ElementsAre(200, 429));
+}
+
+TEST(Address, IsWhatTheTextNames) {
+    const struct {
+        const char* text;
+        const char* address;
+        const char* network;
+    } rows[]{
+        {"192.0.2.1", "192.0.2.1", "192.0.2.1"},
+        {"192.0.2.1:4711", "192.0.2.1", "192.0.2.1"},
+        {"::ffff:192.0.2.1", "192.0.2.1", "192.0.2.1"},
+        {"[::FFFF:c000:201]:80", "192.0.2.1", "192.0.2.1"},
+        {"2001:DB8:0::1:2", "2001:db8::1:2", "2001:db8::"},
+        {"[2001:db8::1]", "2001:db8::1", "2001:db8::"},
+    };
+    for (const auto& row : rows) {
+        ASSERT_TRUE(Address::from(row.text)) << row.text;
+        EXPECT_EQ(Address::from(row.text)->text(), row.address);
+        EXPECT_EQ(Address::from(row.text)->network().text(), row.network);
+    }
+    for (const char* const bad :
+         {"", "unknown", "192.0.2", "192.0.2.1 ", "192.0.2.1:x", "[::1", "[::1]x", "fe80::1%eth0"})
+        EXPECT_FALSE(Address::from(bad)) << bad;
+}
+
+// Several requests on one connection; the last one closes it.
+TEST_F(HostileRequests, OnlyUnclearRequestsCostTheConnection) {
+    const RunningService running(database.location());
+    const auto answers = [&](const std::string& bytes) {
+        const Client client(running.port());
+        client.send(bytes);
+        const std::string all = client.receive();
+        std::string statuses;
+        for (std::size_t at = 0; (at = all.find("HTTP/1.", at)) != std::string::npos; ++at)
+            statuses += all.substr(at + 9, 4);
+        return statuses;
+    };
+    const std::string get = "GET /corvane/ HTTP/1.1\r\nHost: x\r\n";
+    const std::string last = "GET /healthz HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n";
+    EXPECT_EQ(
+        answers(get +
+                "\r\nGET /x HTTP/1.1\r\nHost: x\r\n\r\nPUT /mw.php HTTP/1.1\r\nHost: x\r\nContent-Length: 2\r\n\r\n{}" +
+                last),
+        "200 404 405 200 ");
+    for (const std::string& unclear :
+         {get + "Content-Length: 0\r\nContent-Length: 5\r\n\r\n",
+          get + "Content-Length: 5\r\nTransfer-Encoding: chunked\r\n\r\n", get + "Content-Length : 0\r\n\r\n",
+          get + "Host: y\r\n\r\n", std::string("GET /corvane/ HTTP/1.1\r\n\r\n")})
+        EXPECT_EQ(answers(unclear + last), "400 ") << unclear;
+}
+
+TEST_F(HostileRequests, TheServiceListensWhereItIsTold) {
+    const struct {
+        const char* address;
+        std::vector<int> families;
+    } rows[]{{"::", {AF_INET, AF_INET6}}, {"localhost", {AF_INET}}, {"::1", {AF_INET6}}, {"0.0.0.0", {AF_INET}}};
+    const bool hasIpv6 = QFile::exists("/proc/net/if_inet6");
+    for (const auto& row : rows) {
+        if (row.families.back() == AF_INET6 && !hasIpv6) continue;
+        const RunningService running(database.location(), 0, {.address = row.address});
+        for (const int family : row.families) EXPECT_TRUE(Client(running.port(), family).connected()) << row.address;
+    }
+    EXPECT_THROW(RunningService(database.location(), 0, {.address = "no such name"}), std::runtime_error);
 }
 
 TEST(RateLimit, FillsUpAgainOverAMinuteForEachHousehold) {
     RateLimit limit(2);
     RateLimit::Time now{};
-    EXPECT_TRUE(limit.allows("192.0.2.1", now));
-    EXPECT_TRUE(limit.allows("192.0.2.1", now));
-    EXPECT_FALSE(limit.allows("192.0.2.1", now + 29s));
-    EXPECT_TRUE(limit.allows("192.0.2.1", now + 31s));
-    EXPECT_FALSE(limit.allows("192.0.2.1", now + 32s));
-    EXPECT_TRUE(limit.allows("2001:db8::1", now));
-    EXPECT_TRUE(limit.allows("2001:db8::ffff:2", now));
-    EXPECT_FALSE(limit.allows("2001:db8::3", now));
-    EXPECT_TRUE(limit.allows("2001:db8:0:1::3", now));
+    EXPECT_TRUE(limit.allows(*Address::from("192.0.2.1"), now));
+    EXPECT_TRUE(limit.allows(*Address::from("192.0.2.1"), now));
+    EXPECT_FALSE(limit.allows(*Address::from("192.0.2.1"), now + 29s));
+    EXPECT_TRUE(limit.allows(*Address::from("192.0.2.1"), now + 31s));
+    EXPECT_FALSE(limit.allows(*Address::from("192.0.2.1"), now + 32s));
+    EXPECT_TRUE(limit.allows(*Address::from("2001:db8::1"), now));
+    EXPECT_TRUE(limit.allows(*Address::from("2001:db8::ffff:2"), now));
+    EXPECT_FALSE(limit.allows(*Address::from("2001:db8::3"), now));
+    EXPECT_TRUE(limit.allows(*Address::from("2001:db8:0:1::3"), now));
     now += 10min;  // a long pause saves up no more than a minute's stock
-    for (const bool allowed : {true, true, false}) EXPECT_EQ(limit.allows("192.0.2.1", now), allowed);
+    for (const bool allowed : {true, true, false}) EXPECT_EQ(limit.allows(*Address::from("192.0.2.1"), now), allowed);
 }
 
 // The others are served while many hold their connections and send nothing, or half a request.
@@ -151,6 +222,32 @@ TEST_F(HostileRequests, SlowClientsDelayNoOthersAndAreCutOff) {
     watched.closed(connection);
     for (const int end : ends) close(end);
     watched.closeLate(start + 99s);
+}
+
+// Keeps its replies, as a database does that blocks.
+struct SilentSite : WebSite {
+    std::optional<Answer> answerAtOnce(const WebRequest&) override { return {}; }
+    void answer(const WebRequest&, Reply reply) override { asked.set_value(std::move(reply)); }
+    std::string_view lateText(const WebRequest&) const override { return "late"; }
+
+    std::promise<Reply> asked;
+};
+
+TEST(WebServer, StopsWhileARequestWaitsAndAnswersItLate) {
+    const LogFile lines;
+    Log log(lines.file);
+    SilentSite site;
+    auto server = std::make_unique<WebServer>(WebServer::Options{.patience = 300ms}, site, log);
+    const Client waiting(server->port());
+    const Client keptAlive(server->port());
+    waiting.send("GET /a HTTP/1.1\r\nHost: x\r\n\r\n");
+    const Reply reply = site.asked.get_future().get();
+    auto stopping = std::async([&] { server.reset(); });
+    const std::string answer = waiting.receive();
+    EXPECT_THAT(answer, testing::StartsWith("HTTP/1.1 503 "));
+    EXPECT_THAT(answer, testing::AllOf(HasSubstr("Connection: close\r\n"), testing::EndsWith("late\n")));
+    stopping.get();
+    reply(textAnswer(200, "too late"));
 }
 
 }  // namespace

@@ -3,11 +3,13 @@
 
 #include <arpa/inet.h>
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <QTemporaryDir>
 #include <cstdlib>
+#include <fstream>
 #include <sstream>
 
 #include "directory_service.h"
@@ -19,16 +21,15 @@ namespace corvane::directory {
 class TestDatabase {
 public:
     explicit TestDatabase(const std::string& kind) {
-        location_ = folder_.filePath("a folder/directory.sqlite").toStdString();
+        text_ = folder_.filePath("a folder/directory.sqlite").toStdString();
         if (kind != "PostgreSQL") return;
-        server_ = serverForTests();
-        Database(server_).run(("CREATE SCHEMA " + schema_).c_str());
-        location_ =
-            server_ + (server_.find('?') == std::string::npos ? '?' : '&') + "options=-csearch_path%3D" + schema_;
+        const std::string server = serverForTests();
+        server_ = DatabaseLocation::from(server);
+        Database(*server_).run(("CREATE SCHEMA " + schema_).c_str());
+        text_ = server + (server.find('?') == std::string::npos ? '?' : '&') + "options=-csearch_path%3D" + schema_;
     }
     ~TestDatabase() {
-        if (server_.empty()) return;
-        Database(server_).run(("DROP SCHEMA " + schema_ + " CASCADE").c_str());
+        if (server_) Database(*server_).run(("DROP SCHEMA " + schema_ + " CASCADE").c_str());
     }
     TestDatabase(const TestDatabase&) = delete;
     TestDatabase& operator=(const TestDatabase&) = delete;
@@ -37,26 +38,35 @@ public:
         const char* const server = std::getenv("CORVANE_TEST_POSTGRESQL");
         return server ? server : "";
     }
-    const std::string& location() const { return location_; }
+    DatabaseLocation location() const { return DatabaseLocation::from(text_); }
+    // With more settings for the server: "-cdefault_transaction_read_only%3Don".
+    DatabaseLocation locationWith(const std::string& settings) const {
+        return DatabaseLocation::from(text_ + "%20" + settings);
+    }
 
 private:
     const QTemporaryDir folder_;
     const std::string schema_ = "corvane_test_" + std::to_string(getpid());
-    std::string server_;
-    std::string location_;
+    std::optional<DatabaseLocation> server_;
+    std::string text_;
 };
 
 // A connection to a port of this machine.
 class Client {
 public:
-    explicit Client(int port) {
+    explicit Client(int port, int family = AF_INET) : socket_(socket(family, SOCK_STREAM, 0)) {
         const timeval patience{30, 0};
         setsockopt(socket_, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_port = htons(static_cast<uint16_t>(port));
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        connected_ = connect(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+        sockaddr_in6 address{.sin6_family = AF_INET6,
+                             .sin6_port = htons(static_cast<uint16_t>(port)),
+                             .sin6_flowinfo = 0,
+                             .sin6_addr = IN6ADDR_LOOPBACK_INIT,
+                             .sin6_scope_id = 0};
+        sockaddr_in four{
+            .sin_family = AF_INET, .sin_port = address.sin6_port, .sin_addr = {htonl(INADDR_LOOPBACK)}, .sin_zero = {}};
+        connected_ = family == AF_INET
+                         ? connect(socket_, reinterpret_cast<const sockaddr*>(&four), sizeof four) == 0
+                         : connect(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
     }
     ~Client() { close(socket_); }
     Client(const Client&) = delete;
@@ -74,7 +84,7 @@ public:
     }
 
 private:
-    const int socket_ = socket(AF_INET, SOCK_STREAM, 0);
+    const int socket_;
     bool connected_ = false;
 };
 
@@ -99,10 +109,20 @@ inline std::string checkIn(const std::string& key, const std::string& net, int a
     return nlohmann::json{{"key", key}, {"net_id", net}, {"action", action}}.dump();
 }
 
+// A file in memory.
+struct LogFile {
+    ~LogFile() { close(file); }
+    std::string text() const {
+        std::ifstream stream("/proc/self/fd/" + std::to_string(file));
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+    const int file = memfd_create("log", 0);
+};
+
 struct RunningService {
-    explicit RunningService(const std::string& database, int requestsAMinute = 0, bool behindProxy = false) {
-        DirectoryService::Options options{database, CORVANE_SOURCE "/docs", requestsAMinute, {}};
-        options.server.behindProxy = behindProxy;
+    explicit RunningService(const DatabaseLocation& database, int requestsAMinute = 0,
+                            const WebServer::Options& server = {}) {
+        const DirectoryService::Options options{database, CORVANE_SOURCE "/docs", requestsAMinute, server};
         service.emplace(
             options, [this] { return now.load(); }, log);
     }
@@ -119,11 +139,12 @@ struct RunningService {
     // Stops it and returns its log.
     std::string logged() {
         service.reset();
-        return lines.str();
+        log.close();
+        return lines.text();
     }
 
-    std::ostringstream lines;
-    Log log{lines};
+    LogFile lines;
+    Log log{lines.file};
     std::optional<DirectoryService> service;
 };
 

@@ -15,6 +15,7 @@
 #include "qt/window/accessible_roles.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/control_views.h"
+#include "qt/window/directory_server_dialog.h"
 #include "qt/window/focus_steps.h"
 #include "qt/window/header_bar.h"
 #include "qt/window/memory_import_preview.h"
@@ -112,6 +113,14 @@ void MainWindow::makeMenus() {
     addPreference(*preferences, display.menuItemPreferencesSounds);
     addPreference(*preferences, display.menuItemPreferencesIPO);
     addPreference(*preferences, display.menuItemPreferencesBandMap);
+    preferences->addSeparator();
+    auto* server =
+        preferences->addAction("&Directory server\u2026", this, [this] { askForDirectoryServer(*this, controller_); });
+    server->setObjectName("chooseDirectoryServer");
+    server->setEnabled(!controller_.hosts.directoryIsGiven);
+    server->setToolTip(server->isEnabled()
+                           ? "The server of the nets, the check-ins, the medium-wave stations and the help."
+                           : "Set by the variable CORVANE_DIRECTORY or CORVANE_SERVICES.");
     preferences->addSeparator();
     auto* themes = new QActionGroup(this);
     for (const char* name : {"dark", "light"}) {

@@ -46,5 +46,18 @@ TEST(VoiceAndSounds, OneServerMayStandForAllServices) {
     EXPECT_EQ(ServiceHosts::from("").helpPage(), ServiceHosts{}.helpPage());
 }
 
+TEST(VoiceAndSounds, AClubsServerHasTheDirectoryAndTheHelpOnly) {
+    const ServiceHosts hosts = ServiceHosts::from("", "https://club.example/");
+    EXPECT_EQ(hosts.directory, "https://club.example");
+    EXPECT_EQ(hosts.helpPage(), "https://club.example/corvane/");
+    EXPECT_EQ(hosts.pota, ServiceHosts{}.pota);
+    EXPECT_EQ(ServiceHosts::from("http://127.0.0.1:9000", "https://club.example").map, "http://127.0.0.1:9000");
+    ServiceHosts kept = hosts;
+    for (const char* const wrong : {"club.example", "https://", "ftp://club.example", "https://club example"}) {
+        EXPECT_FALSE(kept.setDirectory(wrong)) << wrong;
+        EXPECT_EQ(kept.directory, hosts.directory) << wrong;
+    }
+}
+
 }  // namespace
 }  // namespace corvane

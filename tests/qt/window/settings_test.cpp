@@ -1,7 +1,9 @@
 // The transceiver's setup menu and the kept settings in the real window, on a real serial line.
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QComboBox>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -91,6 +93,28 @@ TEST(SettingsTest, SettingsSurviveARestart) {
     EXPECT_TRUE(again.display.menuItemPreferencesIPO.checked());
     EXPECT_FALSE(again.display.menuItemPreferencesVoice.checked());
     EXPECT_EQ(again.userDefaults.text("call"), "N2ABC");
+}
+
+TEST(SettingsTest, AClubsServerIsChosenAndKept) {
+    Station station;
+    SerialPortDemoController first{station.platform, {}};
+    MainWindow window{first};
+    const auto answer = [&](const char* text) {
+        auto* dialog = window.findChild<QInputDialog*>("directoryServer");
+        dialog->setTextValue(text);
+        dialog->accept();
+        runEventLoop(std::chrono::milliseconds(1));
+    };
+    window.findChild<QAction*>("chooseDirectoryServer")->trigger();
+    answer("club.example");
+    EXPECT_TRUE(window.findChild<QInputDialog*>("directoryServer")->labelText().startsWith("club.example is no"));
+    answer(" http://127.0.0.1:1/ ");
+    EXPECT_EQ(window.findChild<QInputDialog*>("directoryServer"), nullptr);
+    const SerialPortDemoController again{station.platform, {}};
+    EXPECT_EQ(again.hosts.helpPage(), "http://127.0.0.1:1/corvane/");
+    SerialPortDemoController given{station.platform, ServiceHosts::from("", "http://127.0.0.1:2")};
+    EXPECT_EQ(given.hosts.directory, "http://127.0.0.1:2");
+    EXPECT_FALSE(MainWindow(given).findChild<QAction*>("chooseDirectoryServer")->isEnabled());
 }
 
 TEST(SettingsTest, AFileThatCannotBeReadIsToldInTheWindow) {
