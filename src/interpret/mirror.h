@@ -75,9 +75,8 @@ public:
     void takeNoiseBlankerSwitch(std::string_view response);    // "NB01", likewise
     void takeSwitch(std::string_view response);                // "BC01", "CO000001", "BP00001", "BI1"
     void setMuted(bool muted) { state_.vqMuted = muted ? 1 : 0; }
-    // Remembers the text of memory 5 of this mode group: typed texts are sent through that memory, which then gets its
-    // own text back.
-    // Unless that has not been reported.
+    // Remembers the text of memory 5 of this mode group, if it has been reported: typed texts are sent through that
+    // memory, which then gets its own text back.
     void rememberScratchMemory(const ModeGroup& group);
 
 private:

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "display/table_columns.h"
+#include "share/clock_seconds.h"
 #include "share/rigctl_server.h"
 #include "wire/wire_text.h"
 
@@ -39,12 +40,7 @@ TableCell RigctlServer::cell(int row, int column) const {
     }
 }
 
-std::string RigctlServer::time() const {
-    const auto now = std::chrono::floor<std::chrono::seconds>(tasks_.now());
-    const std::chrono::hh_mm_ss clock(now - std::chrono::floor<std::chrono::days>(now));
-    return fmt::format("{:02}:{:02}:{:02} UTC", clock.hours().count(), clock.minutes().count(),
-                       clock.seconds().count());
-}
+std::string RigctlServer::time() const { return clockSeconds(tasks_.now()); }
 
 void RigctlServer::note(const std::string& text) { display_.shareNoticeField.setStringValue(text); }
 

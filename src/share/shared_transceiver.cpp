@@ -48,6 +48,7 @@ void SharedTransceiver::doubtReporting() {
 
 // The switch is not answered, and what changed while it was off was not reported.
 void SharedTransceiver::noteSent(std::string_view command) {
+    if (command == "AI1;") values_.doubtReports();
     if (command == "AI0;" || command == "AI1;") doubtReporting();
 }
 

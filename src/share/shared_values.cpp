@@ -17,6 +17,11 @@ void SharedValues::set(Item item, int value) {
     slot.settled.reset();
 }
 
+void SharedValues::doubtReports() {
+    for (std::size_t i = 0; i < slots_.size(); ++i)
+        if (i != index(Item::vfo)) slots_[i].reported.reset();
+}
+
 void SharedValues::sent(Item item, ShareTime now) { slots_[index(item)].settled = now + settling; }
 
 std::optional<int> SharedValues::value(Item item, ShareTime now) const {

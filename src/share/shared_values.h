@@ -25,6 +25,8 @@ public:
     void sent(Item item, ShareTime now);
     void forget(Item item) { slots_[index(item)] = {}; }
     void forgetAll() { slots_ = {}; }
+    // What was reported may have changed unheard; what has been set stays, and so does the side in use.
+    void doubtReports();
 
     // Whether the transceiver reports changes by itself.
     void setReporting(bool reporting) { reporting_ = reporting; }

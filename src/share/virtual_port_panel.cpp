@@ -1,6 +1,7 @@
 // What the panel "Other programs" shows of the virtual port.
 #include <fmt/core.h>
 
+#include "share/clock_seconds.h"
 #include "share/virtual_port.h"
 
 namespace corvane {
@@ -10,12 +11,7 @@ void VirtualPort::copyPath() {
     note(around_.terminal.path() + " is on the clipboard.");
 }
 
-std::string VirtualPort::time() const {
-    const auto now = std::chrono::floor<std::chrono::seconds>(tasks_.now());
-    const std::chrono::hh_mm_ss clock(now - std::chrono::floor<std::chrono::days>(now));
-    return fmt::format("{:02}:{:02}:{:02} UTC", clock.hours().count(), clock.minutes().count(),
-                       clock.seconds().count());
-}
+std::string VirtualPort::time() const { return clockSeconds(tasks_.now()); }
 
 void VirtualPort::note(const std::string& text) { display_.virtualPortNoticeField.setStringValue(text); }
 

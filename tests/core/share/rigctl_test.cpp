@@ -354,14 +354,17 @@ TEST_F(RigctlTest, NothingIsAskedWhileNoProgramAsks) {
     bench.receive("PS0;");
     bench.takeWrites();
     bench.receive("PS1;");
+    EXPECT_EQ(ask("f\n"), "14250000\n");
+    bench.takeWrites();
     bench.controller.sendCommand("AI0;");
+    bench.transceiver.tune(14'251'000);
     bench.controller.sendCommand("AI1;");
     EXPECT_THAT(bench.takeWrites(), ElementsAre("AI0;", "AI1;"));
-    EXPECT_EQ(ask("f\n"), "14250000\n");
+    EXPECT_EQ(ask("f\n"), "14251000\n") << "tuned while nothing was reported";
     EXPECT_THAT(bench.takeWrites(), testing::IsSupersetOf({"AI;", "FA;"}));
     bench.advance(2s);
     bench.takeWrites();
-    EXPECT_EQ(ask("f\n"), "14250000\n");
+    EXPECT_EQ(ask("f\n"), "14251000\n");
     EXPECT_THAT(bench.takeWrites(), IsEmpty());
 }
 
