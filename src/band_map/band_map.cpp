@@ -6,6 +6,7 @@
 
 #include "band_map/map_texts.h"
 #include "band_map/tuning_steps.h"
+#include "interpret/shown_frequency.h"
 #include "wire/cat_command.h"
 #include "wire/wire_text.h"
 
@@ -40,28 +41,21 @@ const std::shared_ptr<const MapEntries>& BandMap::entries() {
     long long versions = std::chrono::floor<std::chrono::minutes>(tasks_.now()).time_since_epoch().count();
     // Versions and minutes only grow: their sum stands still only when all of them do.
     for (const MapKind& kind : mapKinds) versions += (display_.*kind.table).version();
+    versions += display_.watchListTable.version();
     if (std::exchange(madeFrom_, versions) == versions) return entries_;
-    entries_ = std::make_shared<const MapEntries>(
-        mapEntries(from_.lists.state(), from_.memories.vqMemArray(), from_.autoMemories.state(), tasks_.now(), keep_));
+    const auto keep = [this](const MapEntry& entry) {
+        return from_.filter.passes(chipOf(entry.kind), entry.hertz, entry.mode);
+    };
+    entries_ = std::make_shared<const MapEntries>(mapEntries(from_.lists.state(), from_.memories.vqMemArray(),
+                                                             from_.autoMemories.state(), from_.watching.list(),
+                                                             tasks_.now(), keep));
     return entries_;
 }
 
-void BandMap::setFilter(EntryFilter keep) {
-    keep_ = std::move(keep);
-    madeFrom_ = -1;
-}
-
-std::optional<long long> BandMap::needle(char side) const {
-    const bool a = side == 'A';
-    const TextField& channel = a ? display_.channelFrequencyAField : display_.channelFrequencyBField;
-    const Button& vfo = a ? display_.vqFreqAButton : display_.vqFreqBButton;
-    const std::string& shown = channel.stringValue().empty() ? vfo.title() : channel.stringValue();
-    const auto hertz = decimal(without(shown, "."));
-    return hertz ? std::optional<long long>(*hertz) : std::nullopt;
-}
+std::optional<long long> BandMap::needle(char side) const { return shownHertz(display_, side); }
 
 std::optional<std::size_t> BandMap::activeBand() const {
-    const auto hertz = needle(isActive('A') ? 'A' : 'B');
+    const auto hertz = activeHertz(display_);
     return hertz ? mapBandOf(*hertz) : std::nullopt;
 }
 

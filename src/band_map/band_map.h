@@ -6,6 +6,8 @@
 #include <optional>
 #include <string_view>
 
+#include "activity/spot_filter.h"
+#include "activity/watching.h"
 #include "band_map/class_segments.h"
 #include "band_map/map_entries.h"
 #include "controls/front_panel.h"
@@ -22,6 +24,8 @@ public:
         const Lists& lists;
         const MemoryChannels& memories;
         const AutoMemories& autoMemories;
+        const SpotFilter& filter;  // what of it the operator wants to see
+        const Watching& watching;
     };
 
     BandMap(Display& display, Link& link, const Mirror& mirror, FrontPanel& frontPanel, const Sources& sources,
@@ -29,9 +33,6 @@ public:
 
     // What there is to draw. Others are made when a list or a memory has changed, and every minute.
     const std::shared_ptr<const MapEntries>& entries();
-    // The one place that decides what of the lists is on the map; at first everything is. The views look again when a
-    // control that they follow changes.
-    void setFilter(EntryFilter keep);
 
     // What a side receives in hertz, as the header shows it; nothing before the first report. 'A' or 'B'.
     std::optional<long long> needle(char side) const;
@@ -62,7 +63,6 @@ private:
     Voice& voice_;
     SettingsStore& settings_;
     Tasks tasks_;
-    EntryFilter keep_ = [](const MapEntry&) { return true; };
     std::shared_ptr<const MapEntries> entries_ = std::make_shared<const MapEntries>();
     long long madeFrom_ = -1;  // the versions of the lists, and the minute
     std::size_t ownClass_ = classNotSet;

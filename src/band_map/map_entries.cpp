@@ -8,8 +8,7 @@
 #include <utility>
 
 #include "band_map/net_time.h"
-#include "feeds/hertz.h"
-#include "feeds/tune_command.h"
+#include "feeds/row_facts.h"
 #include "memories/memory_commands.h"
 #include "wire/decimal_number.h"
 #include "wire/operating_modes.h"
@@ -23,14 +22,6 @@ namespace {
 using Instant = std::chrono::system_clock::time_point;
 
 constexpr std::size_t longestName = 100;  // characters of a note
-
-constexpr float kilohertz = 1'000.0F;
-constexpr float megahertz = 1'000'000.0F;
-
-std::string field(const FeedRow& row, std::size_t position) {
-    if (position >= row.fields.size()) return {};
-    return std::string(trimmed(row[position]));
-}
 
 // What is there of these texts, with ", " between.
 std::string joined(std::initializer_list<std::string> texts) {
@@ -50,63 +41,54 @@ std::optional<long long> ageOf(const std::string& minutes) {
     return age ? std::optional<long long>(*age) : std::nullopt;
 }
 
-std::optional<MapEntry> potaEntry(const FeedRow& spot) {
-    const auto tuned = hertz(spot[1], kilohertz);
-    if (!tuned) return std::nullopt;
-    return MapEntry{.kind = EntryKind::pota,
-                    .hertz = *tuned,
-                    .name = field(spot, 0),
-                    .detail = field(spot, 9),
-                    .more = joined({field(spot, 4), field(spot, 8), field(spot, 3)}),
-                    .mode = spotMode(field(spot, 2), *tuned),
-                    .minutes = ageOf(field(spot, 5))};
+// What all entries of lists have in common.
+MapEntry entryOf(EntryKind kind, const RowFacts& facts) {
+    return {.kind = kind, .hertz = facts.hertz, .name = facts.name, .detail = facts.reference, .mode = facts.mode};
 }
 
-std::optional<MapEntry> sotaEntry(const FeedRow& spot) {
-    const auto tuned = hertz(spot[2], megahertz);
-    if (!tuned) return std::nullopt;
-    return MapEntry{.kind = EntryKind::sota,
-                    .hertz = *tuned,
-                    .name = field(spot, 0),
-                    .detail = field(spot, 5),
-                    .more = joined({field(spot, 6), field(spot, 7), field(spot, 8), field(spot, 4)}),
-                    .mode = spotMode(field(spot, 3), *tuned),
-                    .minutes = ageOf(field(spot, 9))};
+MapEntry spotEntry(EntryKind kind, const RowFacts& facts) {
+    MapEntry entry = entryOf(kind, facts);
+    entry.mode = spotMode(facts.mode, facts.hertz);
+    return entry;
 }
 
-std::optional<MapEntry> netLoggerEntry(const FeedRow& net) {
-    const long long tuned = hertzForNetLogger(net[1]);
-    if (tuned == 0) return std::nullopt;
-    const std::string subscribers = field(net, 3);
-    return MapEntry{.kind = EntryKind::netLogger,
-                    .hertz = tuned,
-                    .name = field(net, 0),
-                    .detail = subscribers.empty() ? "" : subscribers + " subscribers",
-                    .mode = std::string(tuned <= SideBands::lowestUpper ? "LSB" : "USB")};
+MapEntry potaEntry(const RowFacts& facts, const FeedRow& spot) {
+    MapEntry entry = spotEntry(EntryKind::pota, facts);
+    entry.more = joined({fieldOf(spot, 4), fieldOf(spot, 8), facts.comment});
+    entry.minutes = ageOf(fieldOf(spot, 5));
+    return entry;
 }
 
-std::optional<MapEntry> netEntry(const FeedRow& net, Instant now) {
-    const auto tuned = hertz(net[1], megahertz);
+MapEntry sotaEntry(const RowFacts& facts, const FeedRow& spot) {
+    MapEntry entry = spotEntry(EntryKind::sota, facts);
+    entry.more = joined({fieldOf(spot, 6), fieldOf(spot, 7), fieldOf(spot, 8), facts.comment});
+    entry.minutes = ageOf(fieldOf(spot, 9));
+    entry.closed = saysQrt(facts.comment);
+    return entry;
+}
+
+MapEntry netLoggerEntry(const RowFacts& facts, const FeedRow& net) {
+    MapEntry entry = entryOf(EntryKind::netLogger, facts);
+    const std::string subscribers = fieldOf(net, 3);
+    entry.detail = subscribers.empty() ? "" : subscribers + " subscribers";
+    return entry;
+}
+
+std::optional<MapEntry> netEntry(const RowFacts& facts, const FeedRow& net, Instant now) {
     const auto minutes = minutesToNet(net[2], now);
-    if (!tuned || !minutes) return std::nullopt;
-    return MapEntry{.kind = EntryKind::net,
-                    .hertz = *tuned,
-                    .name = field(net, 0),
-                    .detail = *minutes > 0 ? "in " + std::to_string(*minutes) + " minutes" : std::string("on now"),
-                    .more = field(net, 2) + " UTC",
-                    .mode = field(net, 3)};
+    if (!minutes) return std::nullopt;
+    MapEntry entry = entryOf(EntryKind::net, facts);
+    entry.detail = *minutes > 0 ? "in " + std::to_string(*minutes) + " minutes" : std::string("on now");
+    entry.more = fieldOf(net, 2) + " UTC";
+    return entry;
 }
 
-std::optional<MapEntry> stationEntry(const FeedRow& station) {
-    const auto tuned = hertz(station[1], kilohertz);
-    if (!tuned) return std::nullopt;
-    const std::string power = field(station, 3);
-    return MapEntry{.kind = EntryKind::mediumWave,
-                    .hertz = *tuned,
-                    .name = field(station, 0),
-                    .detail = field(station, 2),
-                    .more = power.empty() ? "" : power + " kW",
-                    .mode = "AM"};
+MapEntry stationEntry(const RowFacts& facts, const FeedRow& station) {
+    MapEntry entry = entryOf(EntryKind::mediumWave, facts);
+    const std::string power = fieldOf(station, 3);
+    entry.detail = fieldOf(station, 2);
+    entry.more = power.empty() ? "" : power + " kW";
+    return entry;
 }
 
 std::optional<MapEntry> memoryEntry(std::size_t row, const MemoryChannel& channel) {
@@ -143,11 +125,10 @@ public:
         else
             ++made_.outside;
     }
-    // The rows with as many fields as their Tune key needs.
     template <typename Make>
-    void addList(const FeedList& list, std::size_t fields, Make make) {
+    void addList(Feed feed, const FeedList& list, Make make) {
         for (std::size_t row = 0; row < list.size(); ++row)
-            if (list[row].fields.size() >= fields) add(make(list[row]), row);
+            if (const auto facts = rowFacts(feed, list[row])) add(make(*facts, list[row]), row);
     }
 
 private:
@@ -160,14 +141,23 @@ long long rank(const MapEntry& entry) { return entry.minutes.value_or(mapKind(en
 }  // namespace
 
 MapEntries mapEntries(const FeedState& lists, const MemoryTable& memories, const AutoMemoryState& autoMemories,
-                      Instant now, const EntryFilter& keep) {
+                      const WatchList& watched, Instant now, const EntryFilter& keep) {
     MapEntries made;
     Sorter sorter(made, keep);
-    sorter.addList(lists.vqPotaArray, 5, potaEntry);
-    sorter.addList(lists.vqSotaArray, 7, sotaEntry);
-    sorter.addList(lists.vqNetLoggerArray, 2, netLoggerEntry);
-    sorter.addList(lists.vqNetsArray, 4, [now](const FeedRow& net) { return netEntry(net, now); });
-    sorter.addList(lists.vqMWArray, 2, stationEntry);
+    const auto spots = [&](auto make, Feed feed) {
+        return [make, &watched, since = lists.minutesSince(feed, now)](const RowFacts& facts, const FeedRow& row) {
+            MapEntry entry = make(facts, row);
+            if (entry.minutes) *entry.minutes += since;
+            entry.watched = watched.watches(facts.name, facts.reference);
+            return entry;
+        };
+    };
+    sorter.addList(Feed::pota, lists.vqPotaArray, spots(potaEntry, Feed::pota));
+    sorter.addList(Feed::sota, lists.vqSotaArray, spots(sotaEntry, Feed::sota));
+    sorter.addList(Feed::netLogger, lists.vqNetLoggerArray, netLoggerEntry);
+    sorter.addList(Feed::nets, lists.vqNetsArray,
+                   [now](const RowFacts& facts, const FeedRow& net) { return netEntry(facts, net, now); });
+    sorter.addList(Feed::mediumWave, lists.vqMWArray, stationEntry);
     for (std::size_t row = 0; row < memories.size(); ++row) sorter.add(memoryEntry(row, memories[row]), row);
     for (std::size_t row = 0; row < autoMemories.vqAutoMemoryArray.size(); ++row)
         sorter.add(autoMemoryEntry(autoMemories, row), row);
@@ -178,7 +168,10 @@ MapEntries mapEntries(const FeedState& lists, const MemoryTable& memories, const
     return made;
 }
 
-bool comesFirst(const MapEntry& a, const MapEntry& b) { return a.watched != b.watched ? a.watched : rank(a) < rank(b); }
+bool comesFirst(const MapEntry& a, const MapEntry& b) {
+    if (a.closed != b.closed) return b.closed;
+    return a.watched != b.watched ? a.watched : rank(a) < rank(b);
+}
 
 std::vector<const MapEntry*> newestOf(const BandEntries& entries, std::size_t most) {
     std::vector<const MapEntry*> newest;

@@ -6,6 +6,7 @@
 #include <functional>
 #include <vector>
 
+#include "activity/watch_list.h"
 #include "band_map/map_bands.h"
 #include "band_map/map_entry.h"
 #include "feeds/feed_state.h"
@@ -26,9 +27,9 @@ using EntryFilter = std::function<bool(const MapEntry& entry)>;
 
 // Every row that has a frequency, nets only while they are on or about to be. `keep` is asked about each.
 MapEntries mapEntries(const FeedState& lists, const MemoryTable& memories, const AutoMemoryState& autoMemories,
-                      std::chrono::system_clock::time_point now, const EntryFilter& keep);
+                      const WatchList& watched, std::chrono::system_clock::time_point now, const EntryFilter& keep);
 
-// The watched first, then the newest; entries without an age have their kind's place.
+// The watched first, then the newest, at last those that have closed; entries without an age have their kind's place.
 bool comesFirst(const MapEntry& a, const MapEntry& b);
 
 // The first `most` entries in this order.

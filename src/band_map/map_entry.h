@@ -11,6 +11,11 @@
 namespace corvane {
 
 enum class EntryKind { pota, sota, netLogger, net, mediumWave, memory, autoMemory };
+// The chip that shows or hides the entries of a kind.
+constexpr Chip chipOf(EntryKind kind) {
+    return static_cast<Chip>(static_cast<int>(Chip::pota) + static_cast<int>(kind));
+}
+static_assert(chipOf(EntryKind::autoMemory) == Chip::autoMemory && chipOf(EntryKind::net) == Chip::net);
 
 // How an entry is drawn: the kinds differ in shape, not only in colour.
 enum class MarkShape { disc, triangle, square, diamond, cross, pennant, ring };
@@ -59,6 +64,7 @@ struct MapEntry {
     std::string mode = {};                  // "USB", or as the list has it
     std::optional<long long> minutes = {};  // the age of a spot, as its table shows it
     bool watched = false;                   // such an entry gets its label first
+    bool closed = false;                    // says that it is off the air; it comes last
 
     bool operator==(const MapEntry&) const = default;
 };

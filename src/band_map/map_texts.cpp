@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "controls/operator_classes.h"
+#include "feeds/row_facts.h"
 #include "wire/utf8.h"
 
 namespace corvane {
@@ -37,22 +38,17 @@ std::string ageText(const MapEntry& entry) {
 
 }  // namespace
 
-std::string frequencyText(long long hertz) {
-    if (hertz < endOfMediumWave) return fmt::format("{} kHz", static_cast<double>(hertz) / 1e3);
-    std::string digits = fmt::format("{}.{:06}", hertz / 1'000'000, hertz % 1'000'000);
-    while (digits.ends_with('0') && digits.size() - digits.find('.') > 4) digits.pop_back();
-    return digits + " MHz";
-}
-
 std::string labelText(const MapEntry& entry) {
     const std::string_view name = entry.name;
     const std::string_view cut = utf8Prefix(name, longestLabel);
-    return cut.size() == name.size() ? entry.name : std::string(cut).append("\u2026");
+    const std::string label = cut.size() == name.size() ? entry.name : std::string(cut).append("\u2026");
+    return entry.watched ? "\u2605 " + label : label;
 }
 
 std::string entryText(const MapEntry& entry) {
     std::string line = fmt::format("{} {}", mapKind(entry.kind).name, entry.name);
     append(line, entry.watched ? "watched" : "");
+    append(line, entry.closed ? "QRT" : "");
     append(line, entry.detail);
     append(line, frequencyText(entry.hertz));
     append(line, entry.mode);

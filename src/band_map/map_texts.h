@@ -7,10 +7,7 @@
 
 namespace corvane {
 
-// "14.285 MHz"; on medium wave "640 kHz".
-std::string frequencyText(long long hertz);
-
-// What stands beside a mark: the name, cut to a few characters.
+// What stands beside a mark: the name, cut to a few characters; before a watched one a star.
 std::string labelText(const MapEntry& entry);
 
 // "POTA K1ABC, US-1234, 14.285 MHz, USB, 4 minutes ago, General".

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "band_map/map_texts.h"
+#include "feeds/row_facts.h"
 
 namespace corvane {
 

@@ -28,6 +28,11 @@ void SerialPortDemoController::bindControls() {
     display.autoMemoryNowButton.action = [this](Button& sender) { autoMemoryNow(sender); };
     display.ownClassPopUpButton.action = [this](PopUpButton& sender) { bandMap.chooseClass(sender); };
     display.readOutBandButton.action = [this](Button& sender) { bandMap.readOutBand(sender); };
+    for (const FilterChip& row : filterChips)
+        display.chip(row.chip).action = [this, chip = row.chip](MenuItem&) { spotFilter.press(chip); };
+    display.refreshEveryPopUpButton.action = [this](PopUpButton& sender) { standingRefresh.chooseInterval(sender); };
+    display.watchField.action = [this](TextField& sender) { watch(sender); };
+    display.watchAddButton.action = [this](Button&) { watch(display.watchField); };
     for (const PreferenceSwitch& row : preferenceSwitches)
         (display.*row.item).action = [this](MenuItem& sender) { goMainMenu(sender); };
 }
@@ -101,7 +106,8 @@ void SerialPortDemoController::bindEntries() {
 }
 
 void SerialPortDemoController::bindTables() {
-    for (TableView* table : {&display.memoriesTable, &display.autoMemTable, &display.shareTable})
+    for (TableView* table : {&display.memoriesTable, &display.autoMemTable, &display.shareTable, &display.watchTable,
+                             &display.watchListTable})
         table->setDataSource(*this);
     for (const ListFeed& row : listFeeds) (display.*row.table).setDataSource(*this);
     const auto bind = [this](const auto& cellViews) {

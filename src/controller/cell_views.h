@@ -37,6 +37,10 @@ inline constexpr std::array buttonCellViews{
                      &SerialPortDemoController::goAutoMemsTune},
     CellView<Button>{"AutoMemsClearCellView", &Display::autoMemTable, "clear", &Display::autoMemsTableClearButton,
                      &SerialPortDemoController::goAutoMemsClear},
+    CellView<Button>{"WatchCellView", &Display::watchTable, "tune", &Display::watchTableTuneButton,
+                     &SerialPortDemoController::goWatchTune},
+    CellView<Button>{"WatchListCellView", &Display::watchListTable, "remove", &Display::watchListTableRemoveButton,
+                     &SerialPortDemoController::goWatchRemove},
     CellView<Button>{"ShareCellView", &Display::shareTable, "disconnect", &Display::shareTableDisconnectButton,
                      &SerialPortDemoController::goShareDisconnect},
 };

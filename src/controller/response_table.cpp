@@ -120,6 +120,7 @@ void SerialPortDemoController::serialPortDidReceiveData(ORSSerialPort&, std::str
     mirror.takeSignal(bytes);
     interpretResponses(bytes);
     link.noteAnswer();
+    spotFilter.followBand();
 }
 
 void SerialPortDemoController::interpretResponses(std::string_view text) {

@@ -41,14 +41,18 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
                {platform.scheduler, platform.alerts, platform.dataFolder, platform.files}),
       autoMemories(display, link, mirror, voice, platform.settings, platform.scheduler),
       lists(display, link, mirror, voice, {platform.http, platform.scheduler, platform.settings, platform.log, hosts}),
+      spotFilter(display, platform.settings),
+      listOrder(display, lists, spotFilter),
+      standingRefresh(display, lists, platform.settings, platform.scheduler),
+      watching(display, lists, voice, platform.notificationCenter, platform.settings, platform.scheduler),
       checkIns(lists, voice, platform.http, platform.settings, platform.scheduler, hosts),
       conditions(display, platform.http, platform.scheduler, hosts),
       sharedTransceiver(link, platform.scheduler),
       rigctlServer(display, preferences, sharedTransceiver, {platform.loopback, platform.settings, platform.scheduler}),
       virtualPort(display, preferences, link, sharedTransceiver,
                   {platform.terminal, platform.clipboard, platform.scheduler}),
-      bandMap(display, link, mirror, frontPanel, {lists, memories, autoMemories}, voice, platform.settings,
-              platform.scheduler) {
+      bandMap(display, link, mirror, frontPanel, {lists, memories, autoMemories, spotFilter, watching}, voice,
+              platform.settings, platform.scheduler) {
     wire();
     bindControls();
     bindPopUps();
@@ -93,6 +97,13 @@ void SerialPortDemoController::wire() {
     link.onMemoryReadDue = [this] { memories.startMemoryRead(); };
     mirror.onFrequency = [this](std::string_view megahertz) { showOperatorClass(megahertz); };
     mirror.tagOfChannel = [this](int row) { return memories.tagOf(row); };
+    lists.onFetched = [this](Feed list, bool arrived) {
+        standingRefresh.noteFetched(list, arrived);
+        if (arrived) watching.look(list);
+    };
+    lists.onAges = [this] { watching.showRows(); };
+    spotFilter.onChange = [this] { listOrder.showAgain(); };
+    standingRefresh.isWatched = [this](Feed list) { return watching.watches(list); };
     rigctlServer.permissions.sendText = [this](std::string_view text) { return keyer.transmit(std::string(text)); };
     rigctlServer.permissions.switchOn = [this] { display.key(powerOnTag).performClick(); };
     virtualPort.lineTaken = [this] { return memories.read().repliesAreComing() || setupMenu.reads(); };
@@ -101,6 +112,17 @@ void SerialPortDemoController::wire() {
 void SerialPortDemoController::goMainMenu(MenuItem& sender) {
     preferences.goMainMenu(sender);
     applySharing();
+    standingRefresh.lookAgain();  // the band map may have come in sight
+}
+
+void SerialPortDemoController::watch(TextField& sender) {
+    watching.add(sender);
+    standingRefresh.lookAgain();
+}
+
+void SerialPortDemoController::goWatchRemove(Button& sender) {
+    watching.remove(sender);
+    standingRefresh.lookAgain();
 }
 
 void SerialPortDemoController::applySharing() {
@@ -126,6 +148,9 @@ void SerialPortDemoController::restoreSettings() {
     preferences.restore();
     applySharing();
     bandMap.restore();
+    spotFilter.restore();
+    watching.restore();
+    standingRefresh.restore();
     autoMemories.restoreSquelch();
     vqPortChecked = 1;
     display.vqMemAButton.setTitle("  M-01");
@@ -153,6 +178,7 @@ void SerialPortDemoController::serialPortsWereConnected(const SerialPorts& ports
 int SerialPortDemoController::numberOfRows(const TableView& table) const {
     if (&table == &display.memoriesTable) return memoryChannels;
     if (&table == &display.shareTable) return rigctlServer.rows();
+    if (isWatchTable(table)) return watching.numberOfRows(table);
     if (&table == &display.autoMemTable) return static_cast<int>(autoMemories.state().vqAutoMemoryArray.size());
     return lists.numberOfRows(table);
 }
@@ -161,6 +187,7 @@ TableCell SerialPortDemoController::viewFor(const TableView& table, int row, int
     if (&table == &display.memoriesTable)
         return memoriesTableCell(memories.vqMemArray(), display.memsTableModePopUpButton.titles(), row, column);
     if (&table == &display.shareTable) return rigctlServer.cell(row, column);
+    if (isWatchTable(table)) return watching.viewFor(table, row, column);
     if (&table == &display.autoMemTable) return autoMemTableCell(autoMemories.state(), row, column);
     return lists.viewFor(table, row, column);
 }
@@ -170,7 +197,16 @@ std::optional<int> SerialPortDemoController::acceptDrop(TableView& table, std::s
 }
 
 bool SerialPortDemoController::mouseDownInHeader(TableView& table, int column) {
-    return &table == &display.memoriesTable && memories.mouseDownInHeader(column);
+    if (&table == &display.memoriesTable) return memories.mouseDownInHeader(column);
+    return listOrder.mouseDownInHeader(table, column);
+}
+
+std::vector<int> SerialPortDemoController::rowOrder(const TableView& table) const {
+    return feedOf(display, table) ? listOrder.rowOrder(table) : TableViewDataSource::rowOrder(table);
+}
+
+bool SerialPortDemoController::isWatchTable(const TableView& table) const {
+    return &table == &display.watchTable || &table == &display.watchListTable;
 }
 
 }  // namespace corvane

@@ -10,7 +10,12 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "activity/list_order.h"
+#include "activity/spot_filter.h"
+#include "activity/standing_refresh.h"
+#include "activity/watching.h"
 #include "app/preferences.h"
 #include "app/service_hosts.h"
 #include "app/voice.h"
@@ -142,6 +147,8 @@ public:
     void goNetsUnconfirm(Button& sender) { checkIns.goNetsUnconfirm(sender); }
 
     // --- share: other programs
+    void goWatchTune(Button& sender) { watching.goWatchTune(sender); }
+    void goWatchRemove(Button& sender);
     void goShareDisconnect(Button& sender) { rigctlServer.disconnect(sender); }
 
     // --- tables: their data source
@@ -150,6 +157,7 @@ public:
     void openLink(std::string_view address) override { platform_.browser.open(address); }
     std::optional<int> acceptDrop(TableView& table, std::string_view plainText, int row) override;
     bool mouseDownInHeader(TableView& table, int column) override;
+    std::vector<int> rowOrder(const TableView& table) const override;
 
 private:
     void wire();  // connects the callbacks of the rooms
@@ -159,6 +167,8 @@ private:
     void bindTables();
     void showSettingsProblem();
     void applySharing();  // the switches of other programs
+    void watch(TextField& sender);
+    bool isWatchTable(const TableView& table) const;
 
     Platform platform_;
 
@@ -184,6 +194,10 @@ public:
     MemoryChannels memories;
     AutoMemories autoMemories;
     Lists lists;
+    SpotFilter spotFilter;
+    ListOrder listOrder;
+    StandingRefresh standingRefresh;
+    Watching watching;
     CheckIns checkIns;
     Conditions conditions;
     SharedTransceiver sharedTransceiver;

@@ -40,6 +40,10 @@ constexpr Outlet sotaTableOutlet{"sotaTable", 0, "", "SOTA spots", "Summits on t
 constexpr Outlet netLoggerTableOutlet{"netLoggerTable", 0, "", "Active nets", "SSB nets on NetLogger, busiest first."};
 constexpr Outlet netsTableOutlet{"netsTable", 0, "", "Nets directory", "Nets, with their times and your check-ins."};
 constexpr Outlet mwTableOutlet{"mwTable", 0, "", "Medium-wave stations", "Broadcast stations on medium wave."};
+constexpr Outlet watchTableOutlet{"watchTable", 0, "", "Watched stations on the air",
+                                  "The stations on the air that you watch for, newest first."};
+constexpr Outlet watchListTableOutlet{"watchListTable", 0, "", "Watched calls and references",
+                                      "What you watch for. A * at the end stands for anything."};
 constexpr Outlet memoryReadProgressOutlet{"memoryReadProgress", 0, "", "Reading memory channels",
                                           "How much of the memory channels has been read."};
 
@@ -57,10 +61,17 @@ std::deque<Button> makeKeys() {
     return keys;
 }
 
+std::deque<MenuItem> makeChips() {
+    std::deque<MenuItem> chips;
+    for (const FilterChip& chip : filterChips) chips.emplace_back(chip.outlet);
+    return chips;
+}
+
 }  // namespace
 
 Display::Display()
     : keys(makeKeys()),
+      chips(makeChips()),
       shareTable(shareTableOutlet, shareTableColumns),
       cwMemoryButtons(cwMemories.begin(), cwMemories.end()),
       rttyMemoryButtons(rttyMemories.begin(), rttyMemories.end()),
@@ -72,10 +83,13 @@ Display::Display()
       sotaTable(sotaTableOutlet, sotaTableColumns),
       netLoggerTable(netLoggerTableOutlet, netLoggerTableColumns),
       netsTable(netsTableOutlet, netsTableColumns),
-      mwTable(mwTableOutlet, mwTableColumns) {
+      mwTable(mwTableOutlet, mwTableColumns),
+      watchTable(watchTableOutlet, watchTableColumns),
+      watchListTable(watchListTableOutlet, watchListTableColumns) {
     for (PopUpButton* popUp : {&cwMemoryPopUpButton, &rttyMemoryPopUpButton, &pskMemoryPopUpButton})
         fill(*popUp, entryList(editorMemories));
     memsTableModePopUpButton.setEntries(memoryModeEntries());
+    fill(refreshEveryPopUpButton, entryList(refreshEntries));
     memoryReadProgress.setVisible(false);
     // The synchronisation does not ask for it, and a nudge from 0 would make the receiver deaf.
     rfGainSlider.setIntegerValue(rfGainSlider.maximum());

@@ -11,6 +11,7 @@
 #include "display/box.h"
 #include "display/button.h"
 #include "display/control_list.h"
+#include "display/filter_chips.h"
 #include "display/front_panel_keys.h"
 #include "display/level_indicator.h"
 #include "display/menu_controls.h"
@@ -31,7 +32,8 @@ struct Display {
     static constexpr int listsPage = 4;
     static constexpr int settingsPage = 5;
     static constexpr int bandMapPage = 7;                      // after the help page
-    static constexpr int listsPages = 6;                       // five lists and the band conditions
+    static constexpr int listsPages = 7;                       // five lists, the band conditions, what is watched
+    static constexpr int watchPage = 6;                        // of the lists page
     static constexpr int settingsPages = MenuControls::pages;  // of the settings tab, one a menu group
     static constexpr int memories = 5;                         // of each mode group
 
@@ -39,6 +41,7 @@ struct Display {
 
     // The key that had this tag at first, e.g. key(20) is m20Button; there must be one.
     Button& key(int firstTag) { return keys.at(frontPanelKeyIndex(firstTag)); }
+    MenuItem& chip(Chip chip) { return chips.at(static_cast<std::size_t>(chip)); }
     // All controls. A new member need not be named elsewhere: it enters itself.
     std::span<Control* const> controls() const { return made.controls(); }
     // While the result lives, what the controls are set to is a report of the transceiver.
@@ -49,8 +52,9 @@ struct Display {
     Announcements announcements;  // no control: it is not among the controls
 
 private:
-    ControlList made;         // before any control
-    std::deque<Button> keys;  // in the order of frontPanelKeys
+    ControlList made;            // before any control
+    std::deque<Button> keys;     // in the order of frontPanelKeys
+    std::deque<MenuItem> chips;  // in the order of filterChips
 
 public:
     // --- pages
@@ -274,6 +278,20 @@ public:
     Button netsTableUnconfirmButton{
         {"netsTableUnconfirmButton", 0, "Retract", "Retract check-in", "Take your confirmation back."}};
     Button mwTableTuneButton{{"mwTableTuneButton", 0, "Tune", "Tune to this station", "Tune to this station in AM."}};
+
+    PopUpButton refreshEveryPopUpButton{
+        {"refreshEveryPopUpButton", 0, "Refresh lists every", "Refresh lists every",
+         "Fetches again the lists that you look at, and the spots if you watch for stations."}};
+    TableView watchTable;
+    Button watchTableTuneButton{{"watchTableTuneButton", 0, "Tune", "Tune to this spot", "Tune to this spot."}};
+    TableView watchListTable;
+    Button watchListTableRemoveButton{
+        {"watchListTableRemoveButton", 0, "Remove", "Stop watching", "Take the entry off the list."}};
+    TextField watchField{{"watchField", 0, "Watch for", "Call or reference to watch for",
+                          "A call, or the reference of a park or summit, perhaps with * at its end \u2014 Return adds "
+                          "it."}};
+    Button watchAddButton{{"watchAddButton", 0, "Add", "Watch for this", "Put it on the list."}};
+    TextField watchNoticeField{{"watchNoticeField", 0, "", "Not taken", "Why the entry was not taken."}};
 
     // --- band conditions
     Box bandBox{{"bandBox", 0, "Band Conditions", "Band conditions"}};

@@ -19,6 +19,7 @@ std::vector<std::string> scopeLevelEntries();      // "-30.0", "-29.5" ... "+00.
 std::vector<std::string> powerOffEntries();        // "OFF", "0.5 h", "1 h" ... "12 h"
 std::vector<std::string> powerEntries();           // "5w" to "100w"
 
+inline constexpr std::string_view refreshEntries = "Off|1 min|2 min|5 min|10 min";  // of the lists
 inline constexpr std::string_view agcEntries = "OFF|FAST|MID|SLOW|AUTO";
 inline constexpr std::string_view attenuatorEntries = "OFF|6 dB|12 dB|18 dB";
 inline constexpr std::string_view preAmplifierEntries = "IPO|AMP 1|AMP 2";

@@ -14,7 +14,12 @@ public:
     using Control::Control;
 
     int indexOfSelectedItem() const { return selected_; }
-    void selectItem(int index) { assign(selected_, index); }
+    void selectItem(int index) {
+        if (index == selected_) return;
+        assign(selected_, index);
+        if (onSelect) onSelect();
+    }
+    std::function<void()> onSelect;  // another page has come to the front
 
     // Asks for the page's controls to be made without bringing it to the front; asking again changes nothing.
     void requestView(int index) {

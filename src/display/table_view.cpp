@@ -1,6 +1,7 @@
 #include "display/table_view.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "wire/decimal_number.h"
 
@@ -32,6 +33,12 @@ std::string told(std::string text, TableColumn::Tells tells) {
 }
 
 }  // namespace
+
+std::vector<int> TableViewDataSource::rowOrder(const TableView& table) const {
+    std::vector<int> rows(static_cast<std::size_t>(numberOfRows(table)));
+    std::iota(rows.begin(), rows.end(), 0);
+    return rows;
+}
 
 TableView::TableView(const Outlet& outlet, std::span<const TableColumn> columns)
     : Control(outlet), columns_(columns), controls_(columns.size()), prototypes_(columns.size()) {}

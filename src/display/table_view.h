@@ -22,6 +22,7 @@ struct TableColumn {
     // What the column says of its row, for one who hears it: whose row it is, or its frequency in this unit.
     enum class Tells { nothing, name, hertz, kilohertz, megahertz };
     Tells tells = Tells::nothing;
+    bool changes = false;  // while its row stays the same one, as an age does
 };
 
 struct CellPlace {
@@ -43,6 +44,8 @@ public:
     virtual int numberOfRows(const TableView& table) const = 0;
     // What a cell shows; never asked for a column of buttons. The row and the column exist.
     virtual TableCell viewFor(const TableView& table, int row, int column) const = 0;
+    // The rows that are shown, and their order; each at most once. At first all, as they stand.
+    virtual std::vector<int> rowOrder(const TableView& table) const;
     virtual void openLink(std::string_view address) = 0;
     // What was dragged is dropped on the gap above `row`; below the last row that is the number of rows. Gives where
     // the row stands now, nothing for a drop that is refused.
@@ -64,6 +67,8 @@ public:
     // Without a data source the table is empty.
     void setDataSource(TableViewDataSource& source) { source_ = &source; }
     int rows() const { return source_ ? source_->numberOfRows(*this) : 0; }
+    // Those of the rows that are shown, in their order: the chips hold some back, a header sorts.
+    std::vector<int> rowOrder() const { return source_ ? source_->rowOrder(*this) : std::vector<int>(); }
     // The contents of a cell, which must exist, and its text.
     TableCell view(int row, int column) const;
     std::string cell(int row, int column) const { return textOf(view(row, column)); }

@@ -7,8 +7,10 @@
 #include <cmath>
 #include <utility>
 
+#include "feeds/row_facts.h"
 #include "platform/web_address.h"
 #include "wire/decimal_number.h"
+#include "wire/wire_text.h"
 
 namespace corvane {
 
@@ -110,22 +112,32 @@ const CellRow* cellRow(Feed feed, std::string_view column, const FeedRow& row) {
     return cell == cells.end() || cell->position >= row.fields.size() ? nullptr : &*cell;
 }
 
-std::string shownText(const CellRow& cell, const FeedRow& row) { return cell.show(row[cell.position]); }
+std::string shownText(const CellRow& cell, const FeedRow& row, long long minutesSince) {
+    const std::string& field = row[cell.position];
+    return cell.show == minutes ? minutes(laterAge(field, minutesSince)) : cell.show(field);
+}
 
 }  // namespace
 
-std::string feedCell(Feed feed, std::string_view column, const FeedRow& row) {
-    const CellRow* cell = cellRow(feed, column, row);
-    return cell ? shownText(*cell, row) : std::string();
+std::string laterAge(const std::string& minutes, long long minutesSince) {
+    const auto age = decimal(minutes);
+    return age ? std::to_string(*age + minutesSince) : minutes;
 }
 
-TableCell feedTableCell(Feed feed, std::string_view column, const FeedRow& row, const ServiceHosts& hosts) {
+std::string feedCell(Feed feed, std::string_view column, const FeedRow& row, long long minutesSince) {
+    const CellRow* cell = cellRow(feed, column, row);
+    return cell ? shownText(*cell, row, minutesSince) : std::string();
+}
+
+TableCell feedTableCell(Feed feed, std::string_view column, const FeedRow& row, const ServiceHosts& hosts,
+                        long long minutesSince) {
     const CellRow* cell = cellRow(feed, column, row);
     if (!cell) return {};
     const std::string built = cell->link && !row[cell->position].empty() ? cell->link(row, hosts) : std::string();
     const std::string_view address = webAddress(built);
-    if (address.empty()) return TextCell{shownText(*cell, row)};
-    return LinkCell{shownText(*cell, row), std::string(address)};
+    std::string text = shownText(*cell, row, minutesSince);
+    if (address.empty()) return TextCell{std::move(text), saysQrt(feed, row)};
+    return LinkCell{std::move(text), std::string(address)};
 }
 
 }  // namespace corvane

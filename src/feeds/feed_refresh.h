@@ -44,6 +44,7 @@ public:
     // The same, but the request waits for release(). Its patience does not.
     void hold(const HttpRequest& request, const Read& read, RefreshEnd end = {});
     void release();
+    bool runs() const { return box_ != nullptr; }
 
 private:
     void finish();

@@ -15,11 +15,7 @@ namespace corvane {
 
 namespace {
 
-const ListFeed* feedOf(const Display& display, const TableView& table) {
-    const auto feed =
-        std::ranges::find_if(listFeeds, [&](const ListFeed& row) { return &(display.*row.table) == &table; });
-    return feed == listFeeds.end() ? nullptr : &*feed;
-}
+constexpr auto aMinute = std::chrono::minutes(1);
 
 // Why a body without a problem gave no rows; empty for a list that has none.
 std::string problemOfNoRows(std::string_view body) {
@@ -71,8 +67,24 @@ Lists::Lists(Display& display, Link& link, const Mirror& mirror, Voice& voice, c
 }
 
 void Lists::setRows(const ListFeed& feed, FeedList rows) {
+    const bool ages = feed.hasSpots && !rows.empty();
     state_.*feed.list = std::move(rows);
+    state_.cameAt[static_cast<std::size_t>(feed.feed)] = tasks_.now();
     (display_.*feed.table).reloadData();
+    if (!ages || std::exchange(agesCount_, true)) return;
+    tasks_.after(aMinute, [this] { countAges(); });
+}
+
+void Lists::countAges() {
+    agesCount_ = false;
+    for (const ListFeed& feed : listFeeds) {
+        if (!feed.hasSpots || (state_.*feed.list).empty()) continue;
+        (display_.*feed.table).reloadData();
+        agesCount_ = true;
+    }
+    if (!agesCount_) return;
+    onAges();
+    tasks_.after(aMinute, [this] { countAges(); });
 }
 
 void Lists::fetchAll() {
@@ -93,23 +105,57 @@ void Lists::hold(Feed list, RefreshEnd end) {
     refreshOf(list).hold(question.request, question.read, std::move(end));
 }
 
-// Empties the list, and says what to ask for its new rows and how to read the answer.
+void Lists::refresh(Feed list) {
+    FeedRefresh& refresh = refreshOf(list);
+    if (refresh.runs()) return;
+    const Question asked = question(listFeed(list), Failure::leavesRows);
+    refresh.start(asked.request, asked.read);
+}
+
 Lists::Question Lists::emptied(const ListFeed& row) {
     setRows(row, {});
-    (display_.*row.status).setStringValue("Refreshing\u2026");
+    if (row.hasSpots) onAges();
+    setStatus(row, "Refreshing\u2026");
+    return question(row, Failure::empties);
+}
+
+// What to ask for the rows of a list, and how to read the answer.
+Lists::Question Lists::question(const ListFeed& row, Failure failure) {
     HttpRequest request;
     request.url = std::string(around_.hosts.*row.host).append(row.path);
     if (row.feed == Feed::nets) request.key = keptOperatorKey(around_.settings);
     request.ignoreCaches = row.ignoreCaches;
-    const auto read = [this, &row, now = tasks_.now()](const HttpResponse& response) -> HttpClient::Rest {
-        return [this, &row, answer = listAnswer(row, response, now)]() mutable {
+    const auto read = [this, &row, failure, now = tasks_.now()](const HttpResponse& response) -> HttpClient::Rest {
+        return [this, &row, failure, answer = listAnswer(row, response, now)]() mutable {
             if (!answer.unreadable.empty()) around_.log.line(std::string(row.path) + ": " + answer.unreadable);
-            const std::string line = answer.problem.empty() ? countText(answer, row.noun) : answer.problem;
-            setRows(row, std::move(answer.rows));
-            (display_.*row.status).setStringValue(clockTime(tasks_.now()) + ": " + line);
+            const bool arrived = answer.problem.empty();
+            std::string line =
+                clockTime(tasks_.now()) + ": " + (arrived ? countText(answer, row.noun) : answer.problem);
+            const bool keeps = !arrived && failure == Failure::leavesRows && !(state_.*row.list).empty();
+            if (keeps)
+                line += "; the list is that of " + clockTime(state_.cameAt[static_cast<std::size_t>(row.feed)]);
+            else
+                setRows(row, std::move(answer.rows));
+            setStatus(row, std::move(line));
+            onFetched(row.feed, arrived);
         };
     };
     return {request, read};
+}
+
+void Lists::setStatus(const ListFeed& feed, std::string line) {
+    status_[static_cast<std::size_t>(feed.feed)] = std::move(line);
+    showStatus(feed);
+}
+
+void Lists::showDue(const ListFeed& list, std::optional<std::chrono::system_clock::time_point> due) {
+    next_[static_cast<std::size_t>(list.feed)] = due ? " \u2014 next at " + clockTime(*due) : "";
+    showStatus(list);
+}
+
+void Lists::showStatus(const ListFeed& feed) {
+    const auto index = static_cast<std::size_t>(feed.feed);
+    (display_.*feed.status).setStringValue(status_[index] + next_[index]);
 }
 
 int Lists::numberOfRows(const TableView& table) const {
@@ -121,7 +167,8 @@ TableCell Lists::viewFor(const TableView& table, int row, int column) const {
     const ListFeed* feed = feedOf(display_, table);
     if (!feed) return {};
     const FeedRow& listed = (state_.*feed->list)[static_cast<std::size_t>(row)];
-    return feedTableCell(feed->feed, table.column(column).identifier, listed, around_.hosts);
+    return feedTableCell(feed->feed, table.column(column).identifier, listed, around_.hosts,
+                         state_.minutesSince(feed->feed, tasks_.now()));
 }
 
 }  // namespace corvane

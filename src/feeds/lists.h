@@ -4,7 +4,11 @@
 //   tuning     the Tune key of a row                       feeds/tune_actions.cpp
 #pragma once
 
+#include <array>
+#include <chrono>
 #include <deque>
+#include <functional>
+#include <optional>
 #include <string>
 
 #include "app/service_hosts.h"
@@ -43,6 +47,14 @@ public:
     void hold(Feed list, RefreshEnd end);
     void release(Feed list) { refreshOf(list).release(); }
     void fetchAll();  // in the order of listFeeds
+    // Fetches it again, but leaves the rows in sight until others come; nothing while it is being fetched.
+    void refresh(Feed list);
+    // What is called after each fetch, with the rows shown; `arrived` is false if the service gave none.
+    std::function<void(Feed list, bool arrived)> onFetched = [](Feed, bool) {};
+    // What is called when the ages of spots have grown, or a list of them has been emptied.
+    std::function<void()> onAges = [] {};
+    // When the list is fetched next by itself; nothing: never.
+    void showDue(const ListFeed& list, std::optional<std::chrono::system_clock::time_point> due);
 
     int numberOfRows(const TableView& table) const;  // 0 for a table of another room
     TableCell viewFor(const TableView& table, int row, int column) const;
@@ -59,7 +71,12 @@ private:
         HttpRequest request;
         FeedRefresh::Read read;
     };
+    enum class Failure { empties, leavesRows };
     Question emptied(const ListFeed& feed);
+    Question question(const ListFeed& feed, Failure failure);
+    void setStatus(const ListFeed& feed, std::string line);
+    void showStatus(const ListFeed& feed);
+    void countAges();
     FeedRefresh& refreshOf(Feed list);
     void tuneTo(std::string command, const std::string& name);
 
@@ -71,6 +88,10 @@ private:
     Tasks tasks_;
     FeedState state_;
     std::deque<FeedRefresh> refreshes_;  // in the order of listFeeds
+    // Beside each list, by Feed: the line, and what is said there about the next fetch.
+    std::array<std::string, listFeeds.size()> status_;
+    std::array<std::string, listFeeds.size()> next_;
+    bool agesCount_ = false;
 };
 
 }  // namespace corvane

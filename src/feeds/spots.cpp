@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "feeds/json_records.h"
+#include "feeds/row_facts.h"
 #include "feeds/spot_time.h"
 #include "wire/decimal_number.h"
-#include "wire/letter_case.h"
 #include "wire/wire_text.h"
 
 namespace corvane {
@@ -67,8 +67,6 @@ std::string ageText(std::string_view time, Instant now) {
     const auto spotted = spotTime(time);
     return spotted ? std::to_string(spotAgeMinutes(now, *spotted)) : std::string();
 }
-
-bool saysQrt(std::string_view comment) { return upperCase(comment).find("QRT") != std::string::npos; }
 
 // The pieces between the separators, without empty ones.
 std::vector<std::string_view> pieces(std::string_view text, char separator) {

@@ -25,7 +25,7 @@ Announcer::Announcer(Display& display, ChangeQueue& queue, QWidget* parent) : QW
     connect(&due_, &QTimer::timeout, this, &Announcer::announce);
     views_.push_back(display.announcements.addView(queue, [this] { collect(); }));
     for (TextField* field : {&display.linkStatusField, &display.linkMessageField, &display.callNoticeField,
-                             &display.textMemoryNoticeField, &display.memoryTextNoticeField})
+                             &display.textMemoryNoticeField, &display.memoryTextNoticeField, &display.watchNoticeField})
         follow(*field, queue, {});
     follow(display.sentTextMemoryField, queue, "Sent: ");
     for (Control* control :

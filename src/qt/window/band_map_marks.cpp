@@ -1,21 +1,10 @@
 #include "qt/window/band_map_marks.h"
 
-#include "qt/window/control_texts.h"
+#include <algorithm>
+
 #include "qt/window/theme.h"
 
 namespace corvane {
-
-namespace {
-
-constexpr double legendRadius = 5;
-constexpr int legendGap = 4 * gridStep;
-constexpr int legendText = 4 * gridStep;  // from the left of a mark to its word
-
-int wordWidth(const QFontMetrics& metrics, const MapKind& kind) {
-    return metrics.horizontalAdvance(toQString(kind.name));
-}
-
-}  // namespace
 
 void paintMark(QPainter& painter, MarkShape shape, const QPointF& middle, double radius, const QColor& ink) {
     const double x = middle.x(), y = middle.y(), r = radius;
@@ -52,31 +41,13 @@ QColor markColor(const MapKind& kind) {
     return Theme::currentKind() == ThemeKind::dark ? color.lighter(150) : color;
 }
 
-BandMapLegend::BandMapLegend(QWidget* parent) : QWidget(parent) {
-    setFont(typeface(TypeSize::small));
-    setAccessibleName("Shapes on the band map");
-    setToolTip("What the shapes on the band map stand for.");
-}
-
-QSize BandMapLegend::sizeHint() const {
-    const QFontMetrics metrics(font());
-    int width = 0;
-    for (const MapKind& kind : mapKinds) width += legendText + wordWidth(metrics, kind) + legendGap;
-    return {width, metrics.height() + 2 * gridStep};
-}
-
-void BandMapLegend::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QFontMetrics metrics(font());
-    double x = 0;
-    for (const MapKind& kind : mapKinds) {
-        paintMark(painter, kind.shape, {x + legendRadius + 1, height() / 2.0}, legendRadius, markColor(kind));
-        painter.setPen(Theme::current().quietText);
-        const int width = wordWidth(metrics, kind);
-        painter.drawText(QRectF(x + legendText, 0, width + 2, height()), Qt::AlignVCenter, toQString(kind.name));
-        x += legendText + width + legendGap;
-    }
+ChipButton::Mark markOfChip(Chip chip) {
+    constexpr double radius = 5;
+    const auto kind = std::ranges::find_if(mapKinds, [chip](const MapKind& each) { return chipOf(each.kind) == chip; });
+    if (kind == mapKinds.end()) return {};
+    return [kind](QPainter& painter, const QPointF& middle, bool lit, const QColor& ink) {
+        paintMark(painter, kind->shape, middle, radius, lit ? ink : markColor(*kind));
+    };
 }
 
 }  // namespace corvane

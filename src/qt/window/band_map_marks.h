@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QPainter>
-#include <QWidget>
 
 #include "band_map/map_entry.h"
+#include "qt/window/chip_row.h"
 
 namespace corvane {
 
@@ -13,17 +13,7 @@ void paintMark(QPainter& painter, MarkShape shape, const QPointF& middle, double
 
 QColor markColor(const MapKind& kind);
 
-// What each shape stands for, in one line.
-class BandMapLegend : public QWidget {
-    Q_OBJECT
-
-public:
-    explicit BandMapLegend(QWidget* parent = nullptr);
-
-    QSize sizeHint() const override;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-};
+// The shape on the chip of a kind of entries; nothing for another chip.
+ChipButton::Mark markOfChip(Chip chip);
 
 }  // namespace corvane

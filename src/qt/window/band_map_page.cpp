@@ -4,11 +4,13 @@
 
 #include "qt/window/band_map_marks.h"
 #include "qt/window/band_map_view.h"
+#include "qt/window/chip_row.h"
 #include "qt/window/control_views.h"
 #include "qt/window/key_button.h"
 #include "qt/window/pages.h"
 #include "qt/window/pop_up_view.h"
 #include "qt/window/theme.h"
+#include "qt/window/watch_page.h"
 
 namespace corvane {
 
@@ -60,14 +62,20 @@ QWidget* makeBandMapPage(BandMap& map, Display& display, ChangeQueue& queue) {
     auto* top = new QHBoxLayout;
     top->setSpacing(2 * gridStep);
     auto* ownClass = new PopUpView(display.ownClassPopUpButton, queue);
+    ownClass->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto* readOut = new KeyButton(display.readOutBandButton, queue);
     readOut->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     top->addWidget(titleLabel(display.ownClassPopUpButton, *ownClass));
     top->addWidget(ownClass);
     top->addWidget(readOut);
     top->addStretch();
-    top->addWidget(new BandMapLegend);
+    top->addLayout(refreshEveryRow(display, queue));
     rows->addLayout(top);
+    auto* chips = new QHBoxLayout;
+    chips->addLayout(
+        chipRow(display, {ChipGroup::all, ChipGroup::band, ChipGroup::mode, ChipGroup::kind}, queue, markOfChip));
+    chips->addStretch();
+    rows->addLayout(chips);
     rows->addWidget(new BandMapView(map, display, BandMapView::Extent::allBands, queue), 1);
     rows->addWidget(mapLine(display, queue, 2));
     return page;

@@ -188,17 +188,22 @@ void BandMapPicture::paintEntries(QPainter& painter, const MapRow& row, const Ba
         const MapKind& kind = mapKind(entries[entry].kind);
         const double x = gutter + row.marks[entry];
         if (!drawn.emplace(static_cast<int>(x), kind.kind).second) continue;
-        paintMark(painter, kind.shape, {x, markY}, markRadius, markColor(kind));
+        paintMark(painter, kind.shape, {x, markY}, markRadius, colorOf(entries[entry]));
     }
     for (const PlacedLabel& label : row.labels) paintLabel(painter, boxOf(row, label), entries[label.entry]);
+}
+
+// What has closed is grey.
+QColor BandMapPicture::colorOf(const MapEntry& entry) {
+    return entry.closed ? Theme::current().quietText : markColor(mapKind(entry.kind));
 }
 
 void BandMapPicture::paintLabel(QPainter& painter, const QRectF& box, const MapEntry& entry) {
     const Theme& theme = Theme::current();
     const MapKind& kind = mapKind(entry.kind);
     painter.fillRect(box, theme.panel);
-    paintMark(painter, kind.shape, {box.left() + 6, box.center().y()}, 4, markColor(kind));
-    painter.setPen(theme.text);
+    paintMark(painter, kind.shape, {box.left() + 6, box.center().y()}, 4, colorOf(entry));
+    painter.setPen(entry.closed ? theme.quietText : theme.text);
     painter.setFont(entry.watched ? strong(font()) : font());
     painter.drawText(box.adjusted(labelMark, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, toQString(labelText(entry)));
 }

@@ -44,6 +44,7 @@ private:
     void paintStrip(QPainter& painter, const MapRow& row, std::size_t ownClass);
     void paintScale(QPainter& painter, const MapRow& row, const std::vector<StripPart>& parts);
     void paintEntries(QPainter& painter, const MapRow& row, const BandEntries& entries);
+    static QColor colorOf(const MapEntry& entry);
     void paintLabel(QPainter& painter, const QRectF& box, const MapEntry& entry);
     QRectF boxOf(const MapRow& row, const PlacedLabel& label) const;
 

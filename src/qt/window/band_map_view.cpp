@@ -67,6 +67,7 @@ BandMapView::BandMapView(BandMap& map, Display& display, Extent extent, ChangeQu
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, all ? QSizePolicy::Expanding : QSizePolicy::Fixed);
     for (const MapKind& kind : mapKinds) follow(display.*kind.table, queue, &BandMapView::refresh);
+    follow(display.watchListTable, queue, &BandMapView::refresh);
     for (Control* control : std::initializer_list<Control*>{&display.vqFreqAButton, &display.vqFreqBButton,
                                                             &display.channelFrequencyAField,
                                                             &display.channelFrequencyBField, &display.activeVfoField})

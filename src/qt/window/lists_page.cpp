@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPainter>
 
+#include "qt/window/chip_row.h"
 #include "qt/window/control_texts.h"
 #include "qt/window/control_views.h"
 #include "qt/window/filter_field.h"
@@ -13,6 +14,7 @@
 #include "qt/window/tab_pages.h"
 #include "qt/window/table_widget.h"
 #include "qt/window/theme.h"
+#include "qt/window/watch_page.h"
 
 namespace corvane {
 
@@ -76,6 +78,11 @@ QWidget* makeListPage(Display& display, ChangeQueue& queue, const ListPage& list
     status->setForegroundRole(QPalette::PlaceholderText);
     top->addWidget(status, 1);
     rows->addLayout(top);
+    auto* chips = new QHBoxLayout;
+    chips->addLayout(chipRow(display, {ChipGroup::all, ChipGroup::band, ChipGroup::mode}, queue));
+    chips->addStretch();
+    chips->addLayout(refreshEveryRow(display, queue));
+    rows->addLayout(chips);
     rows->addWidget(table, 1);
     return page;
 }
@@ -172,6 +179,7 @@ QWidget* makeListsPage(Display& display, ChangeQueue& queue) {
     for (const ListPage& list : listPages)
         pages->addPage(list.title, [&display, &queue, &list] { return makeListPage(display, queue, list); });
     pages->addPage("Band conditions", [&display, &queue] { return makeConditionsPage(display, queue); });
+    pages->addPage("Watch", [&display, &queue] { return makeWatchPage(display, queue); });
     return pages;
 }
 

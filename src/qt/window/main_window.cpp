@@ -216,6 +216,7 @@ void MainWindow::comeToFront(const QString& token) {
 }
 
 bool MainWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange) controller_.standingRefresh.setInSight(!isMinimized());
     const bool handled = QMainWindow::event(event);
     if (event->type() == QEvent::Paint && !painted_) {
         painted_ = true;

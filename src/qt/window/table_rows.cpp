@@ -2,7 +2,6 @@
 
 #include <QMimeData>
 #include <algorithm>
-#include <numeric>
 
 #include "qt/window/control_texts.h"
 
@@ -44,9 +43,7 @@ QString howTo(const TableCell& cell) {
 }  // namespace
 
 TableRows::TableRows(TableView& table, QObject* parent)
-    : QAbstractTableModel(parent), table_(table), rows_(table.rows()), shown_(static_cast<std::size_t>(rows_)) {
-    std::iota(shown_.begin(), shown_.end(), 0);
-}
+    : QAbstractTableModel(parent), table_(table), rows_(table.rows()), shown_(table.rowOrder()) {}
 
 int TableRows::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(shown_.size());
@@ -123,8 +120,17 @@ std::string TableRows::rowText(int tableRow) const {
     if (tableRow < 0 || tableRow >= table_.rows())
         return text;  // the row is gone, but the table has not been reloaded yet
     for (int column = 0; column < columnCount(); ++column)
-        if (!table_.isButton(column)) text.append(table_.cell(tableRow, column)).append("\n");
+        if (!table_.isButton(column) && !table_.column(column).changes)
+            text.append(table_.cell(tableRow, column)).append("\n");
     return text;
+}
+
+// All that can be read in a row, without case.
+QString TableRows::filterText(int tableRow) const {
+    std::string text;
+    for (int column = 0; column < columnCount(); ++column)
+        if (!table_.isButton(column)) text.append(table_.cell(tableRow, column)).append("\n");
+    return QString::fromStdString(text).toCaseFolded();
 }
 
 std::optional<int> TableRows::find(const std::string& text, int near) const {
@@ -140,19 +146,24 @@ void TableRows::watch(const QModelIndex& index) {
     if (exists(index)) watched_ = Watched{tableRow(index), rowText(tableRow(index))};
 }
 
+int TableRows::watchedRow() const {
+    const auto found = watched_ ? find(watched_->text, watched_->tableRow) : std::nullopt;
+    const auto place = found ? std::ranges::find(shown_, *found) : shown_.end();
+    return place == shown_.end() ? -1 : static_cast<int>(place - shown_.begin());
+}
+
 bool TableRows::passes(int tableRow) {
     const QString& text = filterTexts_[static_cast<std::size_t>(tableRow)];
     return std::ranges::all_of(words_, [&text](const QString& word) { return text.contains(word); });
 }
 
 std::vector<int> TableRows::filteredRows() {
-    std::vector<int> rows(static_cast<std::size_t>(rows_));
-    std::iota(rows.begin(), rows.end(), 0);
+    std::vector<int> rows = table_.rowOrder();
     if (words_.isEmpty()) return rows;
     // Folding the case of every cell for each typed character would be slow.
     if (filterTexts_.empty()) {
-        filterTexts_.reserve(rows.size());
-        for (const int row : rows) filterTexts_.push_back(QString::fromStdString(rowText(row)).toCaseFolded());
+        filterTexts_.reserve(static_cast<std::size_t>(rows_));
+        for (int row = 0; row < rows_; ++row) filterTexts_.push_back(filterText(row));
     }
     std::erase_if(rows, [this](int row) { return !passes(row); });
     return rows;

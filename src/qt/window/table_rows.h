@@ -34,16 +34,18 @@ public:
     // Shows only the rows whose texts contain all words of `text`; without words, every row.
     void setFilter(const QString& text);
 
-    // Shows the present rows of the table. The current cell and an open editor follow the watched row to its new place;
-    // if the row is gone, they stay where they are.
+    // Shows the present rows of the table, in their order. The current cell and an open editor follow the watched row
+    // to its new place; if the row is gone, they stay where they are.
     void reload();
     void showHeaders();  // the direction of sorting has changed
 
-    // The texts of the row, by which it is found again.
+    // The texts of the row that stay, by which it is found again.
     std::string rowText(int tableRow) const;
     // The row of the table with these texts; of several, the one at `near` comes first.
     std::optional<int> find(const std::string& rowText, int near) const;
     void watch(const QModelIndex& index);
+    // Where the watched row is shown; -1: nowhere.
+    int watchedRow() const;
     bool watchedIsThere() const { return watched_ && find(watched_->text, watched_->tableRow).has_value(); }
 
 private:
@@ -54,6 +56,7 @@ private:
 
     std::vector<int> filteredRows();
     bool passes(int tableRow);
+    QString filterText(int tableRow) const;
     void show(std::vector<int> next, std::optional<int> watchedBefore, std::optional<int> watchedNow);
 
     TableView& table_;

@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "qt/window/cell_delegate.h"
@@ -84,17 +85,25 @@ void TableWidget::setUpHeaders() {
     horizontalHeader()->setSectionResizeMode(static_cast<int>(longest - columns.begin()), QHeaderView::Stretch);
 }
 
-// Keeps the current cell if its row still exists, also after the table was empty for a while.
+// Keeps the place: the current row, also if the table was empty for a while or the row stands elsewhere now, and what
+// is in sight.
 void TableWidget::reload() {
     if (currentIndex().isValid()) place_ = {currentIndex().row(), currentIndex().column()};
+    if (shownRows() > 0) scrolled_ = verticalScrollBar()->value();
     if (state() == EditingState && !rows_->watchedIsThere()) abandonEditing();
+    const bool wasEmpty = shownRows() == 0;
     rows_->reload();
     shownVersion_ = model_.version();
     if (!currentIndex().isValid() && place_ && shownRows() > 0) {
-        const QModelIndex cell = rows_->index(std::min(place_->first, shownRows() - 1), place_->second);
-        selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect);
+        const int found = rows_->watchedRow();
+        const int row = found >= 0 ? found : std::min(place_->first, shownRows() - 1);
+        selectionModel()->setCurrentIndex(rows_->index(row, place_->second), QItemSelectionModel::ClearAndSelect);
     }
-    if (currentIndex().isValid() || !left_.isValid()) rows_->watch(currentIndex());
+    if (wasEmpty && shownRows() > 0) {
+        updateGeometries();  // or the scroll bar has no room yet
+        verticalScrollBar()->setValue(scrolled_);
+    }
+    if (currentIndex().isValid() || (shownRows() > 0 && !left_.isValid())) rows_->watch(currentIndex());
     setDragEnabled(model_.takesDraggedText());
     setAcceptDrops(model_.takesDraggedText());
     emit rowsChanged();
@@ -121,11 +130,12 @@ void TableWidget::selectionChanged(const QItemSelection& selected, const QItemSe
     QAbstractItemView::selectionChanged(selected, deselected);
 }
 
+// The mouse presses a cell of its own: going to another one first would scroll the pressed one away from under it.
 void TableWidget::focusInEvent(QFocusEvent* event) {
-    if (!currentIndex().isValid() && left_.isValid())
-        selectionModel()->setCurrentIndex(left_, QItemSelectionModel::NoUpdate);
+    const bool goes = event->reason() != Qt::MouseFocusReason && !currentIndex().isValid();
+    if (goes && left_.isValid()) selectionModel()->setCurrentIndex(left_, QItemSelectionModel::NoUpdate);
     // A row is known by its call or name, which no table has in its first column.
-    if (!currentIndex().isValid() && shownRows() > 0)
+    if (goes && !currentIndex().isValid() && shownRows() > 0)
         selectionModel()->setCurrentIndex(rows_->index(0, model_.tellingColumn()), QItemSelectionModel::NoUpdate);
     QTableView::focusInEvent(event);
     // Qt itself tells of the table, after this event.

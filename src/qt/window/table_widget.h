@@ -75,6 +75,7 @@ private:
     CellDelegate* delegate_;
     int shownVersion_;
     std::optional<std::pair<int, int>> place_;  // row and column of the last current cell
+    int scrolled_ = 0;                          // how far, while there were rows
     QPersistentModelIndex left_;                // the current cell when the keyboard went elsewhere
     QPoint released_;                           // where the mouse button was released
     std::optional<int> gap_;                    // above this row the dragged one would be dropped

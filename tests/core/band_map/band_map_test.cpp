@@ -114,7 +114,8 @@ TEST(BandMap, SaysOfEachEntryWhatItsTableSays) {
     EXPECT_EQ(countText(bench.entries().bands[meters80]), "1 entry");
     bench.advance(31min);
     EXPECT_EQ(bandText(meters80, bench.entries().bands[meters80]), "80 meters, 0 entries") << "the net is over";
-    bench.controller.bandMap.setFilter([](const MapEntry& entry) { return entry.kind == EntryKind::sota; });
+    EXPECT_EQ(countText(bench.entries().bands[meters20]), "3 spots, 35 min") << "ages count up";
+    bench.display.chip(Chip::sota).performClick();
     EXPECT_EQ(bandText(meters20, bench.entries().bands[meters20]), "20 meters, 1 entry");
 }
 

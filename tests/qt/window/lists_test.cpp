@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTableView>
 
 #include "heartbeat.h"
@@ -68,6 +69,42 @@ TEST(ListsTest, AreFilledFilteredAndTunedTo) {
     const QPoint tune = table->visualRect(table->model()->index(0, 0)).center();
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, tune);
     EXPECT_TRUE(eventually([&] { return station.radio.transceiver.state().activeTuning().frequency == 14'210'000; }));
+}
+
+// The rows are set by hand: no server is asked.
+TEST(ListsTest, ARefreshKeepsTheRowAndWhatIsInSight) {
+    ListsStation station(1, [](QTcpSocket&, const std::string&) {});
+    station.showWindow();
+    QTableView* table = showPotaTable(station);
+    ASSERT_NE(table, nullptr);
+    const auto put = [&](int first, const std::string& age) {
+        FeedList rows;
+        for (int i = first; i < 100 && first >= 0; ++i)
+            rows.push_back(
+                {{"N" + std::to_string(i), std::to_string(14'000 + i), "SSB", "", "Park", age, "", "", "", ""}});
+        station.lists.lists.setRows(listFeed(Feed::pota), std::move(rows));
+        station.settle();
+    };
+    const auto callAt = [table](const QModelIndex& cell) { return cell.siblingAtColumn(1).data().toString(); };
+    put(0, "3");
+    table->verticalScrollBar()->setValue(40);
+    // The keyboard is elsewhere: a press must reach the row under the pointer, not scroll it away.
+    const QModelIndex pressed = table->indexAt(QPoint(150, 100));
+    EXPECT_EQ(callAt(pressed), "N43");
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, QPoint(150, 100));
+    EXPECT_EQ(callAt(table->currentIndex()), "N43");
+    EXPECT_EQ(table->verticalScrollBar()->value(), 40);
+    put(-1, "");  // emptied for the refresh
+    EXPECT_EQ(table->model()->rowCount(), 0);
+    put(2, "4");
+    EXPECT_EQ(callAt(table->currentIndex()), "N43") << "the same station, older and two rows higher";
+    EXPECT_EQ(table->verticalScrollBar()->value(), 40);
+    station.lists.display.chip(Chip::cw).performClick();
+    station.settle();
+    EXPECT_EQ(table->model()->rowCount(), 0);
+    station.lists.display.chip(Chip::all).performClick();
+    station.settle();
+    EXPECT_EQ(callAt(table->currentIndex()), "N43");
 }
 
 TEST(ListsTest, AServerThatNeverAnswersHoldsUpNothing) {
