@@ -23,7 +23,7 @@ FeedState lists(bool crowded) {
 }
 
 MapEntries entriesOf(const FeedState& state) {
-    return mapEntries(state, {}, {}, {}, [](const MapEntry&) { return true; });
+    return mapEntries(state, {}, {}, {}, {}, [](const MapEntry&) { return true; });
 }
 
 double labelWidth(const MapEntry& entry) { return 16 + 7 * static_cast<double>(entry.name.size()); }

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QSignalBlocker>
+#include <utility>
 
 #include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
@@ -70,9 +71,6 @@ PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent)
     : QComboBox(parent), model_(model), entries_(new EntryModel(model, this)) {
     describe(*this, model);
     setModel(entries_);
-    view()->setAccessibleName(labelOf(model));
-    if (auto* list = qobject_cast<QListView*>(view()))
-        list->setUniformItemSizes(true);  // so that Qt does not measure each
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(6);
     setMaxVisibleItems(18);
@@ -99,7 +97,38 @@ void PopUpView::showModel() {
                   model_.action ? labelOf(model_) : spokenWithValue(model_, model_.titleOfSelectedItem()));
 }
 
-bool PopUpView::event(QEvent* event) { return heldBack(model_, *event) || QComboBox::event(event); }
+bool PopUpView::event(QEvent* event) {
+    // Whoever asks first for the list makes it: the operator or a screen reader.
+    if (event->type() == QEvent::ChildAdded)
+        QMetaObject::invokeMethod(
+            this, [this] { setUpList(); }, Qt::QueuedConnection);
+    return heldBack(model_, *event) || QComboBox::event(event);
+}
+
+// A list costs a hundred kilobytes and most of the time that a page takes to open: it is made when it is wanted.
+void PopUpView::setUpList() {
+    if (std::exchange(listIsSetUp_, true)) return;
+    view()->setAccessibleName(labelOf(model_));
+    if (auto* list = qobject_cast<QListView*>(view()))
+        list->setUniformItemSizes(true);  // so that Qt does not measure each
+}
+
+void PopUpView::showPopup() {
+    setUpList();
+    QComboBox::showPopup();
+}
+
+void PopUpView::paintEvent(QPaintEvent* event) {
+    QComboBox::paintEvent(event);
+    if (!model_.action) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = isEnabled() && !model_.busy() ? palette().color(QPalette::PlaceholderText)
+                                                     : palette().color(QPalette::Disabled, QPalette::ButtonText);
+    painter.setPen(QPen(ink, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF tip(width() - 3.0 * gridStep, height() / 2.0 + 2);
+    painter.drawPolyline(QPolygonF({tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}));
+}
 
 void PopUpView::wheelEvent(QWheelEvent* event) { event->ignore(); }
 

@@ -15,8 +15,11 @@ class PopUpView : public QComboBox {
 public:
     PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
+    void showPopup() override;
+
 protected:
     bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;  // with a mark that says that it opens
     // The wheel scrolls the page and must not change the transceiver.
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -24,10 +27,12 @@ protected:
 
 private:
     void showModel();
+    void setUpList();
 
     PopUpButton& model_;
     EntryModel* entries_;
     int shownEntries_ = -1;
+    bool listIsSetUp_ = false;
     ViewHandle view_;
 };
 

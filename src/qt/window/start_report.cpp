@@ -26,13 +26,13 @@ double processAge() {
     return (static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9 - started) * 1000;
 }
 
+}  // namespace
+
 double residentMemory() {
     QFile file("/proc/self/statm");
     if (!file.open(QIODevice::ReadOnly)) return 0;
     return file.readAll().split(' ').value(1).toDouble() * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1024 * 1024);
 }
-
-}  // namespace
 
 void printStart() {
     std::printf("first paint %.0f ms, resident %.1f MiB\n", processAge(), residentMemory());
