@@ -26,7 +26,11 @@ void SerialPortDemoController::bindControls() {
     display.sharePortField.action = [this](TextField& sender) { rigctlServer.choosePort(sender); };
     display.virtualPortCopyButton.action = [this](Button&) { virtualPort.copyPath(); };
     display.autoMemoryNowButton.action = [this](Button& sender) { autoMemoryNow(sender); };
-    display.ownClassPopUpButton.action = [this](PopUpButton& sender) { bandMap.chooseClass(sender); };
+    display.ownClassPopUpButton.action = [this](PopUpButton& sender) {
+        bandMap.chooseClass(sender);
+        onAir.follow();
+    };
+    display.onAirTimeOutPopUpButton.action = [this](PopUpButton& sender) { onAir.chooseTimeOut(sender); };
     display.readOutBandButton.action = [this](Button& sender) { bandMap.readOutBand(sender); };
     for (const PreferenceSwitch& row : preferenceSwitches)
         (display.*row.item).action = [this](MenuItem& sender) { goMainMenu(sender); };

@@ -119,6 +119,7 @@ void SerialPortDemoController::serialPortDidReceiveData(ORSSerialPort&, std::str
     const auto reporting = display.report();
     mirror.takeSignal(bytes);
     interpretResponses(bytes);
+    onAir.follow();
     link.noteAnswer();
 }
 

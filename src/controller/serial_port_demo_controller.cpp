@@ -44,6 +44,7 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       checkIns(lists, voice, platform.http, platform.settings, platform.scheduler, hosts),
       conditions(display, platform.http, platform.scheduler, hosts),
       sharedTransceiver(link, platform.scheduler),
+      onAir(display, sharedTransceiver, voice, platform.settings, platform.notificationCenter, platform.scheduler),
       rigctlServer(display, preferences, sharedTransceiver, {platform.loopback, platform.settings, platform.scheduler}),
       virtualPort(display, preferences, link, sharedTransceiver,
                   {platform.terminal, platform.clipboard, platform.scheduler}),
@@ -81,6 +82,7 @@ void SerialPortDemoController::wire() {
     link.onClosed = [this] {
         display.keepAsLastKnown();
         sharedTransceiver.portClosed();
+        onAir.follow();
         virtualPort.portClosed();
         memories.linkClosed();
         setupMenu.endRead(": stopped, the link is closed.");
@@ -88,6 +90,7 @@ void SerialPortDemoController::wire() {
     link.onSent = [this](std::string_view command) {
         functionPopUps.noteSent(command);
         sharedTransceiver.noteSent(command);
+        onAir.follow();
         virtualPort.noteSent(command);
     };
     link.onMemoryReadDue = [this] { memories.startMemoryRead(); };
@@ -126,6 +129,7 @@ void SerialPortDemoController::restoreSettings() {
     preferences.restore();
     applySharing();
     bandMap.restore();
+    onAir.restoreTimeOut();
     autoMemories.restoreSquelch();
     vqPortChecked = 1;
     display.vqMemAButton.setTitle("  M-01");

@@ -30,6 +30,7 @@
 #include "interpret/setup_menu.h"
 #include "memories/auto_memories.h"
 #include "memories/memory_channels.h"
+#include "on_air/on_air.h"
 #include "platform/platform.h"
 #include "radio/link.h"
 #include "share/rigctl_server.h"
@@ -187,6 +188,7 @@ public:
     CheckIns checkIns;
     Conditions conditions;
     SharedTransceiver sharedTransceiver;
+    OnAir onAir;
     RigctlServer rigctlServer;
     VirtualPort virtualPort;
     BandMap bandMap;

@@ -69,6 +69,9 @@ public:
     TextField activeVfoField{{"activeVfoField", 0, "", "Active VFO", "The VFO that receives and transmits."}};
     TextField modeField{{"modeField", 0, "", "Mode", "Operating mode, as the transceiver reports it."}};
     LevelIndicator sMeter{{"sMeter", 0, "S", "S-meter", "Strength of the received signal in S units."}, 10};
+    TextField onAirField{{"onAirField", 0, "", "Transmitter", "Whether the transceiver transmits."}};
+    TextField segmentField{{"segmentField", 0, "", "Transmit frequency",
+                            "Whether the frequency to transmit on is in a segment of your operator class."}};
     Button licenseClassButton{
         {"licenseClassButton", 0, "", "Operator class", "Operator class allowed on this frequency."}};
     TextField linkStatusField{{"linkStatusField", 0, "", "Link", "Whether the transceiver is connected."}};
@@ -298,6 +301,10 @@ public:
                                      "The map shows brightly where this class may transmit."}};
     Button readOutBandButton{{"readOutBandButton", 0, "Read out", "What is on this band",
                               "The voice guide speaks what is newest on the band of the active VFO.", "Ctrl+B"}};
+
+    // --- menu bar, Preferences
+    PopUpButton onAirTimeOutPopUpButton{{"onAirTimeOutPopUpButton", 0, "Time-out when on air", "Time-out when on air",
+                                         "Tells you when the transceiver has transmitted this long without a pause."}};
 
     // --- settings page: the transceiver's setup menu
     MenuControls menu;

@@ -113,6 +113,7 @@ void MainWindow::makeMenus() {
     addPreference(*preferences, display.menuItemPreferencesSounds);
     addPreference(*preferences, display.menuItemPreferencesIPO);
     addPreference(*preferences, display.menuItemPreferencesBandMap);
+    addChoice(*preferences, display.onAirTimeOutPopUpButton);
     preferences->addSeparator();
     auto* server =
         preferences->addAction("&Directory server\u2026", this, [this] { askForDirectoryServer(*this, controller_); });
@@ -164,6 +165,31 @@ void MainWindow::addPreference(QMenu& menu, MenuItem& item) {
     });
     const auto show = [action, &item] { action->setChecked(item.checked()); };
     preferences_.push_back(item.addView(queue_, show));
+    show();
+}
+
+// A menu of its own, whose entries exclude one another.
+void MainWindow::addChoice(QMenu& menu, PopUpButton& choice) {
+    auto* entries = menu.addMenu(toQString(choice.outlet().title));
+    entries->setObjectName(QString::fromStdString(choice.objectName()));
+    entries->menuAction()->setToolTip(toolTipOf(choice));
+    auto* group = new QActionGroup(entries);
+    for (const std::string& entry : choice.entries()) {
+        const int index = static_cast<int>(group->actions().size());
+        auto* action = group->addAction(QString::fromStdString(entry));
+        action->setCheckable(true);
+        entries->addAction(action);
+        connect(action, &QAction::triggered, this, [this, index, &choice] {
+            choice.choose(index);
+            controller_.display.announcements.say(std::string(choice.outlet().label) + ", " +
+                                                  choice.titleOfSelectedItem());
+        });
+    }
+    const auto show = [group, &choice] {
+        const int index = choice.indexOfSelectedItem();
+        if (index >= 0) group->actions().at(index)->setChecked(true);
+    };
+    preferences_.push_back(choice.addView(queue_, show));
     show();
 }
 
