@@ -28,6 +28,8 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       link(display, voice,
            {platform.serialPortManager, platform.settings, platform.notificationCenter, platform.log,
             platform.scheduler, *this}),
+      lineWatch(display, link,
+                {platform.clipboard, platform.files, platform.alerts, platform.settings, platform.scheduler}),
       mirror(display, link, voice),
       setupMenu(display, link, platform.settings, platform.scheduler),
       operatorClassButton(display),

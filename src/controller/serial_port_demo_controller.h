@@ -28,6 +28,7 @@
 #include "feeds/lists.h"
 #include "interpret/mirror.h"
 #include "interpret/setup_menu.h"
+#include "line/line_watch.h"
 #include "memories/auto_memories.h"
 #include "memories/memory_channels.h"
 #include "on_air/on_air.h"
@@ -173,6 +174,7 @@ public:
     Preferences preferences;
     Voice voice;
     Link link;
+    LineWatch lineWatch;
     Mirror mirror;
     SetupMenu setupMenu;
     OperatorClassButton operatorClassButton;

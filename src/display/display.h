@@ -129,6 +129,24 @@ public:
         {"shareTableDisconnectButton", 0, "Disconnect", "Disconnect this program",
          "Ends the connection. If the program has keyed the transceiver, that ends, too."}};
 
+    // --- station page: the traffic on the line
+    TextField lineFilterField{{"lineFilterField", 0, "Filter", "Filter of the traffic",
+                               "Show only the lines that contain all these words, in bytes or meaning."}};
+    MenuItem lineMeterSwitch{{"lineMeterSwitch", 0, "Hide the meter", "Hide the meter in the traffic",
+                              "Leave out the reports of the S-meter, which come all the time."}};
+    TextField lineCountField{{"lineCountField", 0, "", "Traffic", "How many lines are shown, of the last 10,000."}};
+    Button linePauseButton{{"linePauseButton", 0, "Pause", "Pause the traffic",
+                            "Hold what is shown, or go on. The traffic itself goes on in any case."}};
+    Button lineClearButton{{"lineClearButton", 0, "Clear", "Clear the traffic", "Forget all lines of the traffic."}};
+    Button lineCopyButton{
+        {"lineCopyButton", 0, "Copy", "Copy the traffic", "Put the lines that are shown on the clipboard."}};
+    Button lineSaveButton{
+        {"lineSaveButton", 0, "Save\u2026", "Save the traffic", "Save the lines that are shown as a text file."}};
+    Button lineReportButton{
+        {"lineReportButton", 0, "Save a report\u2026", "Save a report",
+         "Save versions, port, settings and the last traffic as one text file, to attach to a question. No key and no "
+         "call sign of the settings stand in it."}};
+
     // --- radio page: bands and functions
     Button& m6Button = key(6);
     Button& m10Button = key(10);
