@@ -114,7 +114,7 @@ std::string meaning(const LinePhrase& row, std::string_view rest, LineDirection 
     const std::string_view value = rest.substr(row.index);
     if (value.empty() && direction == LineDirection::sent)
         return row.noun.empty() ? std::string(unreadable) : "asks for " + noun;
-    const bool fits = row.width == 0 ? row.form != Form::tag || !value.empty() : value.size() == row.width;
+    const bool fits = row.width == 0 ? row.form == Form::text || !value.empty() : value.size() == row.width;
     // An empty channel has no mode either.
     if (fits && direction == LineDirection::sent && row.form == Form::record && value.starts_with("000000000"))
         return "empties " + noun;

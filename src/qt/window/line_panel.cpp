@@ -29,6 +29,7 @@ public:
         setObjectName("lineTable");
         setAccessibleName("Traffic on the line");
         setToolTip("What is sent to the transceiver and received from it, newest last.");
+        setAccessibleDescription(toolTip());
         setModel(&rows_);
         setSelectionBehavior(SelectRows);
         setSelectionMode(SingleSelection);
@@ -59,6 +60,12 @@ public:
     }
 
 protected:
+    // The keyboard begins at the newest line.
+    void focusInEvent(QFocusEvent* event) override {
+        if (!currentIndex().isValid() && rows_.rowCount() > 0)
+            setCurrentIndex(rows_.index(rows_.rowCount() - 1, LineRows::meaning));
+        QTableView::focusInEvent(event);
+    }
     void showEvent(QShowEvent* event) override {
         QTableView::showEvent(event);
         look();

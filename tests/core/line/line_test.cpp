@@ -56,6 +56,8 @@ TEST(LineMeaning, SaysInWordsWhatIsKnownAndNeverGuesses) {
         {"EM15TEST;", sent, "sets PSK memory 5 to \"TEST\""},
         {"EX010101+00;", received, "menu item 010101 is \"+00\""},
         {"SV;", sent, "swaps the VFOs"},
+        {"FD;", received, "not readable"},
+        {"KM1;", received, "CW memory 1 is \"\""},
         {"BS05;", sent, "goes to 14 MHz"},
         {"F\xC3\xA4;", received, "not readable"},
         {"FA0142\n50000;", received, "not readable"},
