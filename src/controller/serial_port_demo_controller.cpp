@@ -92,7 +92,7 @@ void SerialPortDemoController::wire() {
     link.onSent = [this](std::string_view command) {
         functionPopUps.noteSent(command);
         sharedTransceiver.noteSent(command);
-        onAir.follow();
+        if (command.starts_with("AI")) onAir.follow();  // the reports may end
         virtualPort.noteSent(command);
     };
     link.onMemoryReadDue = [this] { memories.startMemoryRead(); };

@@ -26,7 +26,7 @@ public:
     OnAir(Display& display, const SharedTransceiver& transceiver, Voice& voice, SettingsStore& settings,
           NotificationCenter& notices, Scheduler& scheduler);
 
-    // To be called after each report of the transceiver, each command that is sent, and the end of the link.
+    // To be called after each report of the transceiver, what switches its reports, and the end of the link.
     void follow();
     void restoreTimeOut();
     void chooseTimeOut(PopUpButton& sender);  // holds for a transmission that has begun, too
