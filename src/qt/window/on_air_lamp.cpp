@@ -61,8 +61,8 @@ void OnAirLamp::paintEvent(QPaintEvent*) {
     const QRect lower(0, upper.height(), width(), height() - upper.height());
     if (known) painter.drawText(upper, Qt::AlignCenter, text());
     painter.setFont(font());
-    painter.drawText(lower, known ? Qt::AlignHCenter | Qt::AlignTop : Qt::AlignCenter,
-                     QString::fromStdString(segment_.stringValue()));
+    const Qt::Alignment place = Qt::AlignHCenter | (known ? Qt::AlignTop : Qt::AlignVCenter);
+    painter.drawText(lower, static_cast<int>(place), QString::fromStdString(segment_.stringValue()));
 }
 
 }  // namespace corvane
