@@ -5,6 +5,8 @@
 #include <cstdio>
 
 #include "controller/serial_port_demo_controller.h"
+#include "line/line_view.h"
+#include "radio/line_record.h"
 #include "radio/response_assembler.h"
 #include "tests/support/surroundings.h"
 
@@ -122,6 +124,27 @@ void receive(benchmark::State& state, const Traffic& traffic, Watching watching)
     state.counters["shown"] = benchmark::Counter(static_cast<double>(shown), benchmark::Counter::kAvgIterations);
 }
 
+// What the record of the traffic adds to each response, its clock not included.
+void record(benchmark::State& state) {
+    LineRecord lines;
+    const auto now = std::chrono::system_clock::now();
+    for (auto unused : state) lines.add(LineDirection::received, "IF000014250000+000000200000;", now);
+}
+
+// One look at ten thousand new lines through a filter, which puts them all into words.
+void filtered(benchmark::State& state) {
+    LineRecord lines;
+    for (std::size_t line = 0; line < LineRecord::capacity; ++line)
+        lines.add(LineDirection::received, "IF000014250000+000000200000;", {});
+    LineView view(lines);
+    for (auto unused : state) {
+        view.setFilter("usb");
+        benchmark::DoNotOptimize(view.look());
+    }
+}
+
+BENCHMARK(record);
+BENCHMARK(filtered)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(receive, spin_unwatched, spin(), Watching::nobody);
 BENCHMARK_CAPTURE(receive, spin_watched, spin(), Watching::everyControl);
 BENCHMARK_CAPTURE(receive, synchronisation, synchronisation(), Watching::nobody);

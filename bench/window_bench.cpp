@@ -1,6 +1,7 @@
 // How fast the whole program is with a transceiver on a real serial line: the window, the port, the operator's input.
 //
 //   spin     8 s of a spinning knob, about 110 reports a second: all handled, input never late, processor time
+//   traffic  the same with the traffic on the line in sight, what that costs more
 //   map      the same with the band map in sight, what that costs more; how long a thousand entries take to paint
 //   read     a whole read of 99 programmed memory channels, compared with the least time possible
 //   latency  from a frequency report entering the line to the end of the paint in which VFO A shows it
@@ -54,6 +55,7 @@ constexpr double readAim = 1.03;        // of the least time
 constexpr double inputAim = 50;         // milliseconds at most
 constexpr double medianLatencyAim = 5;  // milliseconds
 constexpr double longestLatencyAim = 15;
+constexpr double trafficAim = 10;      // per cent of a core more while the knob spins
 constexpr double mapAim = 2;           // per cent of a core more while the knob spins
 constexpr double picturePaintAim = 8;  // milliseconds
 constexpr double needlePaintAim = 0.5;
@@ -337,6 +339,19 @@ public:
     }
 
     // After spin().
+    bool traffic() {
+        const double before = share_;
+        controller_.display.mainTab.selectItem(Display::stationPage);
+        runFor(500ms);
+        const bool good = spin();
+        std::printf("traffic: %.1f %% of one core more than without it\n", share_ - before);
+        const bool cheap = aim(share_ - before <= trafficAim, "10 % of a core for the traffic at most");
+        share_ = before;
+        controller_.display.mainTab.selectItem(Display::radioPage);
+        return good && cheap;
+    }
+
+    // After spin().
     bool map() {
         const double before = share_;
         FeedList spots;
@@ -513,6 +528,7 @@ int run(int argc, char** argv) {
         good = good && bench.open();
         if (good) {
             good &= bench.spin();
+            good &= bench.traffic();
             good &= bench.map();
             good &= bench.read();
             good &= bench.latency();

@@ -27,6 +27,9 @@ void fuzz(std::string_view input) {
         INVARIANT(bench.radio.vqMuted == 0 || bench.display.muteButton.bezelColor() == Color::red);
     }
     bench.advance(std::chrono::seconds(15));
+    bench.display.lineCopyButton.performClick();
+    for (const char c : bench.around.clipboard.held) INVARIANT(c == '\n' || (c >= ' ' && c <= '~') || c < 0);
+    INVARIANT(isUtf8(bench.around.clipboard.held));
 }
 
 }  // namespace corvane

@@ -116,13 +116,13 @@ void BandMap::readOutBand(Button&) {
 
 void BandMap::chooseClass(PopUpButton& sender) {
     const std::string title = sender.titleOfSelectedItem();
-    ownClass_ = static_cast<std::size_t>(std::ranges::find(licenceClasses, title) - licenceClasses.begin());
+    ownClass_ = licenceClass(title);
     settings_.setText(classKey, title);
 }
 
 void BandMap::restore() {
     const std::string title = settings_.text(classKey).value_or("");
-    ownClass_ = static_cast<std::size_t>(std::ranges::find(licenceClasses, title) - licenceClasses.begin());
+    ownClass_ = licenceClass(title);
     display_.ownClassPopUpButton.selectItemWithTitle(ownClass_ == classNotSet ? notSet : std::string_view(title));
 }
 

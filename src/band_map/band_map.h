@@ -8,8 +8,8 @@
 
 #include "activity/spot_filter.h"
 #include "activity/watching.h"
-#include "band_map/class_segments.h"
 #include "band_map/map_entries.h"
+#include "band_map/map_segments.h"
 #include "controls/front_panel.h"
 #include "feeds/lists.h"
 #include "memories/auto_memories.h"

@@ -25,8 +25,19 @@ void SerialPortDemoController::bindControls() {
     display.importMemoriesButton.action = [this](Button& sender) { memories.importMemories(sender); };
     display.sharePortField.action = [this](TextField& sender) { rigctlServer.choosePort(sender); };
     display.virtualPortCopyButton.action = [this](Button&) { virtualPort.copyPath(); };
+    display.lineFilterField.onEdit = [this](TextField& sender) { lineWatch.filter(sender); };
+    display.lineMeterSwitch.action = [this](MenuItem& sender) { lineWatch.hideMeter(sender); };
+    display.linePauseButton.action = [this](Button& sender) { lineWatch.pause(sender); };
+    display.lineClearButton.action = [this](Button& sender) { lineWatch.clear(sender); };
+    display.lineCopyButton.action = [this](Button& sender) { lineWatch.copy(sender); };
+    display.lineSaveButton.action = [this](Button& sender) { lineWatch.save(sender); };
+    display.lineReportButton.action = [this](Button& sender) { lineWatch.saveReport(sender); };
     display.autoMemoryNowButton.action = [this](Button& sender) { autoMemoryNow(sender); };
-    display.ownClassPopUpButton.action = [this](PopUpButton& sender) { bandMap.chooseClass(sender); };
+    display.ownClassPopUpButton.action = [this](PopUpButton& sender) {
+        bandMap.chooseClass(sender);
+        onAir.follow();
+    };
+    display.onAirTimeOutPopUpButton.action = [this](PopUpButton& sender) { onAir.chooseTimeOut(sender); };
     display.readOutBandButton.action = [this](Button& sender) { bandMap.readOutBand(sender); };
     for (const FilterChip& row : filterChips)
         display.chip(row.chip).action = [this, chip = row.chip](MenuItem&) { spotFilter.press(chip); };

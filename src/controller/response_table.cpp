@@ -115,10 +115,12 @@ private:
 }  // namespace
 
 void SerialPortDemoController::serialPortDidReceiveData(ORSSerialPort&, std::string_view bytes) {
+    link.noteReceived(bytes);
     if (!isUtf8(bytes)) return;
     const auto reporting = display.report();
     mirror.takeSignal(bytes);
     interpretResponses(bytes);
+    onAir.follow();
     link.noteAnswer();
     spotFilter.followBand();
 }

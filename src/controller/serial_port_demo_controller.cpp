@@ -28,6 +28,8 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       link(display, voice,
            {platform.serialPortManager, platform.settings, platform.notificationCenter, platform.log,
             platform.scheduler, *this}),
+      lineWatch(display, link,
+                {platform.clipboard, platform.files, platform.alerts, platform.settings, platform.scheduler}),
       mirror(display, link, voice),
       setupMenu(display, link, platform.settings, platform.scheduler),
       operatorClassButton(display),
@@ -48,6 +50,7 @@ SerialPortDemoController::SerialPortDemoController(const Platform& platform, Ser
       checkIns(lists, voice, platform.http, platform.settings, platform.scheduler, hosts),
       conditions(display, platform.http, platform.scheduler, hosts),
       sharedTransceiver(link, platform.scheduler),
+      onAir(display, sharedTransceiver, voice, platform.settings, platform.notificationCenter, platform.scheduler),
       rigctlServer(display, preferences, sharedTransceiver, {platform.loopback, platform.settings, platform.scheduler}),
       virtualPort(display, preferences, link, sharedTransceiver,
                   {platform.terminal, platform.clipboard, platform.scheduler}),
@@ -85,6 +88,7 @@ void SerialPortDemoController::wire() {
     link.onClosed = [this] {
         display.keepAsLastKnown();
         sharedTransceiver.portClosed();
+        onAir.follow();
         virtualPort.portClosed();
         memories.linkClosed();
         setupMenu.endRead(": stopped, the link is closed.");
@@ -92,6 +96,7 @@ void SerialPortDemoController::wire() {
     link.onSent = [this](std::string_view command) {
         functionPopUps.noteSent(command);
         sharedTransceiver.noteSent(command);
+        if (command.starts_with("AI")) onAir.follow();  // the reports may end
         virtualPort.noteSent(command);
     };
     link.onMemoryReadDue = [this] { memories.startMemoryRead(); };
@@ -151,6 +156,7 @@ void SerialPortDemoController::restoreSettings() {
     spotFilter.restore();
     watching.restore();
     standingRefresh.restore();
+    onAir.restoreTimeOut();
     autoMemories.restoreSquelch();
     vqPortChecked = 1;
     display.vqMemAButton.setTitle("  M-01");

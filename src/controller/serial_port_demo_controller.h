@@ -33,8 +33,10 @@
 #include "feeds/lists.h"
 #include "interpret/mirror.h"
 #include "interpret/setup_menu.h"
+#include "line/line_watch.h"
 #include "memories/auto_memories.h"
 #include "memories/memory_channels.h"
+#include "on_air/on_air.h"
 #include "platform/platform.h"
 #include "radio/link.h"
 #include "share/rigctl_server.h"
@@ -182,6 +184,7 @@ public:
     Preferences preferences;
     Voice voice;
     Link link;
+    LineWatch lineWatch;
     Mirror mirror;
     SetupMenu setupMenu;
     OperatorClassButton operatorClassButton;
@@ -201,6 +204,7 @@ public:
     CheckIns checkIns;
     Conditions conditions;
     SharedTransceiver sharedTransceiver;
+    OnAir onAir;
     RigctlServer rigctlServer;
     VirtualPort virtualPort;
     BandMap bandMap;

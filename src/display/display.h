@@ -73,6 +73,9 @@ public:
     TextField activeVfoField{{"activeVfoField", 0, "", "Active VFO", "The VFO that receives and transmits."}};
     TextField modeField{{"modeField", 0, "", "Mode", "Operating mode, as the transceiver reports it."}};
     LevelIndicator sMeter{{"sMeter", 0, "S", "S-meter", "Strength of the received signal in S units."}, 10};
+    TextField onAirField{{"onAirField", 0, "", "Transmitter", "Whether the transceiver transmits."}};
+    TextField segmentField{{"segmentField", 0, "", "Transmit frequency",
+                            "Whether the frequency to transmit on is in a segment of your operator class."}};
     Button licenseClassButton{
         {"licenseClassButton", 0, "", "Operator class", "Operator class allowed on this frequency."}};
     TextField linkStatusField{{"linkStatusField", 0, "", "Link", "Whether the transceiver is connected."}};
@@ -129,6 +132,24 @@ public:
     Button shareTableDisconnectButton{
         {"shareTableDisconnectButton", 0, "Disconnect", "Disconnect this program",
          "Ends the connection. If the program has keyed the transceiver, that ends, too."}};
+
+    // --- station page: the traffic on the line
+    TextField lineFilterField{{"lineFilterField", 0, "Filter", "Filter of the traffic",
+                               "Show only the lines that contain all these words, in bytes or meaning."}};
+    MenuItem lineMeterSwitch{{"lineMeterSwitch", 0, "Hide the meter", "Hide the meter in the traffic",
+                              "Leave out the reports of the S-meter, which come all the time."}};
+    TextField lineCountField{{"lineCountField", 0, "", "Traffic", "How many lines are shown, of the last 10,000."}};
+    Button linePauseButton{{"linePauseButton", 0, "Pause", "Pause the traffic",
+                            "Hold what is shown, or go on. The traffic itself goes on in any case."}};
+    Button lineClearButton{{"lineClearButton", 0, "Clear", "Clear the traffic", "Forget all lines of the traffic."}};
+    Button lineCopyButton{
+        {"lineCopyButton", 0, "Copy", "Copy the traffic", "Put the lines that are shown on the clipboard."}};
+    Button lineSaveButton{
+        {"lineSaveButton", 0, "Save\u2026", "Save the traffic", "Save the lines that are shown as a text file."}};
+    Button lineReportButton{
+        {"lineReportButton", 0, "Save a report\u2026", "Save a report",
+         "Save versions, port, settings and the last traffic as one text file, to attach to a question. No key and no "
+         "call sign of the settings stand in it."}};
 
     // --- radio page: bands and functions
     Button& m6Button = key(6);
@@ -316,6 +337,10 @@ public:
                                      "The map shows brightly where this class may transmit."}};
     Button readOutBandButton{{"readOutBandButton", 0, "Read out", "What is on this band",
                               "The voice guide speaks what is newest on the band of the active VFO.", "Ctrl+B"}};
+
+    // --- menu bar, Preferences
+    PopUpButton onAirTimeOutPopUpButton{{"onAirTimeOutPopUpButton", 0, "Time-out when on air", "Time-out when on air",
+                                         "Tells you when the transceiver has transmitted this long without a pause."}};
 
     // --- settings page: the transceiver's setup menu
     MenuControls menu;

@@ -37,8 +37,10 @@ std::string spokenState(const Display& display) {
     const std::string& vfo = display.activeVfoField.stringValue();
     if (!vfo.empty()) append(text, "VFO " + vfo);
     append(text, tuning);
-    append(text, spokenMeter(display.sMeter.integerValue()));
+    const bool onAir = display.onAirField.stringValue() == onAirText;  // then the meter stands still
+    append(text, onAir ? "on air" : spokenMeter(display.sMeter.integerValue()));
     append(text, display.licenseClassButton.title());
+    append(text, display.segmentField.stringValue());
     if (display.linkStatusField.textColor() == Color::none) append(text, display.linkStatusField.stringValue());
     return text;
 }

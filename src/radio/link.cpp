@@ -28,15 +28,22 @@ void Link::sendCommand(std::string_view commands) {
     const std::string text(commands);  // often cmd_, which a callback may overwrite
     forEachCommand(text, [this, &port](std::string_view command) {
         if (!isUtf8(command)) return;
-        port->sendData(command);
+        hand(*port, command);
         onSent(command);
     });
 }
 
 void Link::writeString(std::string_view commands) {
     const std::shared_ptr<ORSSerialPort> port = serialPort_;
-    if (port && isUtf8(commands)) port->sendData(commands);
+    if (port && isUtf8(commands)) hand(*port, commands);
 }
+
+void Link::hand(ORSSerialPort& port, std::string_view bytes) {
+    if (port.isOpen()) record_.add(LineDirection::sent, bytes, tasks_.now());
+    port.sendData(bytes);
+}
+
+void Link::noteReceived(std::string_view bytes) { record_.add(LineDirection::received, bytes, tasks_.now()); }
 
 // An action that built nothing must not send the previous command again.
 void Link::send(std::string command) {

@@ -18,6 +18,7 @@
 #include "platform/serial_port_manager.h"
 #include "platform/settings_store.h"
 #include "platform/tasks.h"
+#include "radio/line_record.h"
 
 namespace corvane {
 
@@ -88,6 +89,8 @@ public:
     void serialPortDidStall(ORSSerialPort& port, bool stalled);
     void serialPortsWereConnected(const SerialPorts& ports);
     void serialPortsWereDisconnected(const SerialPorts& ports);
+    void noteReceived(std::string_view bytes);   // any bytes, for the record
+    LineRecord& record() { return record_; }     // what has gone over the line
     void noteAnswer();                           // the transceiver has sent something
     void fillPopUps();                           // the ports and the speeds
     void showMessage(std::string_view message);  // in the line below the frequencies
@@ -98,6 +101,7 @@ public:
     unsigned session() const { return session_; }
 
 private:
+    void hand(ORSSerialPort& port, std::string_view bytes);
     void showStatus();
     void useListedPort(std::size_t index);  // of availablePorts()
     void startSession();
@@ -117,6 +121,7 @@ private:
     std::shared_ptr<ORSSerialPort> serialPort_;   // the current port, or none
     std::shared_ptr<ORSSerialPort> waitingPort_;  // the current port, or the last one
     std::string chosenPort_;                      // the description of the one that the operator chose in this run
+    LineRecord record_;
     std::string cmd_;
     const std::string syncRadioCmd_{synchronisationString};
     unsigned session_ = 0;

@@ -86,6 +86,10 @@ SharedTransceiver::Contact SharedTransceiver::contact() {
     return off ? Contact::off : Contact::silent;
 }
 
+std::optional<int> SharedTransceiver::reported(Item item) const {
+    return open_ && !off_ && values_.reporting() ? values_.reported(item) : std::nullopt;
+}
+
 bool SharedTransceiver::ask(Item item) {
     Question& question = questions_[index(item)];
     if (question.asked) return true;

@@ -46,6 +46,9 @@ public:
     // --- reading
     Contact contact();  // asks a transceiver that was silent or off, at most once a second, whether it is back
     std::optional<int> value(Item item) const { return values_.value(item, now_); }
+    // As the transceiver itself has reported it, not as a program has set it. Nothing while it is out of reach or does
+    // not report changes: then the value may be another one by now.
+    std::optional<int> reported(Item item) const;
     // Asks for a value that is not known; false when nothing more will come.
     bool ask(Item item);
     bool reportsChanges() const { return values_.reporting(); }  // by itself: what is known is certain

@@ -19,8 +19,10 @@ QFileDialog* fileDialog(std::string_view title, std::string_view kind, FileChoos
     auto* dialog = new QFileDialog(parentWindow(), text(title));
     dialog->setNameFilters({text(kind), "All files (*)"});
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(dialog, &QFileDialog::fileSelected, dialog,
-                     [tell = std::move(chosen)](const QString& path) { tell(path.toStdString()); });
+    // Once the dialog has been closed: a message about the file would open over it, and go with it.
+    QObject::connect(
+        dialog, &QFileDialog::fileSelected, dialog,
+        [tell = std::move(chosen)](const QString& path) { tell(path.toStdString()); }, Qt::QueuedConnection);
     return dialog;
 }
 

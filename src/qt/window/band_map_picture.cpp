@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <set>
 
-#include "band_map/class_segments.h"
+#include "band_map/map_segments.h"
 #include "band_map/map_texts.h"
 #include "qt/window/band_map_marks.h"
 #include "qt/window/control_texts.h"

@@ -9,6 +9,7 @@
 #include "qt/window/control_texts.h"
 #include "qt/window/control_views.h"
 #include "qt/window/key_button.h"
+#include "qt/window/on_air_lamp.h"
 #include "qt/window/s_meter_view.h"
 #include "qt/window/theme.h"
 #include "qt/window/vfo_button.h"
@@ -103,7 +104,11 @@ QWidget* HeaderBar::makeStatusBlock(Display& display, ChangeQueue& queue) {
     auto* grid = new QGridLayout(block);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(2 * gridStep);
-    grid->addWidget(new SMeterView(display.sMeter, queue), 0, 0, 1, 3);
+    auto* meter = new QHBoxLayout;
+    meter->setSpacing(3 * gridStep);
+    meter->addWidget(new SMeterView(display.sMeter, queue), 1);
+    meter->addWidget(new OnAirLamp(display, queue));
+    grid->addLayout(meter, 0, 0, 1, 3);
     grid->addWidget(new ModeLabel(display.modeField, queue), 1, 0);
     grid->addWidget(new KeyButton(display.licenseClassButton, queue), 1, 1);
     grid->addWidget(new KeyButton(display.vqMemAButton, queue), 1, 2);

@@ -26,6 +26,18 @@ Panel* otherProgramsPanel() {
     return panel;
 }
 
+Panel* troublePanel() {
+    auto* panel = new Panel("When something goes wrong");
+    auto* text = new QLabel(
+        "<b>Traffic on the line</b> (Station page) shows what is sent and received, with its meaning. <b>Save a "
+        "report</b> there, or in the menu Help, makes one text file to attach to a question. The lamp beside the "
+        "S-meter says when you are <b>on air</b>, and beforehand when you would be <b>out of your segment</b>.");
+    text->setTextFormat(Qt::RichText);
+    text->setWordWrap(true);
+    panel->content().addWidget(text);
+    return panel;
+}
+
 }  // namespace
 
 QWidget* makeHelpPage(const Display& display) {
@@ -58,7 +70,11 @@ QWidget* makeHelpPage(const Display& display) {
     }
     panel->content().addLayout(grid);
     rows->addWidget(panel);
-    rows->addWidget(otherProgramsPanel());
+    auto* texts = new QHBoxLayout;
+    texts->setSpacing(2 * gridStep);
+    texts->addWidget(otherProgramsPanel(), 1);
+    texts->addWidget(troublePanel(), 1);
+    rows->addLayout(texts);
     rows->addStretch();
     return page;
 }

@@ -20,6 +20,7 @@
 #include "qt/window/header_bar.h"
 #include "qt/window/memory_import_preview.h"
 #include "qt/window/pages.h"
+#include "qt/window/program_facts.h"
 #include "qt/window/shortcuts.h"
 #include "qt/window/tab_pages.h"
 #include "qt/window/theme.h"
@@ -47,6 +48,7 @@ MainWindow::MainWindow(SerialPortDemoController& controller) : controller_(contr
                                            MemoryChannels::TakeChannels take) {
         MemoryImportPreview::open(std::move(import), shown, this, std::move(take));
     };
+    controller_.lineWatch.facts = programFacts;
     makePages();
     // Applied before the pages are made, the style sheet would polish every widget twice, which takes 50 ms.
     chooseTheme(QString::fromStdString(controller_.userDefaults.text(themeKey).value_or("dark")));
@@ -80,7 +82,7 @@ void MainWindow::makePages() {
     auto* pages = pages_ = new TabPages(display.mainTab, queue_);
     connect(pages, &TabPages::pageShown, this,
             [&display](const QString& title) { display.announcements.say(title.toStdString() + " page"); });
-    pages->addPage("Station", [this, &display] { return makeStationPage(display, queue_); });
+    pages->addPage("Station", [this, &display] { return makeStationPage(controller_.lineWatch, display, queue_); });
     pages->addPage("Radio", [this, &display] { return makeRadioPage(controller_.bandMap, display, queue_); });
     pages->addPage("Keyer", [this, &display] { return makeKeyerPage(display, queue_); });
     pages->addPage("Memories", [this, &display] { return makeMemoriesPage(display, queue_); });
@@ -113,6 +115,7 @@ void MainWindow::makeMenus() {
     addPreference(*preferences, display.menuItemPreferencesSounds);
     addPreference(*preferences, display.menuItemPreferencesIPO);
     addPreference(*preferences, display.menuItemPreferencesBandMap);
+    addChoice(*preferences, display.onAirTimeOutPopUpButton);
     preferences->addSeparator();
     auto* server =
         preferences->addAction("&Directory server\u2026", this, [this] { askForDirectoryServer(*this, controller_); });
@@ -142,6 +145,8 @@ void MainWindow::makeMenus() {
     Button& productPage = display.key(805);
     help->addAction(toQString(productPage.title()), this, [&productPage] { productPage.performClick(); })
         ->setObjectName(QString::fromStdString(productPage.objectName()));
+    Button& report = display.lineReportButton;
+    help->addAction("Save a &report\u2026", this, [&report] { report.performClick(); })->setToolTip(toolTipOf(report));
     help->addSeparator();
     help->addAction("&About Corvane", this, [this] {
         QMessageBox::about(
@@ -164,6 +169,31 @@ void MainWindow::addPreference(QMenu& menu, MenuItem& item) {
     });
     const auto show = [action, &item] { action->setChecked(item.checked()); };
     preferences_.push_back(item.addView(queue_, show));
+    show();
+}
+
+// A menu of its own, whose entries exclude one another.
+void MainWindow::addChoice(QMenu& menu, PopUpButton& choice) {
+    auto* entries = menu.addMenu(toQString(choice.outlet().title));
+    entries->setObjectName(QString::fromStdString(choice.objectName()));
+    entries->menuAction()->setToolTip(toolTipOf(choice));
+    auto* group = new QActionGroup(entries);
+    for (const std::string& entry : choice.entries()) {
+        const int index = static_cast<int>(group->actions().size());
+        auto* action = group->addAction(QString::fromStdString(entry));
+        action->setCheckable(true);
+        entries->addAction(action);
+        connect(action, &QAction::triggered, this, [this, index, &choice] {
+            choice.choose(index);
+            controller_.display.announcements.say(std::string(choice.outlet().label) + ", " +
+                                                  choice.titleOfSelectedItem());
+        });
+    }
+    const auto show = [group, &choice] {
+        const int index = choice.indexOfSelectedItem();
+        if (index >= 0) group->actions().at(index)->setChecked(true);
+    };
+    preferences_.push_back(choice.addView(queue_, show));
     show();
 }
 

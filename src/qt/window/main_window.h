@@ -34,6 +34,7 @@ protected:
 private:
     void makeMenus();
     void addPreference(QMenu& menu, MenuItem& item);
+    void addChoice(QMenu& menu, PopUpButton& choice);
     void makePages();
     void enterPage(int index);
     // Shortcuts that only move the keyboard work while a menu or a pop-up is open, too: they close it.

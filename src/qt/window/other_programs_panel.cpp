@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 
 #include "qt/window/control_views.h"
-#include "qt/window/entry_row.h"
 #include "qt/window/key_button.h"
 #include "qt/window/table_widget.h"
 #include "qt/window/theme.h"
@@ -35,7 +34,19 @@ QLayout* permissionsRow(Display& display, ChangeQueue& queue) {
     auto* row = wideRow();
     row->addWidget(new TickBox(display.shareTransmitSwitch, queue));
     row->addWidget(new TickBox(display.shareStoreSwitch, queue));
-    row->addWidget(new TextLabel(display.virtualPortStateField, queue), 1);
+    row->addStretch();
+    return row;
+}
+
+// As narrow as its five digits, so that the texts beside it have room.
+QLayout* portEntry(Display& display, ChangeQueue& queue) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2 * gridStep);
+    auto* port = new TextFieldView(display.sharePortField, queue);
+    port->setPlaceholderText("4532");
+    port->setFixedWidth(port->fontMetrics().horizontalAdvance("00000") + 7 * gridStep);
+    row->addWidget(titleLabel(display.sharePortField, *port));
+    row->addWidget(port);
     return row;
 }
 
@@ -46,10 +57,11 @@ Panel* makeOtherProgramsPanel(Display& display, ChangeQueue& queue) {
     auto* row = wideRow();
     row->addWidget(new TickBox(display.shareSwitch, queue));
     row->addWidget(new TextLabel(display.shareAddressField, queue), 1);
-    row->addLayout(entryRow(display.sharePortField, "4532", {}, queue));
+    row->addLayout(portEntry(display, queue));
     panel->content().addLayout(row);
     panel->content().addLayout(virtualPortRow(display, queue));
     panel->content().addLayout(permissionsRow(display, queue));
+    panel->content().addWidget(new TextLabel(display.virtualPortStateField, queue));
     panel->content().addWidget(new NoticeLabel(display.shareNoticeField, queue));
     panel->content().addWidget(new NoticeLabel(display.shareKeyedField, queue));
     panel->content().addWidget(new NoticeLabel(display.virtualPortNoticeField, queue));

@@ -8,8 +8,9 @@
 namespace corvane {
 
 class BandMap;
+class LineWatch;
 
-QWidget* makeStationPage(Display& display, ChangeQueue& queue);
+QWidget* makeStationPage(LineWatch& line, Display& display, ChangeQueue& queue);
 QWidget* makeRadioPage(BandMap& map, Display& display, ChangeQueue& queue);
 QWidget* makeKeyerPage(Display& display, ChangeQueue& queue);
 QWidget* makeMemoriesPage(Display& display, ChangeQueue& queue);

@@ -2,9 +2,11 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "qt/window/conditions_panel.h"
 #include "qt/window/control_views.h"
 #include "qt/window/entry_row.h"
 #include "qt/window/key_button.h"
+#include "qt/window/line_panel.h"
 #include "qt/window/other_programs_panel.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
@@ -76,19 +78,26 @@ Panel* callPanel(Display& display, ChangeQueue& queue) {
 
 }  // namespace
 
-QWidget* makeStationPage(Display& display, ChangeQueue& queue) {
+QWidget* makeStationPage(LineWatch& line, Display& display, ChangeQueue& queue) {
     auto* page = new QWidget;
-    auto* grid = new QGridLayout(page);
-    grid->setContentsMargins(pageMargins);
-    grid->setSpacing(4 * gridStep);
-    grid->addWidget(linkPanel(display, queue), 0, 0);
-    grid->addWidget(firstStepsPanel(), 0, 1);
-    grid->addWidget(commandPanel(display, queue), 1, 0);
-    grid->addWidget(callPanel(display, queue), 1, 1);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
-    grid->addWidget(makeOtherProgramsPanel(display, queue), 2, 0, 1, 2);
-    grid->setRowStretch(2, 1);
+    auto* rows = new QVBoxLayout(page);
+    rows->setContentsMargins(pageMargins);
+    rows->setSpacing(3 * gridStep);
+    auto* start = new QGridLayout;
+    start->setSpacing(3 * gridStep);
+    start->addWidget(linkPanel(display, queue), 0, 0);
+    start->addWidget(callPanel(display, queue), 1, 0);
+    start->addWidget(firstStepsPanel(), 0, 1);
+    start->addWidget(commandPanel(display, queue), 1, 1);
+    start->addWidget(makeConditionsPanel(display, queue), 0, 2, 2, 1);
+    start->setColumnStretch(0, 5);
+    start->setColumnStretch(1, 6);
+    rows->addLayout(start);
+    auto* traffic = new QHBoxLayout;
+    traffic->setSpacing(3 * gridStep);
+    traffic->addWidget(makeOtherProgramsPanel(display, queue), 12);
+    traffic->addWidget(makeLinePanel(line, display, queue), 13);
+    rows->addLayout(traffic, 1);
     return page;
 }
 

@@ -1,10 +1,12 @@
 // Browser, data folder, log, and the worker behind speech and sounds.
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <atomic>
+#include <csignal>
 #include <future>
 #include <memory>
 #include <vector>
@@ -83,6 +85,16 @@ TEST(HomeDataFolderTest, SavesWholeFilesAndSaysWhyItCannot) {
     }
     const SavedFile refused = folder.save("memory-channels/a.csv/b.csv", "x");  // a file is in the folder's place
     EXPECT_NE(refused.error, "");
+    // A full disk: files of more than four bytes cannot be written. What is short waits in a buffer until the end.
+    struct rlimit limits;
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limits), 0);
+    const auto ignored = std::signal(SIGXFSZ, SIG_IGN);
+    const struct rlimit little { 4, limits.rlim_max };
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &little), 0);
+    for (const std::size_t size : {10U, 100'000U})
+        EXPECT_NE(folder.save("memory-channels/a.csv", std::string(size, 'x')).error, "") << size;
+    setrlimit(RLIMIT_FSIZE, &limits);
+    std::signal(SIGXFSZ, ignored);
     EXPECT_EQ(contents(home.filePath("data/memory-channels/a.csv").toStdString()), "second, longer\n");
 }
 

@@ -47,6 +47,7 @@ struct FilesStation : Station {
         click(button);
         auto* dialog = shown<QFileDialog>();
         ASSERT_NE(dialog, nullptr);
+        QApplication::setActiveWindow(dialog);  // as a desktop does
         dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path(name));
         QMetaObject::invokeMethod(dialog, "accept");
         ASSERT_TRUE(eventually([&] { return !shownNow<QFileDialog>(); }));
@@ -66,9 +67,17 @@ TEST(MemoryFilesTest, TheTableIsExportedToTheFileThatIsChosen) {
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll().toStdString(), memoryCsv(station.controller.memories.vqMemArray()));
 
-    station.controller.memories.setRows({});
-    station.click("exportMemoriesButton");
+    station.choose("exportMemoriesButton", "no/such/folder/out.csv");
+    ASSERT_TRUE(eventually([&] { return !station.window.findChild<QFileDialog*>(); }));
     auto* box = FilesStation::shown<QMessageBox>();
+    ASSERT_NE(box, nullptr) << "it does not go with the dialog";
+    EXPECT_TRUE(box->text().contains("were not exported"));
+    box->accept();
+
+    station.controller.memories.setRows({});
+    ASSERT_TRUE(eventually([] { return !FilesStation::shownNow<QMessageBox>(); }));
+    station.click("exportMemoriesButton");
+    box = FilesStation::shown<QMessageBox>();
     ASSERT_NE(box, nullptr);
     EXPECT_TRUE(box->text().contains("nothing to export"));
     box->accept();

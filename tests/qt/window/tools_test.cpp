@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QProgressBar>
 #include <QSlider>
 #include <QStyle>
@@ -283,6 +284,58 @@ TEST(ToolsTest, AnAmpersandInATextMakesNoShortcut) {
     station.radio.serve();
     EXPECT_EQ(station.radio.transceiver.received().count("KY"), 0);
     EXPECT_EQ(key->accessibleName(), "Text memory 1, Q&R");
+}
+
+// Who looks elsewhere pays nothing for the traffic: the table hears of it only while it is in sight.
+TEST(ToolsTest, TheTrafficIsShownWhileItIsInSight) {
+    Tools station;
+    station.show(Display::stationPage);
+    auto* table = station.find<QTableView>("lineTable");
+    const auto rows = [table] { return table->model()->rowCount(); };
+    const auto cell = [table](int row, int column) { return table->model()->index(row, column).data().toString(); };
+    station.click("lineClearButton");
+    auto* filter = station.find<QLineEdit>("lineFilterField");
+    QTest::keyClicks(filter, "tx");
+    station.radio.operate([](auto& radio) { radio.operate("TX1;"); });
+    ASSERT_TRUE(eventually([&] { return rows() == 1; }));
+    EXPECT_EQ(cell(0, 1) + ' ' + cell(0, 2) + ' ' + cell(0, 3), "received TX1; TX on");
+    EXPECT_EQ(station.find<QLabel>("onAirField")->accessibleName(), "Transmitter, on air");
+    QTest::keyClicks(filter, " off");
+    EXPECT_EQ(rows(), 0);
+    EXPECT_TRUE(eventually(
+        [&] { return station.find<QLabel>("lineCountField")->accessibleName().startsWith("Traffic, 0 of "); }));
+    QTest::keyClick(filter, Qt::Key_Escape);
+    EXPECT_EQ(filter->text(), "") << "takes back what was typed";
+    QTest::keyClicks(filter, "tx");
+
+    int told = 0;
+    for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        QObject::connect(table->model(), change, table, [&told] { ++told; });
+    QObject::connect(table->model(), &QAbstractItemModel::modelReset, table, [&told] { ++told; });
+    station.show(Display::radioPage);
+    told = 0;
+    station.radio.operate([](auto& radio) { radio.operate("TX0;"); });
+    ASSERT_TRUE(eventually([&] { return station.display.onAirField.stringValue() == "receiving"; }));
+    runEventLoop(300ms);
+    EXPECT_EQ(told, 0);
+    station.show(Display::stationPage);
+    EXPECT_EQ(rows(), 2);
+}
+
+TEST(ToolsTest, TheTimeOutIsChosenInTheMenu) {
+    Station station;
+    auto* entries = station.find<QMenu>("onAirTimeOutPopUpButton");
+    ASSERT_NE(entries, nullptr);
+    const auto checked = [entries] {
+        QString titles;
+        for (const QAction* entry : entries->actions())
+            if (entry->isChecked()) titles += entry->text();
+        return titles;
+    };
+    EXPECT_EQ(checked(), "10 minutes");
+    station.action("3 minutes").trigger();
+    EXPECT_EQ(checked(), "3 minutes");
+    EXPECT_EQ(station.platform.settings.text("onAirTimeOut"), "3");
 }
 
 }  // namespace

@@ -1,12 +1,11 @@
-// Which parts of a band each operator class may use.
+// Where each operator class may transmit, segment by segment.
 #pragma once
 
 #include <array>
-#include <optional>
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
-#include "band_map/map_bands.h"
 #include "display/control.h"
 
 namespace corvane {
@@ -15,9 +14,12 @@ namespace corvane {
 inline constexpr std::array<std::string_view, 4> licenceClasses{"Technician", "General", "Advanced", "Extra"};
 inline constexpr std::size_t classNotSet = licenceClasses.size();
 
+// The class of this name; classNotSet for any other text.
+std::size_t licenceClass(std::string_view name);
+
 struct ClassSegment {
-    long long lower;          // hertz
-    long long upper;          // hertz
+    long long lower;          // hertz, included
+    long long upper;          // hertz, excluded
     std::size_t lowestClass;  // of licenceClasses: it and those above may transmit here
     bool onlyCw;
     Color color;
@@ -26,12 +28,16 @@ struct ClassSegment {
     std::string_view letters() const;
 };
 
-// The segments of a row of mapBands from the lowest up; none on medium wave.
-std::vector<ClassSegment> segmentsOf(std::size_t band);
+// All segments of operatorClasses, from the lowest up.
+const std::vector<ClassSegment>& classSegments();
 
 // Whether an operator of this class may transmit there; everyone while the class is not set.
 constexpr bool mayUse(const ClassSegment& segment, std::size_t ownClass) {
     return ownClass == classNotSet || ownClass >= segment.lowestClass;
 }
+
+// Whether the frequency, in hertz, is in a segment that the class may use: 14'010'000 is for an Extra, not for a
+// General. The mode does not count: data modes share the segments for CW, and often go by the name of a side band.
+bool mayTransmit(long long hertz, std::size_t ownClass);
 
 }  // namespace corvane
