@@ -90,6 +90,7 @@ void SerialPortDemoController::wire() {
         sharedTransceiver.noteSent(command);
         virtualPort.noteSent(command);
     };
+    link.onSwitchedOff = [this] { display.keepAsLastKnown(); };
     link.onMemoryReadDue = [this] { memories.startMemoryRead(); };
     mirror.onFrequency = [this](std::string_view megahertz) { showOperatorClass(megahertz); };
     mirror.tagOfChannel = [this](int row) { return memories.tagOf(row); };
@@ -100,10 +101,11 @@ void SerialPortDemoController::wire() {
 
 void SerialPortDemoController::goMainMenu(MenuItem& sender) {
     preferences.goMainMenu(sender);
-    applySharing();
+    applyPreferences();
 }
 
-void SerialPortDemoController::applySharing() {
+void SerialPortDemoController::applyPreferences() {
+    link.setReopensLostPort(preferences.reopenPort());
     rigctlServer.applyPreferences();
     virtualPort.applyPreferences();
 }
@@ -124,7 +126,7 @@ void SerialPortDemoController::awakeFromNib() {
 void SerialPortDemoController::restoreSettings() {
     link.restorePort();
     preferences.restore();
-    applySharing();
+    applyPreferences();
     bandMap.restore();
     autoMemories.restoreSquelch();
     vqPortChecked = 1;

@@ -158,7 +158,7 @@ private:
     void bindEntries();
     void bindTables();
     void showSettingsProblem();
-    void applySharing();  // the switches of other programs
+    void applyPreferences();  // tells the rooms
 
     Platform platform_;
 

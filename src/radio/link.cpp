@@ -31,11 +31,13 @@ void Link::sendCommand(std::string_view commands) {
         port->sendData(command);
         onSent(command);
     });
+    askWhetherOn();
 }
 
 void Link::writeString(std::string_view commands) {
     const std::shared_ptr<ORSSerialPort> port = serialPort_;
     if (port && isUtf8(commands)) port->sendData(commands);
+    askWhetherOn();
 }
 
 // An action that built nothing must not send the previous command again.

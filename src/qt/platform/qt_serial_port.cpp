@@ -73,8 +73,8 @@ int unsentBytes(int descriptor) {
 
 }  // namespace
 
-QtSerialPort::QtSerialPort(std::string name, std::string details, std::string location)
-    : ListedPort(std::move(name), std::move(details)), location_(std::move(location)) {
+QtSerialPort::QtSerialPort(std::string name, std::string details, std::string location, UsbDevice usb)
+    : ListedPort(std::move(name), std::move(details), std::move(usb)), location_(std::move(location)) {
     line_.setPortName(QString::fromStdString(location_));
     QObject::connect(&line_, &QSerialPort::readyRead, &line_, [this] { readAll(); });
     QObject::connect(&line_, &QSerialPort::errorOccurred, &line_,

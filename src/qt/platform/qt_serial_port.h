@@ -18,7 +18,7 @@ namespace corvane {
 // write is reported as an error and closes the port.
 class QtSerialPort final : public ListedPort {
 public:
-    QtSerialPort(std::string name, std::string details, std::string location);
+    QtSerialPort(std::string name, std::string details, std::string location, UsbDevice usb = {});
     ~QtSerialPort() override;
 
     bool isOpen() const override { return open_; }

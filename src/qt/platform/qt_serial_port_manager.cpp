@@ -66,7 +66,8 @@ SerialPorts QtSerialPortManager::take(const std::vector<SerialDevice>& devices) 
         if (known != entries_.end()) {
             entries.push_back(*known);
         } else {
-            entries.push_back({device, std::make_shared<QtSerialPort>(device.name, device.details, device.location)});
+            entries.push_back({device, std::make_shared<QtSerialPort>(device.name, device.details, device.location,
+                                                                      device.usbDevice)});
             fresh.push_back(entries.back().port);
         }
     }

@@ -113,6 +113,7 @@ void MainWindow::makeMenus() {
     addPreference(*preferences, display.menuItemPreferencesSounds);
     addPreference(*preferences, display.menuItemPreferencesIPO);
     addPreference(*preferences, display.menuItemPreferencesBandMap);
+    addPreference(*preferences, display.menuItemPreferencesReopen);
     preferences->addSeparator();
     auto* server =
         preferences->addAction("&Directory server\u2026", this, [this] { askForDirectoryServer(*this, controller_); });
