@@ -42,6 +42,8 @@ public:
 
     // Called when the device has left the system: an open port closes and reports its removal, once.
     virtual void deviceLeft() = 0;
+    // Whether the line has hung up since it was last opened: what is listed under the name now is another device.
+    virtual bool hasHungUp() const { return false; }
 
 protected:
     // Keeps the port alive until the event loop runs again, in case its last owner releases it during a callback.

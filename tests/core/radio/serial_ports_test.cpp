@@ -308,6 +308,21 @@ TEST_F(LostPortTest, IsLeftAloneOnceTheOperatorActs) {
     }
 }
 
+TEST_F(LostPortTest, IsLeftAloneOnceTheProgramHasEnded) {
+    Surroundings other;
+    other.settings.values = {{"reopen", "1"}, {"defaultPort", "ttyUSB0"}};
+    other.portManager.ports = {first};
+    auto ended = std::make_unique<SerialPortDemoController>(other.platform(), ServiceHosts{});
+    ended->awakeFromNib();
+    ended->display.openCloseButton.performClick();
+    first->unplug();
+    other.portManager.disconnect({first});
+    other.portManager.connect({first});
+    ended.reset();
+    other.scheduler.advance(1h);
+    EXPECT_FALSE(first->isOpen());
+}
+
 TEST_F(LostPortTest, ThatDoesNotOpenYetIsTriedFiveTimes) {
     lose();
     first->openFailure =
