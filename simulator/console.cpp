@@ -213,6 +213,7 @@ constexpr std::array typedCommands{
     TypedCommand{"cut", "on|off", 1, 1, "answers come in two pieces", switchFault<&Faults::cutAnswers>},
     TypedCommand{"noise", "on|off", 1, 1, "random bytes between the answers", switchFault<&Faults::noise>},
     TypedCommand{"late", "on|off", 1, 1, "answers come a second late", switchFault<&Faults::lateAnswers>},
+    TypedCommand{"lossy", "on|off", 1, 1, "one answer or report in eight is lost", switchFault<&Faults::lossy>},
     TypedCommand{"unplug", "", 0, 0, "pull the plug: the port disappears", plug<false>},
     TypedCommand{"plug", "", 0, 0, "plug it in again", plug<true>},
     TypedCommand{"state", "", 0, 0, "frequencies, modes and settings", state},

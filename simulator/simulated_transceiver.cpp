@@ -16,6 +16,7 @@ constexpr Time answerDelay = 10ms;
 constexpr Time rejectionDelay = 4ms;
 constexpr Time noiseInterval = 50ms;
 constexpr std::size_t longestNoise = 8;
+constexpr unsigned oneLostIn = 8;
 constexpr std::size_t mostWaitingTransmissions = 100;
 constexpr std::size_t mostTextsKept = 1'000;
 constexpr int strongestSignal = 255;
@@ -120,13 +121,15 @@ Reply SimulatedTransceiver::carryOut(std::string_view command, Time ready) {
 }
 
 void SimulatedTransceiver::answer(std::string text, Time ready) {
-    if (faults_.silent || std::exchange(loseNextAnswer_, false)) return;
+    if (faults_.silent || std::exchange(loseNextAnswer_, false) || loses()) return;
     line_.queue(std::move(text) + ";", now_, ready);
 }
 
 void SimulatedTransceiver::report(const std::string& text, Time ready) {
-    if (!faults_.silent && !faults_.unplugged) line_.queue(text + ";", now_, ready);
+    if (!faults_.silent && !faults_.unplugged && !loses()) line_.queue(text + ";", now_, ready);
 }
+
+bool SimulatedTransceiver::loses() { return faults_.lossy && random_() % oneLostIn == 0; }
 
 void SimulatedTransceiver::reportChanges(bool reporting, Time ready) {
     for (const std::string& change : reports_.takeChanges(state_))

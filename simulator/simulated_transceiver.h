@@ -19,12 +19,14 @@
 namespace simulator {
 
 // Faults of the link. Silent: no answers and no reports. Cut: each in two pieces. Late: each a second late. Noise:
-// bursts of random bytes, never a ";", between messages. Unplugged: no bytes in either direction.
+// bursts of random bytes, never a ";", between messages. Lossy: one answer or report in eight is lost. Unplugged: no
+// bytes in either direction.
 struct Faults {
     bool silent = false;
     bool cutAnswers = false;
     bool lateAnswers = false;
     bool noise = false;
+    bool lossy = false;
     bool unplugged = false;
 
     bool operator==(const Faults&) const = default;
@@ -53,7 +55,7 @@ public:
     const Faults& faults() const { return faults_; }
     void setFaults(const Faults& faults);
     void loseNextAnswer() { loseNextAnswer_ = true; }
-    // The seed of the random bytes of noise.
+    // The seed of the random bytes of noise, and of what is lost.
     void seedNoise(unsigned seed) { random_.seed(seed); }
     // Sends bytes unchanged.
     void sendRaw(std::string_view bytes);
@@ -92,6 +94,7 @@ private:
     void answer(std::string text, Time ready);
     void reportChanges(bool reporting, Time ready);
     void report(const std::string& text, Time ready);
+    bool loses();
     void catchUp(Time now);
     void handlePending();
     void fireEvents();

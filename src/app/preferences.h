@@ -16,6 +16,7 @@ struct Switches {
     std::string vqSounds;       // the program's own sounds; named alerts play in any case
     std::string vqMemoryIPO;    // recalling a memory channel switches the pre-amplifier off
     std::string bandMapStrip;   // the active band of the band map is on the radio page
+    std::string reopenPort;     // a port that was lost while open is opened again
     std::string share;          // other programs may use the transceiver
     std::string shareTransmit;  // and transmit
     std::string shareStore;     // and change memories and menus
@@ -37,6 +38,7 @@ inline constexpr std::array preferenceSwitches{
     PreferenceSwitch{&Display::menuItemPreferencesSounds, &Switches::vqSounds, "sounds", "1", 901},
     PreferenceSwitch{&Display::menuItemPreferencesIPO, &Switches::vqMemoryIPO, "ipo", "0", 902},
     PreferenceSwitch{&Display::menuItemPreferencesBandMap, &Switches::bandMapStrip, "bandmap", "0", 903},
+    PreferenceSwitch{&Display::menuItemPreferencesReopen, &Switches::reopenPort, "reopen", "0", 907},
     PreferenceSwitch{&Display::shareSwitch, &Switches::share, "share", "0", 910},
     PreferenceSwitch{&Display::shareTransmitSwitch, &Switches::shareTransmit, "shareTransmit", "0", 911},
     PreferenceSwitch{&Display::shareStoreSwitch, &Switches::shareStore, "shareStore", "0", 912},
@@ -54,6 +56,7 @@ public:
     bool voiceGuide() const { return switches_.vqVoiceGuide == "1"; }
     bool sounds() const { return switches_.vqSounds == "1"; }
     bool memoryIpo() const { return switches_.vqMemoryIPO == "1"; }
+    bool reopenPort() const { return switches_.reopenPort == "1"; }
     bool share() const { return switches_.share == "1"; }
     bool shareTransmit() const { return switches_.shareTransmit == "1"; }
     bool shareStore() const { return switches_.shareStore == "1"; }

@@ -143,7 +143,10 @@ void SerialPortDemoController::interpretResponses(std::string_view text) {
             else
                 setupMenu.takeRefusal();
         }
-        if (const ResponseRow* row = responseRow(response)) goesOn = std::visit(Taking{*this, response}, row->handler);
+        if (const ResponseRow* row = responseRow(response)) {
+            goesOn = std::visit(Taking{*this, response}, row->handler);
+            link.noteResponse(response);
+        }
     });
 }
 

@@ -99,6 +99,7 @@ void SerialPortDemoController::wire() {
         if (command.starts_with("AI")) onAir.follow();  // the reports may end
         virtualPort.noteSent(command);
     };
+    link.onSwitchedOff = [this] { display.keepAsLastKnown(); };
     link.onMemoryReadDue = [this] { memories.startMemoryRead(); };
     mirror.onFrequency = [this](std::string_view megahertz) { showOperatorClass(megahertz); };
     mirror.tagOfChannel = [this](int row) { return memories.tagOf(row); };
@@ -116,7 +117,7 @@ void SerialPortDemoController::wire() {
 
 void SerialPortDemoController::goMainMenu(MenuItem& sender) {
     preferences.goMainMenu(sender);
-    applySharing();
+    applyPreferences();
     standingRefresh.lookAgain();  // the band map may have come in sight
 }
 
@@ -130,7 +131,8 @@ void SerialPortDemoController::goWatchRemove(Button& sender) {
     standingRefresh.lookAgain();
 }
 
-void SerialPortDemoController::applySharing() {
+void SerialPortDemoController::applyPreferences() {
+    link.setReopensLostPort(preferences.reopenPort());
     rigctlServer.applyPreferences();
     virtualPort.applyPreferences();
 }
@@ -151,7 +153,7 @@ void SerialPortDemoController::awakeFromNib() {
 void SerialPortDemoController::restoreSettings() {
     link.restorePort();
     preferences.restore();
-    applySharing();
+    applyPreferences();
     bandMap.restore();
     spotFilter.restore();
     watching.restore();

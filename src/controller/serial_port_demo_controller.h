@@ -168,7 +168,7 @@ private:
     void bindEntries();
     void bindTables();
     void showSettingsProblem();
-    void applySharing();  // the switches of other programs
+    void applyPreferences();  // tells the rooms
     void watch(TextField& sender);
     bool isWatchTable(const TableView& table) const;
 

@@ -355,6 +355,9 @@ public:
     MenuItem menuItemPreferencesBandMap{{"menuItemPreferencesBandMap", 903, "Band map on the Radio page",
                                          "Band map on the Radio page",
                                          "Show the active band's part of the band map at the foot of the Radio page."}};
+    MenuItem menuItemPreferencesReopen{{"menuItemPreferencesReopen", 907, "Open a lost port again",
+                                        "Open a lost port again",
+                                        "A port that was unplugged while it was open is opened when it returns."}};
 
     std::array<Button*, 13> bandButtons{&m6Button,   &m10Button,  &m12Button, &m15Button, &m17Button,
                                         &m20Button,  &m30Button,  &m40Button, &m60Button, &m80Button,

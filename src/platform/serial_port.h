@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/usb_device.h"
+
 namespace corvane {
 
 class ORSSerialPort;
@@ -60,6 +62,8 @@ public:
     virtual const std::string& name() const = 0;         // as listed, e.g. "ttyUSB0"; unique in the list
     virtual const std::string& description() const = 0;  // as listed and as remembered; the same text as the name
     virtual const std::string& details() const = 0;      // for display: "USB serial adapter, /dev/ttyUSB0"
+
+    virtual const UsbDevice& usb() const = 0;  // nothing known of one that is not on USB
 
     virtual int baudRate() const = 0;  // bits a second
     virtual void setBaudRate(int baudRate) = 0;

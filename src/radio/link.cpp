@@ -31,11 +31,13 @@ void Link::sendCommand(std::string_view commands) {
         hand(*port, command);
         onSent(command);
     });
+    askWhetherOn();
 }
 
 void Link::writeString(std::string_view commands) {
     const std::shared_ptr<ORSSerialPort> port = serialPort_;
     if (port && isUtf8(commands)) hand(*port, commands);
+    askWhetherOn();
 }
 
 void Link::hand(ORSSerialPort& port, std::string_view bytes) {

@@ -2,11 +2,14 @@
 //
 //   sending   commands to the transceiver           radio/link.cpp
 //   ports     choosing, opening, coming and going   radio/serial_ports.cpp
+//   return    a lost port that comes back           radio/port_return.cpp
 //   session   the steps after a port opened         radio/session_start.cpp
+//   power     switched off, and on again            radio/power_cycle.cpp
 #pragma once
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +22,7 @@
 #include "platform/settings_store.h"
 #include "platform/tasks.h"
 #include "radio/line_record.h"
+#include "radio/lost_port.h"
 
 namespace corvane {
 
@@ -55,6 +59,7 @@ public:
     std::function<void()> onClosed = [] {};                 // the session is over: the port was closed, or has gone
     std::function<void(std::string_view command)> onSent = [](std::string_view) {};  // after each, e.g. "AG0000;"
     std::function<void()> onMemoryReadDue = [] {};  // a step of the opening: read the memory channels
+    std::function<void()> onSwitchedOff = [] {};    // the transceiver says so; the port stays open
 
     // --- sending. Without a current port everything is dropped silently, and so are bytes that are not UTF-8.
     void sendCommand(std::string_view commands);  // one write for each command in the text
@@ -82,6 +87,9 @@ public:
     // Chooses the port that the operator chose last, in this run or the one before, unless a port is open.
     void restorePort();
     void suggestPort();  // chooses a port while none is remembered
+    // Whether a port that is lost while open is opened again when it returns. What the operator does to a port ends the
+    // waiting for one.
+    void setReopensLostPort(bool reopens);
     void serialPortWasOpened(ORSSerialPort& port);
     void serialPortWasClosed(ORSSerialPort& port);
     void serialPortWasRemovedFromSystem(ORSSerialPort& port);
@@ -89,11 +97,12 @@ public:
     void serialPortDidStall(ORSSerialPort& port, bool stalled);
     void serialPortsWereConnected(const SerialPorts& ports);
     void serialPortsWereDisconnected(const SerialPorts& ports);
-    void noteReceived(std::string_view bytes);   // any bytes, for the record
-    LineRecord& record() { return record_; }     // what has gone over the line
-    void noteAnswer();                           // the transceiver has sent something
-    void fillPopUps();                           // the ports and the speeds
-    void showMessage(std::string_view message);  // in the line below the frequencies
+    void noteReceived(std::string_view bytes);     // any bytes, for the record
+    LineRecord& record() { return record_; }       // what has gone over the line
+    void noteAnswer();                             // the transceiver has sent something
+    void noteResponse(std::string_view response);  // each that is understood, e.g. "PS0"
+    void fillPopUps();                             // the ports and the speeds
+    void showMessage(std::string_view message);    // in the line below the frequencies
 
     // --- session: its number grows with every opening and closing, which shows whether a step is left over from an
     // earlier one
@@ -103,9 +112,21 @@ public:
 private:
     void hand(ORSSerialPort& port, std::string_view bytes);
     void showStatus();
-    void useListedPort(std::size_t index);  // of availablePorts()
+    void clearMessage(std::string_view message);  // if it is the one that stands there
+    void useListedPort(std::size_t index);        // of availablePorts()
+    void openCurrentPort();
+    void waitForReturn(LostPort lost);
+    void stopWaiting();
+    std::shared_ptr<ORSSerialPort> returnedPort() const;
+    void followReturn();  // the list of ports has changed
+    void planAttempt();
+    void attemptOpening();
+    bool triesAgain(const SerialPortError& error);  // after a failed attempt
+    void noteOpened(const ORSSerialPort& port);
     void startSession();
     void afterOpening(Scheduler::Duration delay, std::function<void()> step);
+    void askWhetherOn();
+    void catchUp();
     void setUpMemorySlots();
     void synchronise();
     bool userNotificationCenterShouldPresentNotification() const;  // also while the program is in front
@@ -125,6 +146,13 @@ private:
     std::string cmd_;
     const std::string syncRadioCmd_{synchronisationString};
     unsigned session_ = 0;
+    bool reopens_ = false;
+    std::optional<LostPort> lost_;  // waited for
+    unsigned order_ = 0;            // changes whenever a planned attempt is no longer wanted
+    bool synchronised_ = false;     // the synchronisation string of this session has been sent
+    bool inStep_ = false;           // and answered
+    bool switchedOff_ = false;
+    unsigned question_ = 0;  // counts what was sent while it is switched off
     bool answered_ = false;  // whether anything has come from the transceiver since the port was opened
 };
 

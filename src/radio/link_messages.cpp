@@ -39,6 +39,16 @@ std::string linkLostMessage(const std::string& portName) {
     return fmt::format("{} was unplugged. Plug it in again, choose it in the list, then press Connect.", portName);
 }
 
+std::string waitingMessage(const std::string& portName) {
+    return fmt::format("{} was unplugged. It is opened again when it returns. Press Connect to stop waiting.",
+                       portName);
+}
+
+std::string notYetMessage(const std::string& portName, const SerialPortError& error) {
+    return fmt::format("{} is back, but does not open yet: {}. Corvane tries again. Press Connect to try yourself.",
+                       portName, error.text);
+}
+
 std::string linkStalledMessage(const std::string& portName) {
     return portName +
            " takes no data. Check the cable and that the transceiver is switched on. Press Connected to close the port "

@@ -27,6 +27,7 @@ void Link::setSerialPort(std::shared_ptr<ORSSerialPort> port) {
 }
 
 void Link::choosePort(PopUpButton& sender) {
+    stopWaiting();
     chosenPort_ = sender.titleOfSelectedItem();
     useListedPort(static_cast<std::size_t>(sender.indexOfSelectedItem()));
 }
@@ -34,7 +35,7 @@ void Link::choosePort(PopUpButton& sender) {
 void Link::useListedPort(std::size_t index) {
     const SerialPorts& ports = around_.ports.availablePorts();
     if (index >= ports.size() || ports[index] == serialPort_) return;
-    showMessage({});
+    if (!lost_) showMessage({});
     setSerialPort(ports[index]);
 }
 
@@ -68,6 +69,7 @@ void Link::noteAnswer() {
 
 void Link::openOrClosePort(Button&) {
     const std::shared_ptr<ORSSerialPort> port = serialPort_;
+    stopWaiting();
     if (!port) return;
     if (port->isOpen()) {
         onClosing();
@@ -77,6 +79,11 @@ void Link::openOrClosePort(Button&) {
         return;
     }
     showMessage({});
+    openCurrentPort();
+}
+
+void Link::openCurrentPort() {
+    const std::shared_ptr<ORSSerialPort> port = serialPort_;
     chooseBaudRate(display_.BaudPopUpButton);
     port->setParity(Parity::none);
     port->setNumberOfStopBits(1);
@@ -92,7 +99,8 @@ void Link::serialPortWasOpened(ORSSerialPort& port) {
     around_.settings.setText("defaultPort", port.description());
     around_.settings.setText("defaultBaud", std::to_string(port.baudRate()));
     voice_.playSound("Seatbelts");
-    answered_ = false;
+    answered_ = synchronised_ = inStep_ = switchedOff_ = false;
+    noteOpened(port);
     showMessage({});
     showStatus();
     startSession();
@@ -101,6 +109,7 @@ void Link::serialPortWasOpened(ORSSerialPort& port) {
 void Link::serialPortWasClosed(ORSSerialPort& port) {
     ++session_;
     serialPortDidStall(port, false);
+    clearMessage(switchedOffMessage);
     display_.openCloseButton.setTitle("Connect");
     display_.openCloseButton.setBezelColor(Color::red);
     onReady(false);
@@ -111,16 +120,19 @@ void Link::serialPortWasClosed(ORSSerialPort& port) {
 
 void Link::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
     const std::string message = linkLostMessage(port.name());
+    LostPort lost{port.name(), port.usb()};
     ++session_;
     setSerialPort(nullptr);
     display_.openCloseButton.setTitle("Connect");
     onReady(false);
     onClosed();
     showMessage(message);
+    if (reopens_) waitForReturn(std::move(lost));
 }
 
 void Link::serialPortDidEncounterError(ORSSerialPort& port, const SerialPortError& error) {
     around_.log.line("SerialPort " + port.description() + " encountered an error: " + error.text);
+    if (triesAgain(error)) return;
     voice_.playSystemSound("Frog");
     display_.mainTab.selectItem(Display::stationPage);
     onReady(port.isOpen());
@@ -130,10 +142,7 @@ void Link::serialPortDidEncounterError(ORSSerialPort& port, const SerialPortErro
 
 void Link::serialPortDidStall(ORSSerialPort& port, bool stalled) {
     const std::string message = linkStalledMessage(port.name());
-    if (stalled)
-        showMessage(message);
-    else if (display_.linkMessageField.stringValue() == message)
-        showMessage({});
+    stalled ? showMessage(message) : clearMessage(message);
 }
 
 void Link::serialPortsWereConnected(const SerialPorts& ports) {
@@ -143,6 +152,7 @@ void Link::serialPortsWereConnected(const SerialPorts& ports) {
         display_.announcements.say(port->name() + " is plugged in");
     }
     fillPopUps();
+    followReturn();
 }
 
 void Link::serialPortsWereDisconnected(const SerialPorts& ports) {
@@ -152,6 +162,7 @@ void Link::serialPortsWereDisconnected(const SerialPorts& ports) {
     // An open port reports its own removal; a closed one must be dropped here.
     if (std::ranges::find(ports, serialPort_) != ports.end() && !serialPort_->isOpen()) setSerialPort(nullptr);
     fillPopUps();
+    followReturn();
 }
 
 bool Link::userNotificationCenterShouldPresentNotification() const { return true; }
@@ -194,11 +205,20 @@ void Link::fillPopUps() {
 void Link::showStatus() {
     const bool open = isOpen();
     display_.linkStatusField.setTextColor(open ? Color::green : Color::none);
-    if (!open)
+    if (!open && lost_)
+        display_.linkStatusField.setStringValue(lost_->back ? "Opening " + lost_->name + " again"
+                                                            : "Waiting for " + lost_->name + " to return");
+    else if (!open)
         display_.linkStatusField.setStringValue("Not connected");
+    else if (switchedOff_)
+        display_.linkStatusField.setStringValue(serialPort_->name() + ": the transceiver is switched off");
     else
         display_.linkStatusField.setStringValue(serialPort_->name() +
                                                 (answered_ ? ": connected" : ": waiting for the transceiver"));
+}
+
+void Link::clearMessage(std::string_view message) {
+    if (display_.linkMessageField.stringValue() == message) showMessage({});
 }
 
 void Link::showMessage(std::string_view message) { display_.linkMessageField.setStringValue(message); }

@@ -29,6 +29,7 @@ void Link::setUpMemorySlots() { writeString(memorySlotString); }
 
 void Link::synchronise() {
     display_.mainTab.selectItem(Display::radioPage);
+    synchronised_ = true;
     writeString(syncRadioCmd_);
 }
 

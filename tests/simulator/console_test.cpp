@@ -51,9 +51,10 @@ TEST(Console, TypedCommandsTurnTheKnobs) {
 TEST(Console, SwitchesFaultsOnAndOff) {
     SimulatedTransceiver radio;
     Console console(radio);
-    for (const std::string_view line : {"silent on", "cut on", "noise on", "late on", "unplug"}) console.execute(line);
-    EXPECT_EQ(radio.faults(), (Faults{true, true, true, true, true}));
-    for (const std::string_view line : {"silent off", "cut off", "noise off", "late off", "plug"})
+    for (const std::string_view line : {"silent on", "cut on", "noise on", "late on", "lossy on", "unplug"})
+        console.execute(line);
+    EXPECT_EQ(radio.faults(), (Faults{true, true, true, true, true, true}));
+    for (const std::string_view line : {"silent off", "cut off", "noise off", "late off", "lossy off", "plug"})
         console.execute(line);
     EXPECT_EQ(radio.faults(), Faults{});
     EXPECT_EQ(console.execute("silent maybe"), "say silent on or silent off\n");

@@ -21,6 +21,14 @@ TEST(TransceiverFaults, OneAnswerIsLost) {
     EXPECT_EQ(line.exchange("FA;FB;FA;"), "FB007074000;FA014250000;");
 }
 
+TEST(TransceiverFaults, ALossyLineLosesOneInEight) {
+    RadioOnLine line;
+    line.radio.setFaults({.lossy = true});
+    int answers = 0;
+    for (int question = 0; question < 800; ++question) answers += line.exchange("FA;").empty() ? 0 : 1;
+    EXPECT_NEAR(answers, 700, 40);
+}
+
 TEST(TransceiverFaults, CutAnswersComeInTwoPiecesInOrder) {
     RadioOnLine line;
     line.radio.setFaults({.cutAnswers = true});

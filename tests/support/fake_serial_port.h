@@ -29,6 +29,8 @@ public:
     const std::string& description() const override { return name_; }
     const std::string& details() const override { return details_; }
 
+    const UsbDevice& usb() const override { return device; }
+
     int baudRate() const override { return line.baudRate; }
     void setBaudRate(int baudRate) override { line.baudRate = baudRate; }
     void setParity(Parity parity) override { line.parity = parity; }
@@ -77,6 +79,7 @@ public:
     }
 
     Line line;
+    UsbDevice device;
     std::vector<std::string> written;               // one entry per write
     std::function<void(std::string_view)> onWrite;  // the device at the other end
     std::size_t waiting = 0;                        // bytes that the device has not taken

@@ -1,7 +1,9 @@
 // A clock that stands still until a test moves it.
 #pragma once
 
+#include <algorithm>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include "platform/scheduler.h"
@@ -30,6 +32,12 @@ public:
             due.mapped()();
         }
         now_ = end;
+    }
+
+    std::size_t waiting() const { return tasks_.size(); }
+    // The time until the next task.
+    std::optional<Duration> nextDue() const {
+        return tasks_.empty() ? std::nullopt : std::optional(std::max(Duration{0}, tasks_.begin()->first - now_));
     }
 
 private:

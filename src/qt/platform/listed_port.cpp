@@ -8,8 +8,11 @@ ListedPort::KeepAlive::~KeepAlive() {
     if (port_ && port_.use_count() == 1) QTimer::singleShot(0, [last = std::move(port_)] {});
 }
 
-ListedPort::ListedPort(std::string name, std::string details)
-    : name_(std::move(name)), details_(std::move(details)), assembler_([this](std::string_view response) {
+ListedPort::ListedPort(std::string name, std::string details, UsbDevice usb)
+    : name_(std::move(name)),
+      details_(std::move(details)),
+      usb_(std::move(usb)),
+      assembler_([this](std::string_view response) {
           if (isOpen() && delegate_ != nullptr) delegate_->serialPortDidReceiveData(*this, response);
       }) {
     patience_.setSingleShot(true);

@@ -25,11 +25,13 @@ struct LineSettings {
 // any callback the delegate may close the port, open it again, change the delegate or release the port.
 class ListedPort : public ORSSerialPort, public std::enable_shared_from_this<ListedPort> {
 public:
-    ListedPort(std::string name, std::string details);
+    ListedPort(std::string name, std::string details, UsbDevice usb = {});
 
     const std::string& name() const override { return name_; }
     const std::string& description() const override { return name_; }
     const std::string& details() const override { return details_; }
+
+    const UsbDevice& usb() const override { return usb_; }
 
     int baudRate() const override { return settings_.baudRate; }
     void setBaudRate(int baudRate) override;
@@ -40,6 +42,8 @@ public:
 
     // Called when the device has left the system: an open port closes and reports its removal, once.
     virtual void deviceLeft() = 0;
+    // Whether the line has hung up since it was last opened: what is listed under the name now is another device.
+    virtual bool hasHungUp() const { return false; }
 
 protected:
     // Keeps the port alive until the event loop runs again, in case its last owner releases it during a callback.
@@ -75,6 +79,7 @@ private:
 
     std::string name_;
     std::string details_;
+    UsbDevice usb_;
     LineSettings settings_;
     ORSSerialPortDelegate* delegate_ = nullptr;
     ResponseAssembler assembler_;

@@ -73,8 +73,8 @@ int unsentBytes(int descriptor) {
 
 }  // namespace
 
-QtSerialPort::QtSerialPort(std::string name, std::string details, std::string location)
-    : ListedPort(std::move(name), std::move(details)), location_(std::move(location)) {
+QtSerialPort::QtSerialPort(std::string name, std::string details, std::string location, UsbDevice usb)
+    : ListedPort(std::move(name), std::move(details), std::move(usb)), location_(std::move(location)) {
     line_.setPortName(QString::fromStdString(location_));
     QObject::connect(&line_, &QSerialPort::readyRead, &line_, [this] { readAll(); });
     QObject::connect(&line_, &QSerialPort::errorOccurred, &line_,
@@ -98,7 +98,7 @@ void QtSerialPort::open() {
     if (line_.open(QIODevice::ReadWrite)) {
         lowerKeyingLines(static_cast<int>(line_.handle()), settings().rtsCts);
         open_ = true;
-        stalled_ = false;
+        stalled_ = gone_ = false;
         neverTaken_ = 0;
         tellOpened();
     } else {
@@ -185,7 +185,8 @@ void QtSerialPort::failed(QSerialPort::SerialPortError error) {
         return tellError({SerialPortErrorKind::other, words, location_, {}});
     neverTaken_ = waitingBytes();
     shut();
-    if (fault == Fault::gone) return tellRemoved();
+    gone_ = fault == Fault::gone;
+    if (gone_) return tellRemoved();
     const auto kind = fault == Fault::refused ? SerialPortErrorKind::permission : SerialPortErrorKind::other;
     tellError({kind, words, location_, {}});
     if (!open_) tellClosed();

@@ -18,7 +18,7 @@ namespace corvane {
 // write is reported as an error and closes the port.
 class QtSerialPort final : public ListedPort {
 public:
-    QtSerialPort(std::string name, std::string details, std::string location);
+    QtSerialPort(std::string name, std::string details, std::string location, UsbDevice usb = {});
     ~QtSerialPort() override;
 
     bool isOpen() const override { return open_; }
@@ -26,6 +26,7 @@ public:
     void close() override;
     void sendData(std::string_view bytes) override;
     void deviceLeft() override;
+    bool hasHungUp() const override { return gone_; }
     std::size_t waitingBytes() const override;
 
 protected:
@@ -49,6 +50,7 @@ private:
     std::size_t takenBefore_ = 0;  // of these, what the device had taken at the last look
     std::size_t neverTaken_ = 0;   // bytes that waited when the port closed
     bool stalled_ = false;
+    bool gone_ = false;
 };
 
 }  // namespace corvane

@@ -61,12 +61,13 @@ SerialPorts QtSerialPortManager::take(const std::vector<SerialDevice>& devices) 
         // back between two looks is another instance: its port is dead, and a new one takes its place.
         const auto known = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
             return entry.device.name == device.name && entry.device.location == device.location &&
-                   entry.device.instance == device.instance;
+                   entry.device.instance == device.instance && !entry.port->hasHungUp();
         });
         if (known != entries_.end()) {
             entries.push_back(*known);
         } else {
-            entries.push_back({device, std::make_shared<QtSerialPort>(device.name, device.details, device.location)});
+            entries.push_back({device, std::make_shared<QtSerialPort>(device.name, device.details, device.location,
+                                                                      device.usbDevice)});
             fresh.push_back(entries.back().port);
         }
     }
@@ -107,7 +108,10 @@ void QtSerialPortManager::refresh() {
 }
 
 void QtSerialPortManager::lookAtExtras() {
-    if (presentExtras() != extras_) refresh();
+    // The system may give a new terminal the numbers of the one before.
+    const bool replaced =
+        std::any_of(entries_.begin(), entries_.end(), [](const Entry& entry) { return entry.port->hasHungUp(); });
+    if (replaced || presentExtras() != extras_) refresh();
 }
 
 std::vector<std::string> splitPaths(std::string_view paths) {

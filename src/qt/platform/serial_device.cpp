@@ -5,6 +5,8 @@
 #include <QCollator>
 #include <QSerialPortInfo>
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <utility>
 
 namespace corvane {
@@ -16,9 +18,19 @@ SerialDevice deviceOf(const QSerialPortInfo& info) {
     QString what = info.description();
     if (what.isEmpty()) what = info.manufacturer();
     if (what.isEmpty()) what = usb ? QStringLiteral("USB serial adapter") : QStringLiteral("Serial port");
-    return {info.portName().toStdString(), info.systemLocation().toStdString(),
-            (what + QLatin1String(", ") + info.systemLocation()).toStdString(), usb,
-            instanceOf(info.systemLocation().toStdString())};
+    return {info.portName().toStdString(),
+            info.systemLocation().toStdString(),
+            (what + QLatin1String(", ") + info.systemLocation()).toStdString(),
+            usb,
+            instanceOf(info.systemLocation().toStdString()),
+            usbDeviceOf(info.portName().toStdString())};
+}
+
+std::string lineOf(const std::filesystem::path& file) {
+    std::string line;
+    std::ifstream stream(file);
+    std::getline(stream, line);
+    return line;
 }
 
 }  // namespace
@@ -34,6 +46,22 @@ std::vector<SerialDevice> attachedSerialDevices() {
     std::vector<SerialDevice> devices;
     std::transform(infos.begin(), infos.end(), std::back_inserter(devices), deviceOf);
     return devices;
+}
+
+// From the terminal upwards come its interface, e.g. "1-1.2:1.0", and then the device with its socket's name, "1-1.2".
+UsbDevice usbDeviceOf(const std::string& terminal, const std::string& root) {
+    namespace fs = std::filesystem;
+    std::error_code failed;
+    std::string interface;
+    fs::path place = fs::canonical(fs::path(root) / "class/tty" / terminal / "device", failed);
+    for (; !failed && place.has_relative_path(); place = place.parent_path()) {
+        if (interface.empty()) interface = lineOf(place / "bInterfaceNumber");
+        const std::string vendor = lineOf(place / "idVendor");
+        if (vendor.empty()) continue;
+        return {vendor + ':' + lineOf(place / "idProduct") + ':' + interface, lineOf(place / "serial"),
+                place.filename().string()};
+    }
+    return {};
 }
 
 std::uint64_t instanceOf(const std::string& path) {

@@ -116,6 +116,7 @@ void MainWindow::makeMenus() {
     addPreference(*preferences, display.menuItemPreferencesIPO);
     addPreference(*preferences, display.menuItemPreferencesBandMap);
     addChoice(*preferences, display.onAirTimeOutPopUpButton);
+    addPreference(*preferences, display.menuItemPreferencesReopen);
     preferences->addSeparator();
     auto* server =
         preferences->addAction("&Directory server\u2026", this, [this] { askForDirectoryServer(*this, controller_); });

@@ -189,7 +189,173 @@ TEST_F(SerialPortsTest, AnOpenPortThatIsUnpluggedLeavesNoPort) {
     around.portManager.connect({first});
     EXPECT_EQ(display.PortPopUpButton.titleOfSelectedItem(), "ttyUSB0");
     EXPECT_EQ(takeCalls(), Texts{"ttyUSB0 attach"});
+    around.scheduler.advance(60s);
     EXPECT_FALSE(first->isOpen());
+}
+
+// A port that was lost while open, with the order to open it again.
+struct LostPortTest : SerialPortsTest {
+    void lose() {
+        around.settings.setText("reopen", "1");
+        first->device = was;
+        startOn({first, second}, 0);
+        leave();
+    }
+    void leave() {
+        first->unplug();
+        around.portManager.disconnect({first});
+    }
+    bool opensWithin(Scheduler::Duration time) {
+        calls.clear();
+        around.scheduler.advance(time);
+        return std::ranges::count(calls, "ttyUSB0 open") == 1;
+    }
+    std::string status() const { return display.linkStatusField.stringValue(); }
+    std::string message() const { return display.linkMessageField.stringValue(); }
+
+    const UsbDevice was{"10c4:ea70:00", "S1", "1-1"};
+};
+
+TEST_F(LostPortTest, IsOpenedOnceWhenItReturnsAndSendsWhatEveryOpeningSends) {
+    lose();
+    EXPECT_EQ(status(), "Waiting for ttyUSB0 to return");
+    EXPECT_THAT(message(), HasSubstr("Press Connect to stop waiting"));
+    EXPECT_THAT(around.speech.spoken, ElementsAre("Waiting for ttyUSB0 to return"));
+    around.scheduler.advance(1h);
+    for (int turn = 0; turn < 4; ++turn) {
+        around.portManager.connect({first});
+        EXPECT_EQ(status(), "Opening ttyUSB0 again");
+        around.scheduler.advance(250ms);
+        if (turn == 3) break;
+        around.portManager.disconnect({first});
+        EXPECT_EQ(status(), "Waiting for ttyUSB0 to return");
+    }
+    EXPECT_FALSE(first->isOpen());
+    EXPECT_TRUE(opensWithin(250ms));
+    EXPECT_EQ(linkButtons(display), (LinkButtons{"Connected", Color::green, true}));
+    EXPECT_EQ(message(), "");
+    EXPECT_EQ(around.speech.spoken.back(), "ttyUSB0 is open again");
+    EXPECT_EQ(around.notices.shown.back(),
+              (UserNotification{"Serial Port Opened Again", "Serial Port ttyUSB0 was opened again."}));
+    around.scheduler.advance(4999ms);
+    EXPECT_THAT(first->written, IsEmpty());
+    around.scheduler.advance(1h);
+    EXPECT_EQ(first->written, (Texts{"MR001;", std::string(memorySlotString), std::string(synchronisationString)}));
+    // The order stands.
+    leave();
+    around.portManager.connect({first});
+    EXPECT_TRUE(opensWithin(1h));
+}
+
+TEST_F(LostPortTest, IsKnownByItsNameAndItsDevice) {
+    const struct {
+        std::string name;
+        UsbDevice before, after;
+        bool opens;
+    } cases[] = {{"ttyUSB0", {}, {}, true},
+                 {"ttyUSB0", was, {}, true},
+                 {"ttyUSB0", {"10c4:ea70:00", "", "1-1"}, {"10c4:ea70:00", "", "1-2"}, true},
+                 {"ttyUSB0", was, {"0403:6001:00", "S1", "1-1"}, false},
+                 {"ttyUSB0", was, {"10c4:ea70:00", "S2", "1-1"}, false},
+                 {"ttyUSB4", {}, {}, false},
+                 {"ttyUSB4", was, {"10c4:ea70:00", "S1", "1-2"}, true},
+                 {"ttyUSB4", was, {"10c4:ea70:01", "S1", "1-1"}, false},
+                 {"ttyUSB4", {"10c4:ea70:00", "", "1-1"}, {"10c4:ea70:00", "", "1-1"}, true},
+                 {"ttyUSB4", {"10c4:ea70:00", "", "1-1"}, {"10c4:ea70:00", "", "1-2"}, false}};
+    for (const auto& [name, before, after, opens] : cases) {
+        FakeSerialPort listed(name);
+        listed.device = after;
+        EXPECT_EQ(isSamePort({"ttyUSB0", before}, listed), opens) << name << ' ' << after.model << ' ' << after.serial;
+    }
+    lose();
+    const auto moved = std::make_shared<FakeSerialPort>("ttyUSB4");
+    moved->device = was;
+    around.portManager.connect({moved});
+    around.scheduler.advance(500ms);
+    EXPECT_TRUE(moved->isOpen());
+    EXPECT_EQ(around.settings.text("defaultPort"), "ttyUSB4");
+}
+
+TEST_F(LostPortTest, IsLeftAloneOnceTheOperatorActs) {
+    const auto connect = [](LostPortTest& test) { test.display.openCloseButton.performClick(); };
+    const auto another = [](LostPortTest& test) { test.display.PortPopUpButton.choose(0); };
+    const auto forbid = [](LostPortTest& test) { test.display.menuItemPreferencesReopen.performClick(); };
+    lose();
+    for (const std::function<void(LostPortTest&)>& act :
+         {std::function<void(LostPortTest&)>(connect), {another}, {connect}, {forbid}}) {
+        ASSERT_EQ(status(), "Waiting for ttyUSB0 to return");
+        act(*this);
+        EXPECT_EQ(status(), "Not connected");
+        EXPECT_EQ(message(), "");
+        around.portManager.connect({first});
+        EXPECT_FALSE(opensWithin(1h));
+        // Pressed while the port is back, Connect opens it, and nothing opens it a second time.
+        display.PortPopUpButton.choose(1);
+        display.openCloseButton.performClick();
+        leave();
+        if (act.target_type() == typeid(forbid)) return;
+        around.portManager.connect({first});
+        display.openCloseButton.performClick();
+        EXPECT_TRUE(first->isOpen());
+        EXPECT_FALSE(opensWithin(1h));
+        // What the operator closes stays closed.
+        display.openCloseButton.performClick();
+        around.portManager.disconnect({first});
+        around.portManager.connect({first});
+        EXPECT_FALSE(opensWithin(1h));
+        display.openCloseButton.performClick();
+        leave();
+    }
+}
+
+TEST_F(LostPortTest, IsLeftAloneOnceTheProgramHasEnded) {
+    Surroundings other;
+    other.settings.values = {{"reopen", "1"}, {"defaultPort", "ttyUSB0"}};
+    other.portManager.ports = {first};
+    auto ended = std::make_unique<SerialPortDemoController>(other.platform(), ServiceHosts{});
+    ended->awakeFromNib();
+    ended->display.openCloseButton.performClick();
+    first->unplug();
+    other.portManager.disconnect({first});
+    other.portManager.connect({first});
+    ended.reset();
+    other.scheduler.advance(1h);
+    EXPECT_FALSE(first->isOpen());
+}
+
+TEST_F(LostPortTest, ThatDoesNotOpenYetIsTriedFiveTimes) {
+    lose();
+    first->openFailure =
+        SerialPortError{SerialPortErrorKind::permission, "Permission denied", "/dev/ttyUSB0", "dialout"};
+    around.sounds.played.clear();
+    display.mainTab.selectItem(Display::radioPage);
+    for (const int tries : {3, 5}) {
+        around.portManager.connect({first});
+        auto wait = 500ms;
+        for (int attempt = 1; attempt <= tries; ++attempt, wait *= 2) {
+            EXPECT_FALSE(opensWithin(wait - 1ms));
+            EXPECT_TRUE(opensWithin(1ms)) << attempt;
+            if (attempt == 5) break;
+            EXPECT_EQ(status(), "Opening ttyUSB0 again");
+            EXPECT_THAT(message(), HasSubstr("does not open yet: Permission denied."));
+            EXPECT_THAT(around.sounds.played, IsEmpty());
+        }
+        if (tries == 3) around.portManager.disconnect({first});
+    }
+    EXPECT_EQ(around.sounds.played, Texts{"alert Frog"});
+    EXPECT_EQ(status(), "Not connected");
+    EXPECT_THAT(message(), HasSubstr("usermod -aG dialout"));
+    EXPECT_FALSE(opensWithin(1h));
+
+    first->openFailure.reset();
+    display.openCloseButton.performClick();
+    leave();
+    first->openFailure = SerialPortError{SerialPortErrorKind::busy, "Device busy", "/dev/ttyUSB0", ""};
+    around.portManager.connect({first});
+    EXPECT_TRUE(opensWithin(500ms));
+    first->openFailure.reset();
+    EXPECT_TRUE(opensWithin(1h));
+    EXPECT_EQ(linkButtons(display), (LinkButtons{"Connected", Color::green, true}));
 }
 
 TEST_F(SerialPortsTest, AChosenPortThatLeavesWhileClosedIsNotUsedAnyMore) {

@@ -4,6 +4,8 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <filesystem>
+#include <fstream>
 #include <memory>
 
 #include "event_loop.h"
@@ -38,7 +40,8 @@ Names namesOf(const SerialPorts& ports) {
 }
 
 struct ManagerTest : testing::Test, SerialPortsObserver {
-    std::vector<SerialDevice> devices{{"ttyUSB0", "/dev/ttyUSB0", "Adapter, /dev/ttyUSB0"}};
+    std::vector<SerialDevice> devices{
+        {"ttyUSB0", "/dev/ttyUSB0", "Adapter, /dev/ttyUSB0", true, 0, {"10c4:ea70:00", "01A2", "1-1.2"}}};
     FakeWatcher* watcher = nullptr;
     std::vector<Names> connected;
     std::vector<Names> disconnected;
@@ -73,6 +76,7 @@ TEST_F(ManagerTest, ListsDevicesThenExtraPathsThenTheLastPort) {
     EXPECT_EQ(names(), (Names{"ttyUSB0", "pts", other.path(), "Simulated transceiver"}));
     EXPECT_EQ(manager->availablePorts()[0]->details(), "Adapter, /dev/ttyUSB0");
     EXPECT_EQ(manager->availablePorts()[0]->description(), "ttyUSB0");
+    EXPECT_EQ(manager->availablePorts()[0]->usb(), devices[0].usbDevice);
     EXPECT_TRUE(connected.empty());
 }
 
@@ -170,6 +174,28 @@ TEST(SplitPathsTest, LeavesOutEmptyPiecesAndRepetitions) {
     EXPECT_EQ(splitPaths(""), Names{});
     EXPECT_EQ(splitPaths("/dev/a"), Names{"/dev/a"});
     EXPECT_EQ(splitPaths(":/dev/a::/dev/b:/dev/a:"), (Names{"/dev/a", "/dev/b"}));
+}
+
+// A serial adapter has its terminal below the interface, a modem directly there.
+TEST(UsbDeviceTest, IsReadFromTheTerminalUpwards) {
+    namespace fs = std::filesystem;
+    const QTemporaryDir folder;
+    const fs::path root = folder.path().toStdString();
+    const fs::path socket = root / "devices/pci0/usb1/1-1/1-1.2";
+    for (const auto& [terminal, below] : {std::pair{"ttyUSB1", "1-1.2:1.1/ttyUSB1"}, {"ttyACM0", "1-1.2:1.1"}}) {
+        fs::create_directories(socket / below);
+        fs::create_directories(root / "class/tty" / terminal);
+        fs::create_directory_symlink(socket / below, root / "class/tty" / terminal / "device");
+    }
+    for (const auto& [file, text] : {std::pair{"../idVendor", "1d6b"},
+                                     {"idVendor", "10c4"},
+                                     {"idProduct", "ea70"},
+                                     {"1-1.2:1.1/bInterfaceNumber", "01"}})
+        std::ofstream(socket / file) << text << '\n';
+    EXPECT_EQ(usbDeviceOf("ttyACM0", root), (UsbDevice{"10c4:ea70:01", "", "1-1.2"}));
+    std::ofstream(socket / "serial") << "01A2\n";
+    EXPECT_EQ(usbDeviceOf("ttyUSB1", root), (UsbDevice{"10c4:ea70:01", "01A2", "1-1.2"}));
+    EXPECT_EQ(usbDeviceOf("ttyS0", root), UsbDevice{});
 }
 
 TEST(SerialPortWatcherTest, PollingTellsOfChangesOnlyAndTheMonitorOpens) {

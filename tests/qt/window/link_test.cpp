@@ -96,6 +96,18 @@ TEST(LinkTest, PullingThePlugIsSaidAndShown) {
     EXPECT_FALSE(station.display.readMemoriesButton.enabled());
     station.click("m20Button");  // has no effect
     EXPECT_EQ(station.controller.link.serialPort(), nullptr);
+
+    const auto isOpen = [&] { return station.controller.link.isOpen(); };
+    station.action(QStringLiteral("Open a lost port again")).trigger();
+    station.radio.plugIn();
+    ASSERT_TRUE(eventually([&] { return station.controller.link.serialPort() != nullptr; }));
+    station.display.openCloseButton.performClick();
+    ASSERT_TRUE(isOpen());
+    station.radio.unplug();
+    ASSERT_TRUE(eventually([&] { return message->text().contains("It is opened again when it returns."); }));
+    EXPECT_FALSE(isOpen());
+    station.radio.plugIn();
+    EXPECT_TRUE(eventually(isOpen));
 }
 
 // Name and contents of every key, pop-up and field in the window.
