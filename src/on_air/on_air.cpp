@@ -67,12 +67,18 @@ void OnAir::followOver(bool transmits) {
     planWarning();
 }
 
+// With break-in, overs are short and many: one planned look serves them all.
 void OnAir::planWarning() {
-    const unsigned plan = ++plans_;
     if (!began_ || warned_ || timeOut_ == timeOut_.zero()) return;
-    const auto left = std::chrono::ceil<Scheduler::Duration>(*began_ + timeOut_ - tasks_.now());
-    tasks_.after(std::max(left, Scheduler::Duration::zero()), [this, plan] {
-        if (plan == plans_) warn();
+    const auto due = *began_ + timeOut_;
+    if (looks_ && *looks_ <= due) return;
+    looks_ = due;
+    const auto left = std::chrono::ceil<Scheduler::Duration>(due - tasks_.now());
+    tasks_.after(std::max(left, Scheduler::Duration::zero()), [this, due] {
+        if (looks_ != due) return;  // another look is planned before
+        looks_.reset();
+        const bool isDue = began_ && !warned_ && timeOut_ != timeOut_.zero() && tasks_.now() >= *began_ + timeOut_;
+        isDue ? warn() : planWarning();
     });
 }
 

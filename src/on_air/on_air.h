@@ -46,7 +46,7 @@ private:
     std::chrono::minutes timeOut_{0};
     std::optional<std::chrono::system_clock::time_point> began_;  // the transmission that goes on
     bool warned_ = false;                                         // of it
-    unsigned plans_ = 0;                                          // only the last planned warning counts
+    std::optional<std::chrono::system_clock::time_point> looks_;  // when it looks whether a warning is due
 };
 
 }  // namespace corvane

@@ -49,7 +49,7 @@ void Link::askWhetherOn() {
     if (!switchedOff_ || !synchronised_) return;
     tasks_.after(quiet, [this, question = ++question_, session = session_] {
         if (question != question_ || session != session_ || !switchedOff_) return;
-        if (serialPort_) serialPort_->sendData("PS;");
+        if (serialPort_) hand(*serialPort_, "PS;");
     });
 }
 

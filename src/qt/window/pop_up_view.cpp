@@ -99,7 +99,8 @@ void PopUpView::showModel() {
 
 bool PopUpView::event(QEvent* event) {
     // Whoever asks first for the list makes it: the operator or a screen reader.
-    const bool isList = event->type() == QEvent::ChildAdded && static_cast<QChildEvent*>(event)->child()->isWidgetType();
+    const bool isList =
+        event->type() == QEvent::ChildAdded && static_cast<QChildEvent*>(event)->child()->isWidgetType();
     if (isList)
         QMetaObject::invokeMethod(
             this, [this] { setUpList(); }, Qt::QueuedConnection);

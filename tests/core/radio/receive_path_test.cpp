@@ -40,7 +40,7 @@ TEST(ReceivePath, EachResponseTouchesTheControlsOfItsOwnHandlerOnly) {
         {"KM3CQ", {"textMemory3Button", "cwMemory3Button"}}, {"MC005", {}}, {"MD02", {"modeField", "modesPopUpButton"}},
         {"MS50", {"smeterPopUpButton"}}, {"NB00", {"NBPopupButton"}}, {"NL0005", {"NBPopupButton"}},
         {"NR00", {"DNRPopupButton"}}, {"OI000007074000+000000200000", {"vqFreqBButton"}},
-        {"PA01", {"ampPopUpButton"}}, {"PC050", {"tag2007"}}, {"PS0", {"linkMessageField", "linkStatusField", "sMeter"}}, {"RA01", {"ATTPopUpButton"}},
+        {"PA01", {"ampPopUpButton"}}, {"PC050", {"tag2007"}}, {"PS0", {"linkMessageField", "linkStatusField", "onAirField", "sMeter", "segmentField"}}, {"RA01", {"ATTPopUpButton"}},
         {"RG0200", {"rfGainSlider"}}, {"RL005", {"DNRPopupButton"}}, {"RM1100000", {"sMeter"}},
         {"SF03", {"MPVDButton"}}, {"SF1H", {"FuncKnobButton"}}, {"SS0010000", {"tag2000"}},
         {"SS0120000", {"tag2001"}}, {"SS03A0000", {"colorPopUpButton"}}, {"SS04+10.5", {"tag2004"}},
