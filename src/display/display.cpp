@@ -110,6 +110,13 @@ Display::Display()
     scopePeakPopUpButton.setEntries(entryList(scopePeakEntries));
     scopeLevelPopUpButton.setEntries(scopeLevelEntries());
     scopeSpanPopUpButton.setEntries(entryList(scopeSpanEntries));
+    for (TableView* spots : {&potaTable, &sotaTable}) spots->setEmptyText("No spots: press Refresh.");
+    for (TableView* nets : {&netLoggerTable, &netsTable}) nets->setEmptyText("No nets: press Refresh.");
+    mwTable.setEmptyText("No stations: they are fetched when Corvane starts.");
+    shareTable.setEmptyText("No program is connected.");
+    autoMemTable.setEmptyText("Nothing heard above the squelch yet; Keep frequency records the present one.");
+    watchTable.setEmptyText("Nobody that you watch for is on the lists.");
+    watchListTable.setEmptyText("Type a call or a reference above.");
     made.close();
 }
 

@@ -114,6 +114,10 @@ public:
     SortDirection sortDirection(int column) const;
     void pressHeader(int column);
 
+    // What an empty table says: why, and what to do.
+    std::string_view emptyText() const { return emptyText_; }
+    void setEmptyText(std::string_view text) { emptyText_ = text; }  // lives as long as the program
+
     // The rows are asked for again.
     void reloadData() {
         ++version_;
@@ -137,6 +141,7 @@ private:
     std::vector<std::optional<SortDescriptor>> prototypes_;  // by column
     std::optional<SortDescriptor> sortedBy_;                 // of the prototypes the one in force
     TableViewDataSource* source_ = nullptr;
+    std::string_view emptyText_;
     const Control* used_ = nullptr;
     CellPlace place_{};
     bool takesDraggedText_ = false;

@@ -71,11 +71,8 @@ QWidget* makeBandMapPage(BandMap& map, Display& display, ChangeQueue& queue) {
     top->addStretch();
     top->addLayout(refreshEveryRow(display, queue));
     rows->addLayout(top);
-    auto* chips = new QHBoxLayout;
-    chips->addLayout(
+    rows->addLayout(
         chipRow(display, {ChipGroup::all, ChipGroup::band, ChipGroup::mode, ChipGroup::kind}, queue, markOfChip));
-    chips->addStretch();
-    rows->addLayout(chips);
     rows->addWidget(new BandMapView(map, display, BandMapView::Extent::allBands, queue), 1);
     rows->addWidget(mapLine(display, queue, 2));
     return page;

@@ -27,6 +27,7 @@ struct Painting {
     const Qt::Alignment alignment;
     const bool hovered;
     const bool focused;
+    const QString shownText;  // of a text cell
 
     void text(const QString& text, const QRect& rect, const QColor& color) const {
         painter.setPen(color);
@@ -35,7 +36,7 @@ struct Painting {
     }
 
     void operator()(const TextCell& shown) const {
-        text(QString::fromStdString(shown.text), textRect(cell), shown.quiet ? theme.quietText : theme.text);
+        text(shownText, textRect(cell), shown.quiet ? theme.quietText : theme.text);
     }
     void operator()(const EditableCell& shown) const {
         text(QString::fromStdString(shown.text), textRect(cell), theme.text);
@@ -84,9 +85,9 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     painter->setFont(option.font);
     const bool focused = option.state.testFlag(QStyle::State_HasFocus);
     if (option.state.testFlag(QStyle::State_Selected)) painter->fillRect(option.rect, theme.key);
-    std::visit(
-        Painting{*painter, option.rect, theme, alignment, option.state.testFlag(QStyle::State_MouseOver), focused},
-        rows_.cell(index));
+    std::visit(Painting{*painter, option.rect, theme, alignment, option.state.testFlag(QStyle::State_MouseOver),
+                        focused, rows_.shownText(index)},
+               rows_.cell(index));
     if (focused) {
         painter->setPen(QPen(theme.accent, 1.5));
         painter->setBrush(Qt::NoBrush);

@@ -1,10 +1,10 @@
 #include "qt/window/chip_row.h"
 
-#include <QHBoxLayout>
 #include <QPainter>
 #include <algorithm>
 
 #include "qt/window/control_texts.h"
+#include "qt/window/flow_layout.h"
 #include "qt/window/theme.h"
 
 namespace corvane {
@@ -71,12 +71,11 @@ void ChipButton::paintEvent(QPaintEvent*) {
 
 QLayout* chipRow(Display& display, std::initializer_list<ChipGroup> groups, ChangeQueue& queue,
                  const std::function<ChipButton::Mark(Chip chip)>& markOf) {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(gridStep);
+    auto* row = new FlowLayout(gridStep);
     ChipGroup last = *groups.begin();
     for (const FilterChip& chip : filterChips) {
         if (std::ranges::find(groups, chip.group) == groups.end()) continue;
-        if (std::exchange(last, chip.group) != chip.group) row->addSpacing(2 * gridStep);
+        if (std::exchange(last, chip.group) != chip.group) row->addGap(2 * gridStep);
         row->addWidget(new ChipButton(display.chip(chip.chip), markOf ? markOf(chip.chip) : ChipButton::Mark(), queue));
     }
     return row;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <algorithm>
 #include <utility>
@@ -30,6 +31,20 @@ SliderView::SliderView(Slider& model, ChangeQueue& queue, QWidget* parent)
     };
     connect(this, &QSlider::valueChanged, this, [&model](int value) { model.drag(value); });
     connect(this, &QSlider::sliderReleased, this, show);
+    view_ = model.addView(queue, show);
+    show();
+}
+
+SliderValue::SliderValue(Slider& model, ChangeQueue& queue, QWidget* parent) : QLabel(parent) {
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setMinimumWidth(fontMetrics().horizontalAdvance(QString::number(model.maximum())) + gridStep);
+    setToolTip(toolTipOf(model));
+    setAccessibleName(spokenWithValue(model, std::to_string(model.integerValue())));
+    const auto show = [this, &model] {
+        setText(QString::number(model.integerValue()));
+        setAccessibleName(spokenWithValue(model, std::to_string(model.integerValue())));
+        fade(*this, conditionOf(model));
+    };
     view_ = model.addView(queue, show);
     show();
 }
@@ -124,6 +139,12 @@ GroupedPopUpView::GroupedPopUpView(PopUpButton& model, QWidget* parent) : QPushB
     menu->setAccessibleName(labelOf(model));
     addGroupedEntries(*menu, model);
     setMenu(menu);
+}
+
+void GroupedPopUpView::paintEvent(QPaintEvent* event) {
+    QPushButton::paintEvent(event);
+    QPainter painter(this);
+    paintChevron(painter, rect(), palette().color(QPalette::PlaceholderText));
 }
 
 void addGroupedEntries(QMenu& menu, PopUpButton& model) {

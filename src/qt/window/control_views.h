@@ -35,6 +35,17 @@ private:
     ViewHandle view_;
 };
 
+// The value of a slider, as a number beside it.
+class SliderValue : public QLabel {
+    Q_OBJECT
+
+public:
+    SliderValue(Slider& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+private:
+    ViewHandle view_;
+};
+
 class TextFieldView : public QLineEdit {
     Q_OBJECT
 
@@ -101,6 +112,9 @@ class GroupedPopUpView : public QPushButton {
 
 public:
     GroupedPopUpView(PopUpButton& model, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 // Adds the entries of a pop-up to a menu, a menu of its own for every group.

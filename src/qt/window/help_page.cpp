@@ -1,8 +1,10 @@
 // Every shortcut, made from the same tables as the controls.
 #include <QGridLayout>
 #include <QLabel>
+#include <array>
 
 #include "qt/window/control_texts.h"
+#include "qt/window/flow_page.h"
 #include "qt/window/key_ring.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
@@ -45,15 +47,23 @@ QWidget* makeHelpPage(const Display& display) {
     auto* rows = new QVBoxLayout(page);
     rows->setContentsMargins(pageMargins);
     auto* panel = new Panel("Shortcuts");
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(4 * gridStep);
-    grid->setVerticalSpacing(gridStep);
+    auto* columns = new FlowPage(2, 3);
+    columns->grid().setContentsMargins(0, 0, 0, 0);
+    std::array<QGridLayout*, 3> grids{};
+    for (int column = 0; column < 3; ++column) {
+        auto* place = new QWidget;
+        auto* grid = grids[static_cast<std::size_t>(column)] = new QGridLayout(place);
+        grid->setContentsMargins(0, 0, 0, 0);
+        grid->setHorizontalSpacing(4 * gridStep);
+        grid->setVerticalSpacing(gridStep);
+        grid->setColumnStretch(1, 1);
+        columns->add(place, {0, 4 * column, 4}, {column / 2, 6 * (column % 2), 6});
+    }
     const std::vector<ShortcutText> shortcuts = shortcutTexts(display);
     const int rowsInColumn = static_cast<int>((shortcuts.size() + 2) / 3);
     auto* ring = new KeyRing(1, panel);  // the arrow keys read one after the other
     int place = 0;
     for (const ShortcutText& shortcut : shortcuts) {
-        const int column = 2 * (place / rowsInColumn);
         auto* keys = new QLabel(shortcut.keys);
         keys->setFont(typeface(TypeSize::body, QFont::DemiBold));
         auto* meaning = new QLabel(shortcut.meaning);
@@ -63,12 +73,12 @@ QWidget* makeHelpPage(const Display& display) {
         meaning->setFocusPolicy(Qt::StrongFocus);
         meaning->setProperty("read", true);
         ring->add(*meaning);
-        grid->addWidget(keys, place % rowsInColumn, column);
-        grid->addWidget(meaning, place % rowsInColumn, column + 1);
-        grid->setColumnStretch(column + 1, 1);
+        QGridLayout& grid = *grids[static_cast<std::size_t>(place / rowsInColumn)];
+        grid.addWidget(keys, place % rowsInColumn, 0);
+        grid.addWidget(meaning, place % rowsInColumn, 1);
         ++place;
     }
-    panel->content().addLayout(grid);
+    panel->content().addWidget(columns);
     rows->addWidget(panel);
     auto* texts = new QHBoxLayout;
     texts->setSpacing(2 * gridStep);

@@ -79,8 +79,7 @@ QWidget* makeListPage(Display& display, ChangeQueue& queue, const ListPage& list
     top->addWidget(status, 1);
     rows->addLayout(top);
     auto* chips = new QHBoxLayout;
-    chips->addLayout(chipRow(display, {ChipGroup::all, ChipGroup::band, ChipGroup::mode}, queue));
-    chips->addStretch();
+    chips->addLayout(chipRow(display, {ChipGroup::all, ChipGroup::band, ChipGroup::mode}, queue), 1);
     chips->addLayout(refreshEveryRow(display, queue));
     rows->addLayout(chips);
     rows->addWidget(table, 1);

@@ -67,9 +67,16 @@ MainWindow::MainWindow(SerialPortDemoController& controller) : controller_(contr
     qApp->installEventFilter(this);
     // An operator connects first: Space alone does it.
     if (auto* connectKey = findChild<QPushButton*>("openCloseButton")) connectKey->setFocus();
-    resize(1280, 800);
+    resize(QSize(1280, 800).boundedTo(roomForWindow()));
     const std::string geometry = controller_.userDefaults.text(geometryKey).value_or("");
     if (!geometry.empty()) restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(geometry)));
+    if (!isMaximized() && !isFullScreen()) resize(size().boundedTo(roomForWindow()));
+}
+
+// What the screen has left for the window inside its frame, which is not there before the window is shown.
+QSize MainWindow::roomForWindow() const {
+    constexpr int titleBar = 32, edges = 4;
+    return screen()->availableSize() - QSize(edges, titleBar);
 }
 
 void MainWindow::makePages() {

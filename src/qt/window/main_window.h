@@ -36,6 +36,7 @@ private:
     void addPreference(QMenu& menu, MenuItem& item);
     void addChoice(QMenu& menu, PopUpButton& choice);
     void makePages();
+    QSize roomForWindow() const;
     void enterPage(int index);
     // Shortcuts that only move the keyboard work while a menu or a pop-up is open, too: they close it.
     void addWay(const QKeySequence& keys, std::function<void()> go);

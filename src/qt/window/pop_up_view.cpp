@@ -124,12 +124,10 @@ void PopUpView::paintEvent(QPaintEvent* event) {
     QComboBox::paintEvent(event);
     if (!model_.action) return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor ink = isEnabled() && !model_.busy() ? palette().color(QPalette::PlaceholderText)
-                                                     : palette().color(QPalette::Disabled, QPalette::ButtonText);
-    painter.setPen(QPen(ink, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF tip(width() - 3.0 * gridStep, height() / 2.0 + 2);
-    painter.drawPolyline(QPolygonF({tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}));
+    const bool usable = isEnabled() && !model_.busy();
+    paintChevron(painter, rect(),
+                 usable ? palette().color(QPalette::PlaceholderText)
+                        : palette().color(QPalette::Disabled, QPalette::ButtonText));
 }
 
 void PopUpView::wheelEvent(QWheelEvent* event) { event->ignore(); }

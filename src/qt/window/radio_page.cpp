@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "qt/window/control_views.h"
+#include "qt/window/flow_page.h"
 #include "qt/window/key_button.h"
 #include "qt/window/key_grid.h"
 #include "qt/window/pages.h"
@@ -22,6 +23,16 @@ void addRow(QGridLayout& grid, int place, int columns, const Control& control, Q
     grid.addWidget(titleLabel(control, *view), row, column);
     grid.addWidget(view, row, column + 1);
     grid.setColumnStretch(column + 1, 1);
+}
+
+// In two columns of controls.
+void addSlider(QGridLayout& grid, int place, Slider& slider, ChangeQueue& queue) {
+    auto* view = new SliderView(slider, queue);
+    auto* row = new QHBoxLayout;
+    row->addWidget(view, 1);
+    row->addWidget(new SliderValue(slider, queue));
+    grid.addWidget(titleLabel(slider, *view), place / 2, 2 * (place % 2));
+    grid.addLayout(row, place / 2, 2 * (place % 2) + 1);
 }
 
 QGridLayout* popUpGrid(const std::vector<PopUpButton*>& popUps, ChangeQueue& queue, int columns) {
@@ -79,8 +90,8 @@ Panel* receiverPanel(Display& display, ChangeQueue& queue) {
         popUpGrid({&display.modesPopUpButton, &display.memPopUpButton, &display.AGCPopUpButton, &display.ATTPopUpButton,
                    &display.ampPopUpButton, &display.RFILPopUpButton, &display.DNRPopupButton, &display.NBPopupButton},
                   queue, 2);
-    addRow(*grid, 8, 2, display.afGainSlider, new SliderView(display.afGainSlider, queue));
-    addRow(*grid, 9, 2, display.rfGainSlider, new SliderView(display.rfGainSlider, queue));
+    addSlider(*grid, 8, display.afGainSlider, queue);
+    addSlider(*grid, 9, display.rfGainSlider, queue);
     panel->content().addLayout(grid);
     panel->content().addStretch();
     return panel;
@@ -121,19 +132,15 @@ Panel* functionsPanel(Display& display, ChangeQueue& queue) {
 }  // namespace
 
 QWidget* makeRadioPage(BandMap& map, Display& display, ChangeQueue& queue) {
-    auto* panels = new QWidget;
-    auto* grid = new QGridLayout(panels);
-    grid->setContentsMargins(4 * gridStep, 3 * gridStep, 4 * gridStep, 3 * gridStep);
-    grid->setSpacing(3 * gridStep);
-    grid->addWidget(keysPanel("Bands, meters", display, KeyPanel::bands, queue, 13), 0, 0, 1, 12);
-    grid->addWidget(keysPanel("Mode", display, KeyPanel::modes, queue, 4), 1, 0, 1, 4);
-    grid->addWidget(tuningPanel(display, queue), 1, 4, 1, 4);
-    grid->addWidget(functionsPanel(display, queue), 1, 8, 1, 4);
-    grid->addWidget(receiverPanel(display, queue), 2, 0, 1, 5);
-    grid->addWidget(transmitterPanel(display, queue), 2, 5, 1, 3);
-    grid->addWidget(scopePanel(display, queue), 2, 8, 1, 4);
-    for (int column = 0; column < 12; ++column) grid->setColumnStretch(column, 1);
-    grid->setRowStretch(3, 1);
+    auto* panels = new FlowPage(3, 4);
+    panels->grid().setContentsMargins(4 * gridStep, 3 * gridStep, 4 * gridStep, 3 * gridStep);
+    panels->add(keysPanel("Bands, meters", display, KeyPanel::bands, queue, 13), {0, 0, 12}, {0, 0, 12});
+    panels->add(keysPanel("Mode", display, KeyPanel::modes, queue, 4), {1, 0, 4}, {1, 0, 6});
+    panels->add(tuningPanel(display, queue), {1, 4, 4}, {1, 6, 6});
+    panels->add(functionsPanel(display, queue), {1, 8, 4}, {2, 6, 6});
+    panels->add(receiverPanel(display, queue), {2, 0, 5}, {2, 0, 6});
+    panels->add(transmitterPanel(display, queue), {2, 5, 3}, {3, 0, 6});
+    panels->add(scopePanel(display, queue), {2, 8, 4}, {3, 6, 6});
     // The strip stays in sight while the panels scroll on a small screen.
     auto* place = new QScrollArea;
     place->setWidgetResizable(true);

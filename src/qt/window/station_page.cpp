@@ -5,6 +5,7 @@
 #include "qt/window/conditions_panel.h"
 #include "qt/window/control_views.h"
 #include "qt/window/entry_row.h"
+#include "qt/window/flow_page.h"
 #include "qt/window/key_button.h"
 #include "qt/window/line_panel.h"
 #include "qt/window/other_programs_panel.h"
@@ -79,25 +80,15 @@ Panel* callPanel(Display& display, ChangeQueue& queue) {
 }  // namespace
 
 QWidget* makeStationPage(LineWatch& line, Display& display, ChangeQueue& queue) {
-    auto* page = new QWidget;
-    auto* rows = new QVBoxLayout(page);
-    rows->setContentsMargins(pageMargins);
-    rows->setSpacing(3 * gridStep);
-    auto* start = new QGridLayout;
-    start->setSpacing(3 * gridStep);
-    start->addWidget(linkPanel(display, queue), 0, 0);
-    start->addWidget(callPanel(display, queue), 1, 0);
-    start->addWidget(firstStepsPanel(), 0, 1);
-    start->addWidget(commandPanel(display, queue), 1, 1);
-    start->addWidget(makeConditionsPanel(display, queue), 0, 2, 2, 1);
-    start->setColumnStretch(0, 5);
-    start->setColumnStretch(1, 6);
-    rows->addLayout(start);
-    auto* traffic = new QHBoxLayout;
-    traffic->setSpacing(3 * gridStep);
-    traffic->addWidget(makeOtherProgramsPanel(display, queue), 12);
-    traffic->addWidget(makeLinePanel(line, display, queue), 13);
-    rows->addLayout(traffic, 1);
+    auto* page = new FlowPage(2, 4);
+    page->grid().setContentsMargins(pageMargins);
+    page->add(linkPanel(display, queue), {0, 0, 4}, {0, 0, 6});
+    page->add(callPanel(display, queue), {1, 0, 4}, {1, 0, 6});
+    page->add(firstStepsPanel(), {0, 4, 4}, {0, 6, 6});
+    page->add(commandPanel(display, queue), {1, 4, 4}, {1, 6, 6});
+    page->add(makeConditionsPanel(display, queue), {0, 8, 4, 2}, {2, 0, 12});
+    page->add(makeOtherProgramsPanel(display, queue), {2, 0, 6}, {3, 0, 12});
+    page->add(makeLinePanel(line, display, queue), {2, 6, 6}, {4, 0, 12});
     return page;
 }
 

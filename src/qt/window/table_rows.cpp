@@ -30,17 +30,6 @@ QString spokenDirection(SortDirection direction) {
     return direction == SortDirection::ascending ? QStringLiteral(", ascending") : QStringLiteral(", descending");
 }
 
-// Hertz stand as on the display of the VFOs: "014253300" as "14.253.300".
-QString shownText(const TableColumn& column, const std::string& text) {
-    QString shown = QString::fromStdString(text);
-    bool isNumber = false;
-    const int hertz = shown.toInt(&isNumber);
-    if (column.tells != TableColumn::Tells::hertz || !isNumber) return shown;
-    shown = QString::number(hertz);
-    for (qsizetype place = shown.size() - 3; place > 0; place -= 3) shown.insert(place, '.');
-    return shown;
-}
-
 bool isButton(const TableCell& cell) { return std::holds_alternative<ButtonCell>(cell); }
 
 QString howTo(const TableCell& cell) {
@@ -73,12 +62,23 @@ TableCell TableRows::cell(const QModelIndex& index) const {
     return exists(index) ? table_.view(tableRow(index), index.column()) : TableCell{};
 }
 
+QString TableRows::shownText(const QModelIndex& index) const {
+    QString shown = QString::fromStdString(textOf(cell(index)));
+    if (table_.column(index.column()).tells != TableColumn::Tells::hertz) return shown;
+    bool isNumber = false;
+    const int hertz = shown.toInt(&isNumber);
+    if (!isNumber) return shown;
+    shown = QString::number(hertz);
+    for (qsizetype place = shown.size() - 3; place > 0; place -= 3) shown.insert(place, '.');
+    return shown;
+}
+
 QVariant TableRows::data(const QModelIndex& index, int role) const {
     if (!exists(index)) return {};
     switch (role) {
         case Qt::DisplayRole:
         case Qt::EditRole:
-            return shownText(table_.column(index.column()), textOf(cell(index)));
+            return shownText(index);
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(alignmentOf(table_.column(index.column())));
         case Qt::AccessibleTextRole: {

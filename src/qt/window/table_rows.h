@@ -26,6 +26,8 @@ public:
 
     // An empty text cell for a row that is gone.
     TableCell cell(const QModelIndex& index) const;
+    // What stands in a cell; hertz as on the display of the VFOs: "014253300" as "14.253.300".
+    QString shownText(const QModelIndex& index) const;
     // The row of the table that is shown there, and whether the table still has it.
     int tableRow(const QModelIndex& index) const { return shown_[static_cast<std::size_t>(index.row())]; }
     bool exists(const QModelIndex& index) const;

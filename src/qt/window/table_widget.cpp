@@ -106,6 +106,7 @@ void TableWidget::reload() {
     if (currentIndex().isValid() || (shownRows() > 0 && !left_.isValid())) rows_->watch(currentIndex());
     setDragEnabled(model_.takesDraggedText());
     setAcceptDrops(model_.takesDraggedText());
+    setAccessibleDescription(shownRows() == 0 ? emptyText() : toolTip());
     emit rowsChanged();
 }
 
@@ -396,8 +397,18 @@ void TableWidget::dropEvent(QDropEvent* event) {
     event->accept();
 }
 
+QString TableWidget::emptyText() const {
+    return allRows() > 0 ? QStringLiteral("No row passes the filter and the chips.") : toQString(model_.emptyText());
+}
+
 void TableWidget::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
+    if (shownRows() == 0) {
+        QPainter painter(viewport());
+        painter.setPen(Theme::current().quietText);
+        const QRect place = viewport()->rect().adjusted(4 * gridStep, 4 * gridStep, -4 * gridStep, -4 * gridStep);
+        painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, emptyText());
+    }
     if (!gap_) return;
     QPainter painter(viewport());
     const int y = rowViewportPosition(std::max(0, *gap_ - 1)) + (*gap_ > 0 ? TableView::rowHeight : 0);

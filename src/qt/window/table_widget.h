@@ -54,6 +54,7 @@ protected:
 
 private:
     void setUpHeaders();
+    QString emptyText() const;
     void reload();
     void tellCurrentCell();
     void leaveCell();

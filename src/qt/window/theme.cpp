@@ -147,6 +147,7 @@ QString Theme::styleSheet() const {
                "QPushButton[menu=\"true\"] { background: %5; color: %3; border: 1px solid %1; border-radius: 6px;"
                " padding: 5px 10px; }"
                "QTableView QLineEdit { padding: 0 6px; min-height: 0; border: 1px solid %4; border-radius: 3px; }"
+               "QPushButton[menu=\"true\"]::menu-indicator { image: none; width: 12px; }"
                "QPushButton[menu=\"true\"]:focus { border: 2px solid %4; padding: 4px 9px; }"
                "QTableView:focus { border: 1px solid %4; }"
                "QHeaderView::section { background: %6; color: %2; border: 0; border-bottom: 1px solid %1;"
@@ -170,6 +171,13 @@ QString Theme::styleSheet() const {
                "QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: 0; }")
         .arg(line.name(), quietText.name(), text.name(), accent.name(), key.name(), panel.name(), window.name(),
              warning.name(), readableOn(accent).name());
+}
+
+void paintChevron(QPainter& painter, const QRect& box, const QColor& ink) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF tip(box.right() - 3.0 * gridStep + 1, box.center().y() + 2.5);
+    painter.drawPolyline(QPolygonF({tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}));
 }
 
 void paintFocus(const QWidget& widget, QPainter& painter) {
