@@ -63,10 +63,10 @@ std::string defaultDatabase() {
     return folder / "corvane" / "directory.sqlite";
 }
 
-// The installed layout: bin/corvane-directory and share/doc/corvane.
+// The installed layout: bin/corvane-directory and share/corvane-directory.
 std::string defaultDocuments() {
     std::error_code error;
-    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().parent_path() / "share/doc/corvane";
+    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().parent_path() / "share/corvane-directory";
 }
 
 void take(Options& options, int option, const char* value) {

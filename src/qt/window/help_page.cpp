@@ -68,14 +68,17 @@ QWidget* makeHelpPage(const Display& display) {
         keys->setFont(typeface(TypeSize::body, QFont::DemiBold));
         auto* meaning = new QLabel(shortcut.meaning);
         meaning->setForegroundRole(QPalette::PlaceholderText);
+        meaning->setWordWrap(true);
+        meaning->setMinimumWidth(36 * gridStep);
         keys->setBuddy(meaning);
         meaning->setAccessibleName(shortcut.keys + ", " + shortcut.meaning);
         meaning->setFocusPolicy(Qt::StrongFocus);
         meaning->setProperty("read", true);
         ring->add(*meaning);
         QGridLayout& grid = *grids[static_cast<std::size_t>(place / rowsInColumn)];
-        grid.addWidget(keys, place % rowsInColumn, 0);
+        grid.addWidget(keys, place % rowsInColumn, 0, Qt::AlignTop);
         grid.addWidget(meaning, place % rowsInColumn, 1);
+        grid.setRowStretch(rowsInColumn, 1);
         ++place;
     }
     panel->content().addWidget(columns);

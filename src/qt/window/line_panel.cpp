@@ -18,6 +18,8 @@ namespace corvane {
 
 namespace {
 
+constexpr int shownLines = 4;  // without scrolling, at least; the header is one
+
 using namespace std::chrono_literals;
 
 constexpr auto pause = 100ms;  // between two looks
@@ -121,6 +123,7 @@ Panel* makeLinePanel(LineWatch& line, Display& display, ChangeQueue& queue) {
     choice->addWidget(new TextLabel(display.lineCountField, queue), 1);
     panel->content().addLayout(choice);
     auto* table = new LineTable(line);
+    table->setMinimumHeight(shownLines * table->fontMetrics().lineSpacing());
     table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     panel->content().addWidget(table, 1);
     panel->content().addLayout(keyRow({&display.linePauseButton, &display.lineClearButton, &display.lineCopyButton,

@@ -47,7 +47,7 @@ TableWidget::TableWidget(TableView& model, ChangeQueue& queue, QWidget* parent)
     setMouseTracking(true);
     setWordWrap(false);
     setCornerButtonEnabled(false);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setDropIndicatorShown(false);
     setUpHeaders();
     connect(this, &QTableView::clicked, this, [this](const QModelIndex& cell) {
@@ -82,7 +82,19 @@ void TableWidget::setUpHeaders() {
     const auto columns = model_.columns();
     const bool last = columns.back().alignment == TableColumn::Alignment::left;
     const auto longest = last ? columns.end() - 1 : std::ranges::max_element(columns, {}, &TableColumn::width);
-    horizontalHeader()->setSectionResizeMode(static_cast<int>(longest - columns.begin()), QHeaderView::Stretch);
+    stretched_ = static_cast<int>(longest - columns.begin());
+    leastStretched_ = std::min(columnWidth(stretched_), 12 * metrics.averageCharWidth() + 7 * gridStep);
+}
+
+// Where the columns have no room beside each other, the table scrolls.
+void TableWidget::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    int others = 0;
+    for (int column = 0; column < rows_->columnCount(); ++column)
+        others += column == stretched_ ? 0 : columnWidth(column);
+    const bool fits = others + leastStretched_ <= viewport()->width();
+    horizontalHeader()->setSectionResizeMode(stretched_, fits ? QHeaderView::Stretch : QHeaderView::Fixed);
+    if (!fits) setColumnWidth(stretched_, leastStretched_);
 }
 
 // Keeps the place: the current row, also if the table was empty for a while or the row stands elsewhere now, and what

@@ -51,6 +51,7 @@ protected:
     void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void setUpHeaders();
@@ -75,6 +76,8 @@ private:
     TableRows* rows_;
     CellDelegate* delegate_;
     int shownVersion_;
+    int stretched_ = 0;                         // the column that takes the spare room
+    int leastStretched_ = 0;                    // its least width
     std::optional<std::pair<int, int>> place_;  // row and column of the last current cell
     int scrolled_ = 0;                          // how far, while there were rows
     QPersistentModelIndex left_;                // the current cell when the keyboard went elsewhere

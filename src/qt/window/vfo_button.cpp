@@ -58,6 +58,16 @@ QSize VfoButton::sizeHint() const {
     return {metrics.horizontalAdvance(QStringLiteral("50.000.000")) + 8 * gridStep, metrics.height() + labelHeight()};
 }
 
+// With large letters on a small screen the digits shrink.
+QSize VfoButton::minimumSizeHint() const { return {sizeHint().width() * 3 / 5, sizeHint().height()}; }
+
+QFont VfoButton::fitting(const QString& digits, int width) const {
+    QFont fitted = font();
+    const int wanted = QFontMetrics(fitted).horizontalAdvance(digits);
+    if (wanted > width) fitted.setPointSizeF(fitted.pointSizeF() * width / wanted);
+    return fitted;
+}
+
 void VfoButton::paintEvent(QPaintEvent*) {
     const Theme& theme = Theme::current();
     QPainter painter(this);
@@ -84,9 +94,9 @@ void VfoButton::paintEvent(QPaintEvent*) {
     const QRect digits(16, labelHeight(), width() - 28, height() - labelHeight());
     // The hertz matter least: they are a little less bright.
     const qsizetype hertzAt = title.lastIndexOf('.');
-    const QFontMetrics metrics(font());
-    const int hertzWidth = metrics.horizontalAdvance(title.mid(hertzAt));
-    painter.setFont(font());
+    const QFont shown = fitting(title, digits.width());
+    const int hertzWidth = QFontMetrics(shown).horizontalAdvance(title.mid(hertzAt));
+    painter.setFont(shown);
     painter.setPen(active() && known && live ? theme.accent : theme.quietText);
     painter.drawText(digits.adjusted(0, 0, -hertzWidth, 0), Qt::AlignRight | Qt::AlignVCenter, title.left(hertzAt));
     QColor dim = painter.pen().color();

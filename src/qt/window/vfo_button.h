@@ -16,7 +16,7 @@ public:
               QWidget* parent = nullptr);
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -27,7 +27,8 @@ private:
     bool active() const { return activeVfo_.stringValue() == letter_; }
     bool onChannel() const { return !channel_.stringValue().empty(); }
     const std::string& frequency() const { return onChannel() ? channel_.stringValue() : model().title(); }
-    QString corner() const;  // the words at the upper right
+    QString corner() const;
+    QFont fitting(const QString& digits, int width) const;  // the words at the upper right
 
     TextField& activeVfo_;
     TextField& channel_;
