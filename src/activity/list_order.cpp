@@ -24,7 +24,7 @@ std::vector<int> ListOrder::rowOrder(const TableView& table) const {
         const int row = static_cast<int>(index);
         rows.push_back({row, sorted < 0 ? std::string() : table.cell(row, sorted), saysQrt(feed->feed, list[index])});
     }
-    return inOrder(std::move(rows), sorted < 0 ? SortDirection::unknown : table.sortDirection(sorted));
+    return inOrder(rows, sorted < 0 ? SortDirection::unknown : table.sortDirection(sorted));
 }
 
 // The table asks for the order once the header's direction is set.

@@ -27,7 +27,7 @@ struct SortKey {
 
 }  // namespace
 
-std::vector<int> inOrder(std::vector<ShownRow> rows, SortDirection direction) {
+std::vector<int> inOrder(const std::vector<ShownRow>& rows, SortDirection direction) {
     struct Sorted {
         int row;
         bool closed;

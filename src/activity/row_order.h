@@ -17,6 +17,6 @@ struct ShownRow {
 // The rows sorted by their keys, or as they stand if the direction is unknown; in any case those that have closed come
 // last. Numbers at the start of keys count as numbers: "900m" before "1200m". Rows without a key come after the others.
 // Rows with equal keys keep their order.
-std::vector<int> inOrder(std::vector<ShownRow> rows, SortDirection direction);
+std::vector<int> inOrder(const std::vector<ShownRow>& rows, SortDirection direction);
 
 }  // namespace corvane

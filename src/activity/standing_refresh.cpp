@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "wire/wire_text.h"
 
@@ -100,8 +101,16 @@ void StandingRefresh::show() {
     wakeUp_ = next;
     const auto wait = std::chrono::ceil<Scheduler::Duration>(std::max(next - tasks_.now(), Instant::duration(0)));
     tasks_.after(wait, [this, next] {
-        if (wakeUp_ == next) lookAgain();
+        if (wakeUp_ == next) wakeUp();
     });
+}
+
+// It is time, whatever the clock says: it may have been set back meanwhile.
+void StandingRefresh::wakeUp() {
+    const auto back = std::exchange(wakeUp_, {}) - tasks_.now();
+    if (back > 0s)
+        for (Turn& turn : turns_) turn.due -= back;
+    lookAgain();
 }
 
 // What is being fetched already counts as fetched.

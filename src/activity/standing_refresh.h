@@ -46,6 +46,7 @@ private:
     void plan(const ListFeed& list);
     void show();
     void fetchDue();
+    void wakeUp();
 
     Display& display_;
     Lists& lists_;

@@ -31,6 +31,10 @@ std::string joined(std::initializer_list<std::string> texts) {
     return line;
 }
 
+std::string counted(const std::string& number, std::string_view noun) {
+    return fmt::format("{} {}{}", number, noun, number == "1" ? "" : "s");
+}
+
 std::string sideBand(long long hertz) { return std::string(*modeName(voiceSideBands.usual(hertz))); }
 
 // Spots say "SSB" for what is tuned as LSB or USB.
@@ -70,7 +74,7 @@ MapEntry sotaEntry(const RowFacts& facts, const FeedRow& spot) {
 MapEntry netLoggerEntry(const RowFacts& facts, const FeedRow& net) {
     MapEntry entry = entryOf(EntryKind::netLogger, facts);
     const std::string subscribers = fieldOf(net, 3);
-    entry.detail = subscribers.empty() ? "" : subscribers + " subscribers";
+    entry.detail = subscribers.empty() ? "" : counted(subscribers, "subscriber");
     return entry;
 }
 
@@ -78,7 +82,7 @@ std::optional<MapEntry> netEntry(const RowFacts& facts, const FeedRow& net, Inst
     const auto minutes = minutesToNet(net[2], now);
     if (!minutes) return std::nullopt;
     MapEntry entry = entryOf(EntryKind::net, facts);
-    entry.detail = *minutes > 0 ? "in " + std::to_string(*minutes) + " minutes" : std::string("on now");
+    entry.detail = *minutes > 0 ? "in " + counted(std::to_string(*minutes), "minute") : std::string("on now");
     entry.more = fieldOf(net, 2) + " UTC";
     return entry;
 }

@@ -14,8 +14,9 @@
 
 namespace corvane {
 
-// The frequency that the transceiver would transmit on, in hertz; nothing while it is not known for sure. It is that of
-// the active side, or with split of the other one: its VFO or its memory channel, moved by its transmit clarifier.
+// The frequency that the transceiver would transmit on, in hertz; nothing while that of its side is not known for sure.
+// It is that of the active side, or with split of the other one: its VFO or its memory channel, moved by its transmit
+// clarifier. Split and clarifier count as off until the transceiver reports them; nobody asks for split.
 std::optional<long long> transmitFrequency(const SharedTransceiver& transceiver);
 
 class OnAir {

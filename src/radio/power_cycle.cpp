@@ -40,7 +40,7 @@ void Link::catchUp() {
     if (!synchronised_) return;  // that is still to come
     if (!inStep_) return writeString(syncRadioCmd_);
     const bool onA = display_.activeVfoField.stringValue() == "A";
-    sendCommand("AI1;");
+    sendCommand("AI1;AI;");  // the answer tells the other rooms that changes are reported again
     sendCommand(onA ? "OI;FB;IF;FA;" : "IF;FA;OI;FB;");
     sendCommand(otherReads);
 }

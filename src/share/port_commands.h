@@ -19,7 +19,8 @@ struct PortCommand {
         stores,     // into memories or the setup menu
         own,        // answered here
     };
-    // A setting that programs send often: digits after the name, up to so many kinds of it a second.
+    // A setting that programs send often: behind the name stand digits alone, a value within these limits. What comes
+    // faster than the line carries is left out; the last value counts.
     struct Paced {
         Item item;
         int lowest;

@@ -143,6 +143,11 @@ bool VirtualPort::handle(const std::string& command, ShareTime since) {
     const PortRequest request = portRequest(command);
     heard_ = now_;
     radio_.noteActivity();
+    // It can only end the transmission: a transceiver that seems silent gets it, too.
+    if (request.action == Action::unkey && radio_.keyedBy()) {
+        radio_.unkey();
+        return true;
+    }
     const Contact contact = radio_.contact();
     const bool present = contact == Contact::present;
     // A transceiver that is off answers nothing but what asks for that, or switches it on.
@@ -157,10 +162,7 @@ bool VirtualPort::handle(const std::string& command, ShareTime since) {
             answerAutoInformation(command);
             return true;
         case Action::unkey:
-            if (!radio_.keyedBy())
-                radio_.set(Item::transmit, 0, "TX0;");
-            else
-                radio_.unkey();
+            radio_.set(Item::transmit, 0, "TX0;");
             return true;
         case Action::key:
         case Action::transmit:

@@ -71,6 +71,7 @@ inline constexpr std::array linePhrases = [] {
         LinePhrase{"KY8", "", action, 0, "plays CW memory 3"},
         LinePhrase{"KY9", "", action, 0, "plays CW memory 4"},
         LinePhrase{"KYA", "", action, 0, "plays CW memory 5"},
+        LinePhrase{"MA", "", action, 0, "copies the memory channel to the VFO"},
         LinePhrase{"MC", "the memory channel", number, 3},
         LinePhrase{"MD0", "the mode", mode, 1},
         LinePhrase{"MR", "memory channel", record, 22, "", 3},

@@ -16,8 +16,9 @@ public:
     // Starts at the beginning of 2026-11-23 UTC.
     std::chrono::system_clock::time_point now() const override {
         thread_.check();
-        return std::chrono::sys_days{std::chrono::year{2026} / 11 / 23} + now_;
+        return std::chrono::sys_days{std::chrono::year{2026} / 11 / 23} + now_ + set_;
     }
+    void setClock(Duration by) { set_ += by; }  // as an operator does; what is planned stays
     void after(Duration delay, std::function<void()> task) override {
         thread_.check();
         tasks_.emplace(now_ + delay, std::move(task));
@@ -43,6 +44,7 @@ public:
 private:
     OwnThread thread_;
     Duration now_{0};
+    Duration set_{0};
     std::multimap<Duration, std::function<void()>> tasks_;  // equal times keep the order given
 };
 

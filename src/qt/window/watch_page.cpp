@@ -28,7 +28,7 @@ QWidget* makeWatchPage(Display& display, ChangeQueue& queue) {
     columns->setSpacing(4 * gridStep);
 
     auto* list = new Panel("Watch list");
-    list->content().addLayout(entryRow(display.watchField, "K1ABC, US-1234, W7W/*", {&display.watchAddButton}, queue));
+    list->content().addLayout(entryRow(display.watchField, "K1ABC or US-1234", {&display.watchAddButton}, queue));
     list->content().addWidget(new NoticeLabel(display.watchNoticeField, queue));
     list->content().addWidget(new TableWidget(display.watchListTable, queue), 1);
     columns->addWidget(list, 1);

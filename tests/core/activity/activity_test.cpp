@@ -160,6 +160,9 @@ TEST(Activity, ListsInSightAreRefreshedAtTheirInterval) {
     bench.answerLast({"[]", ""});
     EXPECT_THAT(bench.parks(), IsEmpty());
     EXPECT_THAT(waitForRequest(), testing::Le(133s)) << "an answer ends the longer waits";
+    bench.answerLast({"[]", ""});
+    bench.around.scheduler.setClock(-3h);
+    EXPECT_THAT(waitForRequest(), testing::Le(133s)) << "the clock has been set";
     bench.controller.standingRefresh.setInSight(false);
     EXPECT_EQ(waitForRequest(), 1h) << "minimized";
     bench.display.refreshEveryPopUpButton.choose(0);

@@ -44,7 +44,7 @@ struct MapBench : TestBench {
         put(Feed::sota, {{{"G4XYZ/P", "Pat", "14.062", "CW", "", "G/LD-001", "Some Fell", "900m", "8 points", "7"}},
                          {{"S5/ODD", "Pat", "10.101", "SSB", "", "S5/TK-001", "Hill", "", "", "-1"}}});
         put(Feed::netLogger, {{{"Noon Net", "7.255", "SSB", "12"}},
-                              {{"Late Net", "14300", "SSB", "3"}},
+                              {{"Late Net", "14300", "SSB", "1"}},
                               {{"Unreadable", "", "SSB", "3"}}});
         put(Feed::nets, {{{"On Now", "3.94", "23:30 Sun", "LSB", "", "", "7"}},
                          {{"Soon", "14.3", "00:20", "USB", "", "", "8"}},
@@ -106,13 +106,15 @@ TEST(BandMap, SaysOfEachEntryWhatItsTableSays) {
                     "Auto memory 14.074, 14.074 MHz, USB, General CW", "Memory M-05 CALLING, 14.250 MHz, USB, General",
                     "POTA K1ABC, US-0001, 14.285 MHz, USB, 4 minutes ago, General, A Park, US-ME, cq",
                     "POTA N0AGE, US-0001, 14.285 MHz, FT8, age unknown, General, A Park, US-ME, cq",
-                    "NetLogger Late Net, 3 subscribers, 14.300 MHz, USB, General",
+                    "NetLogger Late Net, 1 subscriber, 14.300 MHz, USB, General",
                     "Net Soon, in 20 minutes, 14.300 MHz, USB, General, 00:20 UTC",
                     "Station WAAA, Town, 640 kHz, AM, 50 kW"));
     EXPECT_EQ(bench.entries().outside, 1);
     EXPECT_EQ(countText(bench.entries().bands[meters20]), "3 spots, 4 min");
     EXPECT_EQ(countText(bench.entries().bands[meters80]), "1 entry");
-    bench.advance(31min);
+    bench.advance(19min);
+    EXPECT_THAT(entryText(bench.entries().bands[meters20].back()), HasSubstr("Net Soon, in 1 minute,"));
+    bench.advance(12min);
     EXPECT_EQ(bandText(meters80, bench.entries().bands[meters80]), "80 meters, 0 entries") << "the net is over";
     EXPECT_EQ(countText(bench.entries().bands[meters20]), "3 spots, 35 min") << "ages count up";
     bench.display.chip(Chip::sota).performClick();
@@ -196,7 +198,7 @@ TEST(BandMap, ReadsOutTheFiveNewestOfTheActiveBand) {
     MapBench bench;
     bench.display.readOutBandButton.performClick();
     const std::string text =
-        "20 meters, 7 entries. NetLogger Late Net, 3 subscribers, 14.300 MHz, USB, General. "
+        "20 meters, 7 entries. NetLogger Late Net, 1 subscriber, 14.300 MHz, USB, General. "
         "Net Soon, in 20 minutes, 14.300 MHz, USB, General. POTA K1ABC, US-0001, 14.285 MHz, USB, 4 minutes ago, "
         "General. "
         "SOTA G4XYZ/P, G/LD-001, 14.062 MHz, CW, 7 minutes ago, General CW. "

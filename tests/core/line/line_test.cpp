@@ -56,6 +56,7 @@ TEST(LineMeaning, SaysInWordsWhatIsKnownAndNeverGuesses) {
         {"EM15TEST;", sent, "sets PSK memory 5 to \"TEST\""},
         {"EX010101+00;", received, "menu item 010101 is \"+00\""},
         {"SV;", sent, "swaps the VFOs"},
+        {"MA;", sent, "copies the memory channel to the VFO"},
         {"FD;", received, "not readable"},
         {"KM1;", received, "CW memory 1 is \"\""},
         {"BS05;", sent, "goes to 14 MHz"},

@@ -66,6 +66,11 @@ TEST_F(PowerCycle, TheFirstWordBringsTheDisplayIntoStepAndLeavesTheTransceiverAs
             bench.transceiver.operate("FA014012340;FB014012340;MD02;");
             bench.settle();
             EXPECT_EQ((onB ? display.vqFreqBButton : display.vqFreqAButton).title(), "14.012.340") << "reports are on";
+            bench.transceiver.operate("TX1;");
+            bench.settle();
+            EXPECT_EQ(display.onAirField.stringValue(), "ON AIR") << "and are known to be";
+            bench.transceiver.operate("TX0;");
+            bench.settle();
         }
 }
 

@@ -276,6 +276,18 @@ TEST_F(VirtualPortTest, UnkeysWhoeverCannotUnkeyItself) {
         EXPECT_EQ(bench.transceiver.ask("TX;"), "TX0;") << i;
         settle();
     }
+    // A transceiver that seems silent, as while it transmits, gets the end of the transmission, too.
+    bench.display.openCloseButton.performClick();
+    settle();
+    ask("TX1;");
+    silence(true);
+    port().ask("ST;");
+    settle();
+    port().ask("TX0;");
+    EXPECT_THAT(line(), HasSubstr("TX0;"));
+    silence(false);
+    settle();
+    bench.display.openCloseButton.performClick();
     // What it sent before it left is read first: it leaves nothing keyed.
     bench.display.openCloseButton.performClick();
     settle();
