@@ -13,6 +13,10 @@ int main(int count, char* arguments[]) {
             std::cerr << "corvane-radio: " << options.fault << " (--help lists the options)\n";
             return 2;
         }
+        if (options.version) {
+            std::cout << "Corvane " CORVANE_VERSION "\n";
+            return 0;
+        }
         if (options.help) {
             std::cout << simulator::usageText();
             return 0;

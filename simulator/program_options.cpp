@@ -20,6 +20,8 @@ ProgramOptions parseOptions(std::span<const char* const> arguments) {
             options.silent = true;
         else if (argument == "--help" || argument == "-h")
             options.help = true;
+        else if (argument == "--version")
+            options.version = true;
         else
             options.fault = "unknown option " + std::string(argument);
     }
@@ -33,6 +35,7 @@ std::string usageText() {
            "  --instant     answer at once instead of after 10 ms at 38400 baud\n"
            "  --silent      start without answering; \"silent off\" ends that\n"
            "  --help        this text\n"
+           "  --version     the version\n"
            "\n"
            "Commands typed while it runs:\n\n" +
            Console::help();

@@ -11,12 +11,13 @@ struct ProgramOptions {
     bool instant = false;
     bool silent = false;
     bool help = false;
+    bool version = false;
     std::string fault = {};  ///< the error in the command line, or empty
 
     bool operator==(const ProgramOptions&) const = default;
 };
 
-// Reads the arguments after the program's name: --link PATH, --instant, --silent, --help.
+// Reads the arguments after the program's name: --link PATH, --instant, --silent, --help, --version.
 ProgramOptions parseOptions(std::span<const char* const> arguments);
 
 // What --help prints: the options and the typed commands.

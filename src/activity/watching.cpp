@@ -142,7 +142,7 @@ void Watching::tell(const std::vector<Spot>& appeared, const std::vector<Spot>& 
         add(moved, "has gone to");
     }
     notices_.deliver({title, text + ".", true}, [](NotificationId) {});
-    voice_.playSound("Funk");
+    voice_.playSystemSound("Tink");
     voice_.speak(text);
 }
 
