@@ -37,7 +37,9 @@ QSize FlowLayout::minimumSize() const {
 
 void FlowLayout::setGeometry(const QRect& rect) {
     QLayout::setGeometry(rect);
-    layOut(rect, true);
+    // Beside something higher the lines stand in the middle.
+    const int spare = std::max(0, rect.height() - heightForWidth(rect.width()));
+    layOut(rect.translated(0, spare / 2), true);
 }
 
 // The height of all lines.
