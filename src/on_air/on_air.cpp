@@ -45,9 +45,12 @@ OnAir::OnAir(Display& display, const SharedTransceiver& transceiver, Voice& voic
 }
 
 void OnAir::follow() {
-    const auto transmit = transceiver_.reported(Item::transmit);
+    const Facts facts{transceiver_.reported(Item::transmit), transmitFrequency(transceiver_),
+                      display_.ownClassPopUpButton.indexOfSelectedItem()};
+    if (shown_ == facts) return;
+    shown_ = facts;
+    const auto& [transmit, hertz, ownClass] = facts;
     showTransmitter(transmit);
-    const auto hertz = transmitFrequency(transceiver_);
     const bool outside =
         hertz && !mayTransmit(*hertz, licenceClass(display_.ownClassPopUpButton.titleOfSelectedItem()));
     display_.segmentField.setStringValue(outside ? outOfSegment : "");

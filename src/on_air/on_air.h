@@ -33,6 +33,14 @@ public:
     void chooseTimeOut(PopUpButton& sender);  // holds for a transmission that has begun, too
 
 private:
+    // All that the display shows of it.
+    struct Facts {
+        std::optional<int> transmit;
+        std::optional<long long> hertz;
+        int ownClass = -1;  // index of its entry
+        bool operator==(const Facts&) const = default;
+    };
+
     void showTransmitter(std::optional<int> transmit);
     void followOver(bool transmits);
     void planWarning();
@@ -44,6 +52,7 @@ private:
     SettingsStore& settings_;
     NotificationCenter& notices_;
     Tasks tasks_;
+    std::optional<Facts> shown_;
     std::chrono::minutes timeOut_{0};
     std::optional<std::chrono::system_clock::time_point> began_;  // the transmission that goes on
     bool warned_ = false;                                         // of it

@@ -9,6 +9,7 @@ void LineRecord::add(LineDirection direction, std::string_view bytes, std::chron
     while (!bytes.empty()) {
         const std::string_view piece = bytes.substr(0, std::min(bytes.find(';'), bytes.size() - 1) + 1);
         bytes.remove_prefix(piece.size());
+        if (ring_.size() < capacity) ring_.emplace_back();
         RecordedLine& line = ring_[end_ % capacity];
         line.at = at;
         line.size = static_cast<std::uint32_t>(piece.size());

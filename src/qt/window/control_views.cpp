@@ -97,10 +97,12 @@ void TextFieldView::focusOutEvent(QFocusEvent* event) {
 TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : QLabel(parent) {
     describe(*this, model);
     setTextFormat(Qt::PlainText);
-    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setWordWrap(true);
     setProperty("read", true);
     const auto show = [this, &model] {
+        // What makes a text selectable costs time and memory, and an empty one needs it not.
+        setTextInteractionFlags(model.stringValue().empty() ? Qt::NoTextInteraction
+                                                            : Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         setText(QString::fromStdString(model.stringValue()));
         setAccessibleName(spokenWithValue(model, model.stringValue()));
         setFocusPolicy(model.stringValue().empty() ? Qt::NoFocus : Qt::StrongFocus);  // the text can be copied

@@ -242,7 +242,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::chooseTheme(const QString& name) {
-    Theme::apply(name == "light" ? ThemeKind::light : ThemeKind::dark);
+    Theme::apply(name == "light" ? ThemeKind::light : ThemeKind::dark, *this);
 }
 
 void MainWindow::comeToFront(const QString& token) {

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
+#include <algorithm>
 #include <utility>
 
 #include "qt/window/busy_widget.h"
@@ -71,8 +73,6 @@ PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent)
     : QComboBox(parent), model_(model), entries_(new EntryModel(model, this)) {
     describe(*this, model);
     setModel(entries_);
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(6);
     setMaxVisibleItems(18);
     setPlaceholderText(QStringLiteral("\u2013"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -101,7 +101,7 @@ bool PopUpView::event(QEvent* event) {
     // Whoever asks first for the list makes it: the operator or a screen reader.
     const bool isList =
         event->type() == QEvent::ChildAdded && static_cast<QChildEvent*>(event)->child()->isWidgetType();
-    if (isList)
+    if (isList && !std::exchange(hasList_, true))
         QMetaObject::invokeMethod(
             this, [this] { setUpList(); }, Qt::QueuedConnection);
     return heldBack(model_, *event) || QComboBox::event(event);
@@ -113,6 +113,23 @@ void PopUpView::setUpList() {
     view()->setAccessibleName(labelOf(model_));
     if (auto* list = qobject_cast<QListView*>(view()))
         list->setUniformItemSizes(true);  // so that Qt does not measure each
+}
+
+// Qt would make the list to pass a new style or font on to it.
+void PopUpView::changeEvent(QEvent* event) {
+    const bool isForList = event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange;
+    isForList && !hasList_ ? QWidget::changeEvent(event) : QComboBox::changeEvent(event);
+}
+
+// The same for every list of entries: room for six letters and a picture. Qt would make the list to measure by itself.
+QSize PopUpView::sizeHint() const {
+    constexpr int letters = 6;
+    const QFontMetrics metrics(font());
+    const QSize content(letters * metrics.horizontalAdvance('X') + iconSize().width() + gridStep,
+                        std::max(metrics.height(), iconSize().height()) + 2);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, content, this);
 }
 
 void PopUpView::showPopup() {

@@ -15,10 +15,13 @@ class PopUpView : public QComboBox {
 public:
     PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
     void showPopup() override;
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;  // with a mark that says that it opens
     // The wheel scrolls the page and must not change the transceiver.
     void wheelEvent(QWheelEvent* event) override;
@@ -32,6 +35,7 @@ private:
     PopUpButton& model_;
     EntryModel* entries_;
     int shownEntries_ = -1;
+    bool hasList_ = false;
     bool listIsSetUp_ = false;
     ViewHandle view_;
 };

@@ -95,10 +95,10 @@ const Theme& Theme::current() { return kindInUse == ThemeKind::dark ? darkTheme 
 
 ThemeKind Theme::currentKind() { return kindInUse; }
 
-void Theme::apply(ThemeKind kind) {
+void Theme::apply(ThemeKind kind, QWidget& window) {
     kindInUse = kind;
     QApplication::setPalette(current().palette());
-    qApp->setStyleSheet(current().styleSheet());
+    window.setStyleSheet(current().styleSheet());
 }
 
 QPalette Theme::palette() const {

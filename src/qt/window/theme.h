@@ -36,8 +36,9 @@ struct Theme {
 
     static const Theme& current();
     static ThemeKind currentKind();
-    // Gives the application this look; every widget paints itself anew.
-    static void apply(ThemeKind kind);
+    // Gives the window and its dialogs this look. A style sheet of the whole application would style a page's widgets
+    // again each time that one of them finds its place in a larger one.
+    static void apply(ThemeKind kind, QWidget& window);
 
     QPalette palette() const;
     QString styleSheet() const;

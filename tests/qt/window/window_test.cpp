@@ -1,6 +1,7 @@
 // The window itself: names, focus, shortcuts, pages, repainting and size.
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -112,6 +113,23 @@ TEST(WindowTest, TextsOfOthersAreShownAsTheyStand) {
     });
     for (const char* shown : {"linkStatusField", "potaStatusField", "day8040Field", "portDetailsField", ""})
         EXPECT_TRUE(labels.contains(shown)) << shown << " (the title of a panel has no name)";
+}
+
+// A list costs more time and memory than all else of a pop-up.
+TEST(WindowTest, APopUpHasNoListBeforeItIsWanted) {
+    Station station;
+    std::set<QWidget*> popUps;
+    forEachPage(station, [&] {
+        for (QWidget* control : controlsInSight(station))
+            if (qobject_cast<QComboBox*>(control)) popUps.insert(control);
+    });
+    EXPECT_GT(popUps.size(), 150U);
+    for (QWidget* popUp : popUps) EXPECT_FALSE(popUp->findChild<QAbstractItemView*>()) << describe(popUp);
+    station.show(Display::radioPage);
+    auto* power =
+        station.window.findChild<QComboBox*>(QString::fromStdString(station.display.powerPopUpButton.objectName()));
+    ASSERT_TRUE(power);
+    EXPECT_TRUE(eventually([&] { return power->view()->accessibleName() == power->accessibleName(); }));
 }
 
 TEST(WindowTest, TheTabKeyReachesEveryEnabledControlOfEveryPage) {
