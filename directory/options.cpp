@@ -66,7 +66,8 @@ std::string defaultDatabase() {
 // The installed layout: bin/corvane-directory and share/corvane-directory.
 std::string defaultDocuments() {
     std::error_code error;
-    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().parent_path() / "share/corvane-directory";
+    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().parent_path() /
+           "share/corvane-directory";
 }
 
 void take(Options& options, int option, const char* value) {
