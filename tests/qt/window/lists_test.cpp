@@ -85,7 +85,7 @@ TEST(ListsTest, ARefreshKeepsTheRowAndWhatIsInSight) {
         station.lists.lists.setRows(listFeed(Feed::pota), std::move(rows));
         station.settle();
     };
-    const auto callAt = [table](const QModelIndex& cell) { return cell.siblingAtColumn(1).data().toString(); };
+    const auto callAt = [](const QModelIndex& cell) { return cell.siblingAtColumn(1).data().toString(); };
     put(0, "3");
     table->verticalScrollBar()->setValue(40);
     // The keyboard is elsewhere: a press must reach the row under the pointer, not scroll it away.
