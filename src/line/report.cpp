@@ -14,9 +14,10 @@ namespace corvane {
 namespace {
 
 // Nothing here may tell who the operator is. A setting without a row stays out.
-constexpr std::array<std::string_view, 14> reportedSettings{
-    "voice",     "sounds",      "ipo",         "bandmap",     "share",         "shareTransmit", "shareStore",
-    "sharePort", "virtualPort", "defaultPort", "defaultBaud", "operatorClass", "onAirTimeOut",  "theme"};
+constexpr std::array<std::string_view, 17> reportedSettings{
+    "voice",        "sounds",    "ipo",         "bandmap",      "share",       "shareTransmit",
+    "shareStore",   "sharePort", "virtualPort", "defaultPort",  "defaultBaud", "operatorClass",
+    "onAirTimeOut", "theme",     "reopen",      "refreshEvery", "chips"};
 
 std::string replaced(std::string text, std::string_view what, std::string_view by) {
     for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + by.size()))
