@@ -3,11 +3,7 @@
 #include <fmt/core.h>
 
 #include <algorithm>
-#include <array>
 #include <functional>
-
-#include "feeds/feed_cells.h"
-#include "wire/wire_text.h"
 
 namespace corvane {
 
@@ -15,23 +11,6 @@ namespace {
 
 constexpr std::string_view key = "watched";
 constexpr std::size_t toldOneByOne = 3;
-
-// Where the rows of the lists of spots have what only they have.
-struct SpotPlaces {
-    Feed list;
-    std::size_t place;  // the name of the park or summit
-    std::size_t age;
-    std::string_view name;
-};
-constexpr std::array spotPlaces{SpotPlaces{Feed::pota, 4, 5, "POTA"}, SpotPlaces{Feed::sota, 6, 9, "SOTA"}};
-
-const SpotPlaces& placesOf(Feed list) { return spotPlaces[list == Feed::sota ? 1 : 0]; }
-
-long long ageOf(const std::string& minutes) {
-    constexpr long long unknown = 1'000'000;
-    const auto age = decimal(minutes);
-    return age ? *age : unknown;
-}
 
 }  // namespace
 
@@ -76,17 +55,16 @@ void Watching::noteEntries() {
 std::vector<Watching::Spot> Watching::spotsOf(Feed list) const {
     std::map<std::string, Spot> newest;
     const FeedList& rows = lists_.state().*listFeed(list).list;
-    const SpotPlaces& at = placesOf(list);
     const long long since = lists_.state().minutesSince(list, tasks_.now());
     for (std::size_t row = 0; row < rows.size() && !list_.entries().empty(); ++row) {
         auto facts = rowFacts(list, rows[row]);
         if (!facts || !list_.watches(facts->name, facts->reference)) continue;
-        Spot spot{list, static_cast<int>(row), std::move(*facts), fieldOf(rows[row], at.place),
-                  laterAge(fieldOf(rows[row], at.age), since)};
+        if (facts->minutes) *facts->minutes += since;
+        Spot spot{list, static_cast<int>(row), std::move(*facts)};
         const auto known = newest.find(spot.facts.name);
         if (known == newest.end())
             newest.emplace(spot.facts.name, std::move(spot));
-        else if (ageOf(spot.age) < ageOf(known->second.age))
+        else if (spot.age() < known->second.age())
             known->second = std::move(spot);
     }
     std::vector<Spot> spots;
@@ -97,9 +75,9 @@ std::vector<Watching::Spot> Watching::spotsOf(Feed list) const {
 
 void Watching::showRows() {
     spots_.clear();
-    for (const SpotPlaces& each : spotPlaces)
-        for (Spot& spot : spotsOf(each.list)) spots_.push_back(std::move(spot));
-    std::ranges::stable_sort(spots_, {}, [](const Spot& spot) { return ageOf(spot.age); });
+    for (const Feed list : {Feed::pota, Feed::sota})
+        for (Spot& spot : spotsOf(list)) spots_.push_back(std::move(spot));
+    std::ranges::stable_sort(spots_, {}, &Spot::age);
     display_.watchTable.reloadData();
 }
 
@@ -174,10 +152,10 @@ TableCell Watching::viewFor(const TableView& table, int row, int column) const {
         if (shown == "activator") return spot.facts.name;
         if (shown == "frequency") return fmt::format("{:.1f}", static_cast<double>(spot.facts.hertz) / 1e3);
         if (shown == "mode") return spot.facts.mode;
-        if (shown == "kind") return std::string(placesOf(spot.list).name);
+        if (shown == "kind") return spot.list == Feed::sota ? "SOTA" : "POTA";
         if (shown == "reference") return spot.facts.reference;
-        if (shown == "name") return spot.place;
-        if (shown == "last") return spot.age.empty() ? "" : spot.age + " min";
+        if (shown == "name") return spot.facts.place;
+        if (shown == "last") return spot.facts.minutes ? fmt::format("{} min", *spot.facts.minutes) : "";
         return spot.facts.comment;
     };
     return TextCell{text()};

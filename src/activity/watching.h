@@ -44,10 +44,10 @@ private:
     using Instant = std::chrono::system_clock::time_point;
     struct Spot {
         Feed list;
-        int row;  // of its list
-        RowFacts facts;
-        std::string place;  // the name of the park or summit
-        std::string age;    // minutes; may be empty
+        int row;         // of its list
+        RowFacts facts;  // with the age as it is now
+
+        long long age() const { return facts.minutes.value_or(1'000'000); }  // minutes; an unknown one comes last
     };
     struct Told {
         long long hertz;

@@ -40,11 +40,6 @@ std::string sideBand(long long hertz) { return std::string(*modeName(voiceSideBa
 // Spots say "SSB" for what is tuned as LSB or USB.
 std::string spotMode(const std::string& mode, long long hertz) { return mode == "SSB" ? sideBand(hertz) : mode; }
 
-std::optional<long long> ageOf(const std::string& minutes) {
-    const auto age = decimal(minutes);
-    return age ? std::optional<long long>(*age) : std::nullopt;
-}
-
 // What all entries of lists have in common.
 MapEntry entryOf(EntryKind kind, const RowFacts& facts) {
     return {.kind = kind, .hertz = facts.hertz, .name = facts.name, .detail = facts.reference, .mode = facts.mode};
@@ -53,20 +48,19 @@ MapEntry entryOf(EntryKind kind, const RowFacts& facts) {
 MapEntry spotEntry(EntryKind kind, const RowFacts& facts) {
     MapEntry entry = entryOf(kind, facts);
     entry.mode = spotMode(facts.mode, facts.hertz);
+    entry.minutes = facts.minutes;
     return entry;
 }
 
 MapEntry potaEntry(const RowFacts& facts, const FeedRow& spot) {
     MapEntry entry = spotEntry(EntryKind::pota, facts);
-    entry.more = joined({fieldOf(spot, 4), fieldOf(spot, 8), facts.comment});
-    entry.minutes = ageOf(fieldOf(spot, 5));
+    entry.more = joined({facts.place, fieldOf(spot, 8), facts.comment});
     return entry;
 }
 
 MapEntry sotaEntry(const RowFacts& facts, const FeedRow& spot) {
     MapEntry entry = spotEntry(EntryKind::sota, facts);
-    entry.more = joined({fieldOf(spot, 6), fieldOf(spot, 7), fieldOf(spot, 8), facts.comment});
-    entry.minutes = ageOf(fieldOf(spot, 9));
+    entry.more = joined({facts.place, fieldOf(spot, 7), fieldOf(spot, 8), facts.comment});
     entry.closed = saysQrt(facts.comment);
     return entry;
 }

@@ -30,10 +30,12 @@ struct Places {
     std::size_t reference = none;
     std::size_t mode = none;
     std::size_t comment = none;
+    std::size_t place = none;
+    std::size_t age = none;
 };
 constexpr std::array places{
-    Places{Feed::pota, 5, 1, kilohertz, 0, 9, 2, 3},   Places{Feed::sota, 7, 2, megahertz, 0, 5, 3, 4},
-    Places{Feed::netLogger, 2, 1, unitOfNetLogger, 0}, Places{Feed::nets, 4, 1, megahertz, 0, none, 3},
+    Places{Feed::pota, 5, 1, kilohertz, 0, 9, 2, 3, 4, 5}, Places{Feed::sota, 7, 2, megahertz, 0, 5, 3, 4, 6, 9},
+    Places{Feed::netLogger, 2, 1, unitOfNetLogger, 0},     Places{Feed::nets, 4, 1, megahertz, 0, none, 3},
     Places{Feed::mediumWave, 2, 1, kilohertz, 0},
 };
 
@@ -65,8 +67,14 @@ std::optional<RowFacts> rowFacts(Feed list, const FeedRow& row) {
     if (!at || row.fields.size() < at->fewest) return std::nullopt;
     const auto tuned = tunedHertz(*at, row);
     if (!tuned) return std::nullopt;
-    return RowFacts{*tuned, fieldOf(row, at->name), fieldOf(row, at->reference), modeOf(*at, row, *tuned),
-                    fieldOf(row, at->comment)};
+    const auto age = decimal(fieldOf(row, at->age));
+    return RowFacts{*tuned,
+                    fieldOf(row, at->name),
+                    fieldOf(row, at->reference),
+                    modeOf(*at, row, *tuned),
+                    fieldOf(row, at->comment),
+                    fieldOf(row, at->place),
+                    age ? std::optional<long long>(*age) : std::nullopt};
 }
 
 bool saysQrt(std::string_view comment) { return upperCase(comment).find("QRT") != std::string::npos; }

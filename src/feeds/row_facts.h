@@ -16,6 +16,8 @@ struct RowFacts {
     std::string reference = {};  // of the park or summit: "US-1234"
     std::string mode = {};       // as its Tune key sets it where that is fixed, else as the list has it: "SSB"
     std::string comment = {};
+    std::string place = {};                 // the name of the park or summit
+    std::optional<long long> minutes = {};  // the age of a spot when its row came
 };
 
 // Nothing for a row that cannot be tuned to.
