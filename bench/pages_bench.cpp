@@ -2,7 +2,6 @@
 //
 // It needs a screen; QT_QPA_PLATFORM=offscreen serves, too. Exits with 1 when an aim is missed.
 #include <QApplication>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <chrono>
 #include <cstdio>
@@ -42,7 +41,6 @@ double open(MainWindow& window, TabView& pages, int index) {
 
 int run(int argc, char** argv) {
     const QApplication application(argc, argv);
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
     const QTemporaryDir folder;
     QtPlatformOptions options;
     options.settingsPath = folder.filePath("corvane.conf");

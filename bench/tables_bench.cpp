@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QScrollBar>
-#include <QStyleFactory>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -123,6 +122,5 @@ int run() {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
     return corvane::run();
 }

@@ -21,7 +21,6 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPaintEvent>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <algorithm>
@@ -522,7 +521,6 @@ int run(int argc, char** argv) {
     if (::write(wishes[1], "r", 1) != 1) return 1;
     {
         Application application(argc, argv);
-        QApplication::setStyle(QStyleFactory::create("Fusion"));
         WindowBench bench(application, line.path(), wishes[1], shared, bare);
         std::printf("platform %s\n", QApplication::platformName().toUtf8().constData());
         good = good && bench.open();

@@ -1,7 +1,6 @@
 // Corvane: one window, one transceiver.
 #include <QApplication>
 #include <QIcon>
-#include <QStyleFactory>
 #include <cstdio>
 
 #include "app/app_delegate.h"
@@ -25,7 +24,6 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName("corvane");
     const QApplication application(argc, argv);
     const corvane::QuitSignals quitSignals;
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
     corvane::RunningInstance instance;
     if (!instance.isFirst()) return 0;
 

@@ -10,6 +10,7 @@
 
 #include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
+#include "qt/window/painted_style.h"
 #include "qt/window/theme.h"
 
 namespace corvane {
@@ -57,7 +58,7 @@ TextFieldView::TextFieldView(TextField& model, ChangeQueue& queue, QWidget* pare
     : QLineEdit(parent), model_(model), resignations_(model.resignations()) {
     describe(*this, model);
     if (model.maximumLength() > 0) setMaxLength(model.maximumLength());
-    setProperty("shown", !takesText());
+    setOnlyShows(*this, !takesText());
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { model_.edit(text.toStdString()); });
     connect(this, &QLineEdit::returnPressed, this, [this] { model_.performReturn(); });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* from, QWidget* to) {
@@ -94,11 +95,10 @@ void TextFieldView::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
 }
 
-TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : QLabel(parent) {
+TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : ReadLabel({}, parent) {
     describe(*this, model);
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    setProperty("read", true);
     const auto show = [this, &model] {
         // What makes a text selectable costs time and memory, and an empty one needs it not.
         setTextInteractionFlags(model.stringValue().empty() ? Qt::NoTextInteraction
@@ -113,10 +113,14 @@ TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : QL
 
 NoticeLabel::NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : TextLabel(model, queue, parent) {
     setContentsMargins(3 * gridStep, 2 * gridStep, 3 * gridStep, 2 * gridStep);
-    setProperty("notice", true);
     const auto show = [this, &model] { setVisible(!model.stringValue().empty()); };
     notice_ = model.addView(queue, show);
     if (model.stringValue().empty()) hide();
+}
+
+void NoticeLabel::paintEvent(QPaintEvent* event) {
+    QPainter(this).fillRect(rect(), Theme::current().warning);
+    TextLabel::paintEvent(event);
 }
 
 ProgressView::ProgressView(LevelIndicator& model, ChangeQueue& queue, QWidget* parent) : QProgressBar(parent) {
@@ -135,7 +139,6 @@ ProgressView::ProgressView(LevelIndicator& model, ChangeQueue& queue, QWidget* p
 GroupedPopUpView::GroupedPopUpView(PopUpButton& model, QWidget* parent) : QPushButton(parent) {
     describe(*this, model);
     setText(toQString(model.outlet().title));
-    setProperty("menu", true);
     setFont(typeface(TypeSize::key, QFont::DemiBold));
     auto* menu = new QMenu(this);
     menu->setAccessibleName(labelOf(model));

@@ -14,6 +14,7 @@
 #include "display/pop_up_button.h"
 #include "display/slider.h"
 #include "display/text_field.h"
+#include "qt/window/read_label.h"
 
 class QMenu;
 
@@ -74,7 +75,7 @@ private:
 };
 
 // A text that is only read. Tab reaches it while there is something to read.
-class TextLabel : public QLabel {
+class TextLabel : public ReadLabel {
     Q_OBJECT
 
 public:
@@ -90,6 +91,9 @@ class NoticeLabel : public TextLabel {
 
 public:
     NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     ViewHandle notice_;

@@ -10,6 +10,7 @@
 #include "qt/window/control_views.h"
 #include "qt/window/key_button.h"
 #include "qt/window/on_air_lamp.h"
+#include "qt/window/read_label.h"
 #include "qt/window/s_meter_view.h"
 #include "qt/window/theme.h"
 #include "qt/window/vfo_button.h"
@@ -59,13 +60,12 @@ private:
 };
 
 // The name of the mode, in large letters.
-class ModeLabel : public QLabel {
+class ModeLabel : public ReadLabel {
 public:
     ModeLabel(TextField& mode, ChangeQueue& queue) {
         describe(*this, mode);
         setTextFormat(Qt::PlainText);
         setFocusPolicy(Qt::TabFocus);
-        setProperty("read", true);
         setFont(typeface(TypeSize::value, QFont::DemiBold));
         const auto show = [this, &mode] {
             const std::string& name = mode.stringValue();

@@ -8,6 +8,7 @@
 #include "qt/window/key_ring.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
+#include "qt/window/read_label.h"
 #include "qt/window/shortcuts.h"
 #include "qt/window/theme.h"
 
@@ -66,14 +67,13 @@ QWidget* makeHelpPage(const Display& display) {
     for (const ShortcutText& shortcut : shortcuts) {
         auto* keys = new QLabel(shortcut.keys);
         keys->setFont(typeface(TypeSize::body, QFont::DemiBold));
-        auto* meaning = new QLabel(shortcut.meaning);
+        auto* meaning = new ReadLabel(shortcut.meaning);
         meaning->setForegroundRole(QPalette::PlaceholderText);
         meaning->setWordWrap(true);
         meaning->setMinimumWidth(36 * gridStep);
         keys->setBuddy(meaning);
         meaning->setAccessibleName(shortcut.keys + ", " + shortcut.meaning);
         meaning->setFocusPolicy(Qt::StrongFocus);
-        meaning->setProperty("read", true);
         ring->add(*meaning);
         QGridLayout& grid = *grids[static_cast<std::size_t>(place / rowsInColumn)];
         grid.addWidget(keys, place % rowsInColumn, 0, Qt::AlignTop);

@@ -21,6 +21,7 @@ public:
         describe(*this, log);
         setReadOnly(true);
         setTabChangesFocus(true);
+        setViewportMargins(gridStep, gridStep, gridStep, gridStep);
         setPlaceholderText("What was sent, newest first");
         const auto show = [this, &log] { setPlainText(QString::fromStdString(log.stringValue())); };
         view_ = log.addView(queue, show);

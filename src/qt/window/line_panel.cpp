@@ -11,6 +11,7 @@
 #include "qt/window/filter_field.h"
 #include "qt/window/key_button.h"
 #include "qt/window/line_rows.h"
+#include "qt/window/painted_style.h"
 #include "qt/window/theme.h"
 #include "qt/window/tick_box.h"
 
@@ -45,7 +46,7 @@ public:
         horizontalHeader()->setStretchLastSection(true);
         horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         horizontalHeader()->setHighlightSections(false);
-        horizontalHeader()->setStyleSheet("QHeaderView::section { padding: 4px 3px; }");  // above the cells' texts
+        setTitleMargin(*horizontalHeader(), 3);  // above the cells' texts
         const QFontMetrics text = fontMetrics();
         setColumnWidth(LineRows::time, text.horizontalAdvance("00:00:00.000") + 4 * gridStep);
         setColumnWidth(LineRows::direction, text.horizontalAdvance("Direction") + 4 * gridStep);

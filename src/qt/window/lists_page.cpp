@@ -1,6 +1,5 @@
 // The on-line lists, one page each, and the band conditions.
 #include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 
 #include "qt/window/chip_row.h"
@@ -11,6 +10,7 @@
 #include "qt/window/key_button.h"
 #include "qt/window/pages.h"
 #include "qt/window/panel.h"
+#include "qt/window/read_label.h"
 #include "qt/window/tab_pages.h"
 #include "qt/window/table_widget.h"
 #include "qt/window/theme.h"
@@ -59,7 +59,7 @@ QWidget* makeListPage(Display& display, ChangeQueue& queue, const ListPage& list
     filter->setClearButtonEnabled(true);
     filter->setAccessibleName(name + ", filter");
     filter->setToolTip("Show only the rows that contain all these words.");
-    auto* count = new QLabel;
+    auto* count = new ReadLabel;
     count->setObjectName(QString::fromStdString(model.objectName()) + "Count");
     count->setToolTip("How many rows are shown, of how many.");
     const auto showCount = [table, count, name] {
@@ -71,7 +71,6 @@ QWidget* makeListPage(Display& display, ChangeQueue& queue, const ListPage& list
     showCount();
     makeFilterSpeak(*filter, display, [count] { return count->text() + " match"; });
     count->setFocusPolicy(Qt::TabFocus);
-    count->setProperty("read", true);
     top->addWidget(filter, 1);
     top->addWidget(count);
     auto* status = new TextLabel(display.*list.status, queue);

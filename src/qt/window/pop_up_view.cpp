@@ -8,11 +8,13 @@
 #include <QPixmap>
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <utility>
 
 #include "qt/window/busy_widget.h"
 #include "qt/window/control_texts.h"
+#include "qt/window/painted_style.h"
 #include "qt/window/theme.h"
 
 namespace corvane {
@@ -76,7 +78,7 @@ PopUpView::PopUpView(PopUpButton& model, ChangeQueue& queue, QWidget* parent)
     setMaxVisibleItems(18);
     setPlaceholderText(QStringLiteral("\u2013"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setProperty("shown", !model.action);
+    setOnlyShows(*this, !model.action);
     setFocusPolicy(model.action ? Qt::StrongFocus : Qt::TabFocus);
     connect(this, &QComboBox::activated, this, [this](int index) { model_.choose(index); });
     view_ = model.addView(queue, [this] { showModel(); });
@@ -111,6 +113,7 @@ bool PopUpView::event(QEvent* event) {
 void PopUpView::setUpList() {
     if (std::exchange(listIsSetUp_, true)) return;
     view()->setAccessibleName(labelOf(model_));
+    setItemDelegate(new QStyledItemDelegate(this));  // asks the style for the height of an entry
     if (auto* list = qobject_cast<QListView*>(view()))
         list->setUniformItemSizes(true);  // so that Qt does not measure each
 }

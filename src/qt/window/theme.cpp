@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QToolTip>
 #include <QWidget>
 #include <array>
 #include <cmath>
@@ -95,10 +96,20 @@ const Theme& Theme::current() { return kindInUse == ThemeKind::dark ? darkTheme 
 
 ThemeKind Theme::currentKind() { return kindInUse; }
 
-void Theme::apply(ThemeKind kind, QWidget& window) {
+void Theme::apply(ThemeKind kind) {
     kindInUse = kind;
-    QApplication::setPalette(current().palette());
-    window.setStyleSheet(current().styleSheet());
+    const Theme& theme = current();
+    QPalette colors = theme.palette();
+    QApplication::setPalette(colors);
+    QToolTip::setPalette(colors);
+    colors.setColor(QPalette::Base, theme.panel);
+    QApplication::setPalette(colors, "QComboBoxListView");
+    colors.setColor(QPalette::AlternateBase, theme.window);
+    colors.setColor(QPalette::Highlight, theme.key);
+    colors.setColor(QPalette::HighlightedText, theme.text);
+    QApplication::setPalette(colors, "QTableView");
+    colors.setColor(QPalette::ButtonText, theme.quietText);
+    QApplication::setPalette(colors, "QHeaderView");
 }
 
 QPalette Theme::palette() const {
@@ -120,57 +131,6 @@ QPalette Theme::palette() const {
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         colors.setColor(QPalette::Disabled, role, mixed(quietText, panel, 0.35));
     return colors;
-}
-
-QString Theme::styleSheet() const {
-    return QStringLiteral(
-               "QTabWidget::pane { border: 0; border-top: 1px solid %1; }"
-               "QTabBar { background: transparent; }"
-               "QTabBar::tab { background: transparent; color: %2; padding: 9px 18px; border: 0;"
-               " border-bottom: 3px solid transparent; }"
-               "QTabBar::tab:hover { color: %3; }"
-               "QTabBar::tab:selected { color: %3; border-bottom-color: %4; }"
-               "QTabBar::tab:focus { color: %3; background: %5; }"
-               "QComboBox, QLineEdit { background: %5; color: %3; border: 1px solid %1; border-radius: 5px;"
-               " padding: 3px 8px; min-height: 22px; }"
-               "QComboBox:focus, QLineEdit:focus, QPlainTextEdit:focus { border: 1px solid %4; }"
-               "QComboBox[shown=\"true\"], QLineEdit[shown=\"true\"] { background: transparent; }"
-               "QComboBox::drop-down { border: 0; width: 20px; }"
-               "QComboBox { combobox-popup: 0; }"  // opens below the box, not over the whole screen
-               "QComboBox[shown=\"true\"]::drop-down { width: 0; }"
-               "QComboBox QAbstractItemView { background: %6; color: %3; selection-background-color: %4;"
-               " border: 1px solid %1; }"
-               "QPlainTextEdit { background: %5; color: %3; border: 1px solid %1; border-radius: 5px; padding: 4px; }"
-               "QTableView { background: %6; alternate-background-color: %7; color: %3; border: 1px solid %1;"
-               " border-radius: 5px; selection-background-color: %5; selection-color: %3; }"
-               "QTableView QLineEdit { padding: 0 6px; min-height: 0; border: 1px solid %4; border-radius: 3px; }"
-               "QPushButton[menu=\"true\"] { background: %5; color: %3; border: 1px solid %1; border-radius: 6px;"
-               " padding: 5px 10px; }"
-               "QTableView QLineEdit { padding: 0 6px; min-height: 0; border: 1px solid %4; border-radius: 3px; }"
-               "QPushButton[menu=\"true\"]::menu-indicator { image: none; width: 12px; }"
-               "QPushButton[menu=\"true\"]:focus { border: 2px solid %4; padding: 4px 9px; }"
-               "QTableView:focus { border: 1px solid %4; }"
-               "QHeaderView::section { background: %6; color: %2; border: 0; border-bottom: 1px solid %1;"
-               " padding: 5px 10px; }"
-               "QProgressBar#memoryReadProgress { background: %5; border: 0; border-radius: 3px; max-height: 6px; }"
-               "QProgressBar#memoryReadProgress::chunk { background: %4; border-radius: 3px; }"
-               "QMenuBar { background: %7; } QMenuBar::item { padding: 5px 10px; background: transparent; }"
-               "QMenuBar::item:selected { background: %4; color: %9; border-radius: 4px; }"
-               "QMenu { background: %6; border: 1px solid %1; padding: 4px; }"
-               "QMenu::item { padding: 5px 26px 5px 22px; } QMenu::item:selected { background: %4; color: %9; }"
-               "QToolTip { background: %6; color: %3; border: 1px solid %1; padding: 4px; }"
-               "QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }"
-               "QScrollBar:horizontal { background: transparent; height: 10px; margin: 0; }"
-               "QScrollBar::handle { background: %1; border-radius: 4px; margin: 1px; min-height: 24px; min-width: "
-               "24px; }"
-               "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
-               "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }"
-               "QLabel[notice=\"true\"] { background: %8; }"
-               "QLabel[read=\"true\"] { border: 1px solid transparent; border-radius: 3px; }"
-               "QLabel[read=\"true\"]:focus { border: 1px solid %4; }"
-               "QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: 0; }")
-        .arg(line.name(), quietText.name(), text.name(), accent.name(), key.name(), panel.name(), window.name(),
-             warning.name(), readableOn(accent).name());
 }
 
 void paintChevron(QPainter& painter, const QRect& box, const QColor& ink) {

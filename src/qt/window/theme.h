@@ -5,7 +5,6 @@
 #include <QFont>
 #include <QMargins>
 #include <QPalette>
-#include <QString>
 
 #include "display/control.h"
 
@@ -36,12 +35,9 @@ struct Theme {
 
     static const Theme& current();
     static ThemeKind currentKind();
-    // Gives the window and its dialogs this look. A style sheet of the whole application would style a page's widgets
-    // again each time that one of them finds its place in a larger one.
-    static void apply(ThemeKind kind, QWidget& window);
+    static void apply(ThemeKind kind);  // to every window
 
     QPalette palette() const;
-    QString styleSheet() const;
 };
 
 // A frame around a widget that has the keyboard and paints itself.

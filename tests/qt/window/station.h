@@ -78,6 +78,9 @@ public:
     // Opens the port and waits until all requests have been answered and the line is quiet.
     void synchronise() {
         open();
+        waitForOpening();
+    }
+    void waitForOpening() {
         ASSERT_TRUE(eventually([this] { return radio.transceiver.received().count("EX") > 0; }));
         settle();
     }

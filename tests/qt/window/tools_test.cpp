@@ -221,7 +221,9 @@ TEST(ToolsTest, AnInterruptedReadLeavesTheProgramUsable) {
     ASSERT_TRUE(
         eventually([&] { return listed() < static_cast<int>(station.display.PortPopUpButton.entries().size()); }));
     station.display.PortPopUpButton.choose(listed());
+    station.radio.takeReceived();
     station.display.openCloseButton.performClick();
+    station.waitForOpening();
     EXPECT_TRUE(readsEverything());
 }
 

@@ -398,7 +398,31 @@ TEST(WindowTest, AnotherThemeIsSeenAtOnceAndEverywhere) {
         const QImage picture = station.window.grab().toImage();
         EXPECT_EQ(picture.pixelColor(2, picture.height() - 3), Theme::current().window);
         EXPECT_EQ(message->grab().toImage().pixelColor(message->width() - 2, 2), Theme::current().warning) << text;
+        for (const auto& [name, ground] : {std::pair{"PortPopUpButton", Theme::current().key},
+                                           {"sendTextField", Theme::current().key},
+                                           {"lineTable", Theme::current().panel}}) {
+            auto* widget = station.find<QWidget>(name);
+            ASSERT_TRUE(widget) << name;
+            const QImage shown = widget->grab().toImage();
+            EXPECT_EQ(shown.pixelColor(shown.width() / 2, shown.height() - 4), ground) << name << ", " << text;
+        }
     }
+}
+
+TEST(WindowTest, AScrollBarGoesByPagesAndFollowsItsHandle) {
+    Station station;
+    station.show(Display::memoriesPage);
+    auto* bar = station.find<QTableView>("memoriesTable")->verticalScrollBar();
+    ASSERT_TRUE(eventually([&] { return bar->maximum() > 2 * bar->pageStep(); }));
+    const int middle = bar->width() / 2;
+    QTest::mouseClick(bar, Qt::LeftButton, {}, QPoint(middle, bar->height() - 2));
+    EXPECT_EQ(bar->value(), bar->pageStep());
+    QTest::mouseClick(bar, Qt::LeftButton, {}, QPoint(middle, 1));
+    EXPECT_EQ(bar->value(), 0);
+    QTest::mousePress(bar, Qt::LeftButton, {}, QPoint(middle, 5));
+    QTest::mouseMove(bar, QPoint(middle, bar->height()));
+    QTest::mouseRelease(bar, Qt::LeftButton, {}, QPoint(middle, bar->height()));
+    EXPECT_EQ(bar->value(), bar->maximum());
 }
 
 TEST(WindowTest, EveryPageFitsIntoTwelveHundredAndEightyByEightHundred) {
