@@ -95,27 +95,32 @@ void TextFieldView::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
 }
 
-TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : ReadLabel({}, parent) {
+TextLabel::TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : ReadLabel({}, parent), model_(model) {
     describe(*this, model);
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    const auto show = [this, &model] {
-        // What makes a text selectable costs time and memory, and an empty one needs it not.
-        setTextInteractionFlags(model.stringValue().empty() ? Qt::NoTextInteraction
-                                                            : Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-        setText(QString::fromStdString(model.stringValue()));
-        setAccessibleName(spokenWithValue(model, model.stringValue()));
-        setFocusPolicy(model.stringValue().empty() ? Qt::NoFocus : Qt::StrongFocus);  // the text can be copied
-    };
-    view_ = model.addView(queue, show);
-    show();
+    view_ = model.addView(queue, [this] { showModel(); });
+    showModel();
+}
+
+void TextLabel::showModel() {
+    const bool empty = model_.stringValue().empty();
+    // What makes a text selectable costs time and memory, and an empty one needs it not.
+    setTextInteractionFlags(empty ? Qt::NoTextInteraction : Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setText(QString::fromStdString(model_.stringValue()));
+    setAccessibleName(spokenWithValue(model_, model_.stringValue()));
+    setFocusPolicy(empty ? Qt::NoFocus : Qt::StrongFocus);  // the text can be copied
+    if (hidesWhileEmpty_) setVisible(!empty);
+}
+
+void TextLabel::hideWhileEmpty() {
+    hidesWhileEmpty_ = true;
+    if (model_.stringValue().empty()) hide();
 }
 
 NoticeLabel::NoticeLabel(TextField& model, ChangeQueue& queue, QWidget* parent) : TextLabel(model, queue, parent) {
     setContentsMargins(3 * gridStep, 2 * gridStep, 3 * gridStep, 2 * gridStep);
-    const auto show = [this, &model] { setVisible(!model.stringValue().empty()); };
-    notice_ = model.addView(queue, show);
-    if (model.stringValue().empty()) hide();
+    hideWhileEmpty();
 }
 
 void NoticeLabel::paintEvent(QPaintEvent* event) {

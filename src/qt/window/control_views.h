@@ -81,7 +81,14 @@ class TextLabel : public ReadLabel {
 public:
     TextLabel(TextField& model, ChangeQueue& queue, QWidget* parent = nullptr);
 
+    // It takes no room then.
+    void hideWhileEmpty();
+
 private:
+    void showModel();
+
+    const TextField& model_;
+    bool hidesWhileEmpty_ = false;
     ViewHandle view_;
 };
 
@@ -94,9 +101,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    ViewHandle notice_;
 };
 
 // How much of something is done.

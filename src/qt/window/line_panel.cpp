@@ -61,6 +61,9 @@ public:
     ~LineTable() override {
         line_.onChoice = [] {};
     }
+    QSize sizeHint() const override {
+        return {QTableView::sizeHint().width(), shownLines * fontMetrics().lineSpacing()};
+    }
 
 protected:
     // The keyboard begins at the newest line.
@@ -124,8 +127,7 @@ Panel* makeLinePanel(LineWatch& line, Display& display, ChangeQueue& queue) {
     choice->addWidget(new TextLabel(display.lineCountField, queue), 1);
     panel->content().addLayout(choice);
     auto* table = new LineTable(line);
-    table->setMinimumHeight(shownLines * table->fontMetrics().lineSpacing());
-    table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    table->setMinimumHeight(table->sizeHint().height());
     panel->content().addWidget(table, 1);
     panel->content().addLayout(keyRow({&display.linePauseButton, &display.lineClearButton, &display.lineCopyButton,
                                        &display.lineSaveButton, &display.lineReportButton},

@@ -12,7 +12,7 @@ namespace corvane {
 
 namespace {
 
-constexpr int shownPrograms = 2;  // without scrolling
+constexpr int shownPrograms = 1;  // without scrolling
 
 QHBoxLayout* wideRow() {
     auto* row = new QHBoxLayout;
@@ -61,13 +61,14 @@ Panel* makeOtherProgramsPanel(Display& display, ChangeQueue& queue) {
     panel->content().addLayout(row);
     panel->content().addLayout(virtualPortRow(display, queue));
     panel->content().addLayout(permissionsRow(display, queue));
-    panel->content().addWidget(new TextLabel(display.virtualPortStateField, queue));
+    auto* portState = new TextLabel(display.virtualPortStateField, queue);
+    portState->hideWhileEmpty();
+    panel->content().addWidget(portState);
     panel->content().addWidget(new NoticeLabel(display.shareNoticeField, queue));
     panel->content().addWidget(new NoticeLabel(display.shareKeyedField, queue));
     panel->content().addWidget(new NoticeLabel(display.virtualPortNoticeField, queue));
     auto* table = new TableWidget(display.shareTable, queue);
-    table->setMinimumHeight((shownPrograms + 1) * TableView::rowHeight);
-    table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // as much as the page has left
+    table->askForRows(shownPrograms);
     panel->content().addWidget(table, 1);
     return panel;
 }

@@ -127,6 +127,16 @@ void TableWidget::setFilter(const QString& text) {
     emit rowsChanged();
 }
 
+void TableWidget::askForRows(int rows) {
+    setMinimumHeight(horizontalHeader()->sizeHint().height() + rows * TableView::rowHeight + 2 * frameWidth());
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
+}
+
+QSize TableWidget::sizeHint() const {
+    const QSize usual = QTableView::sizeHint();
+    return minimumHeight() > 0 ? QSize(usual.width(), minimumHeight()) : usual;
+}
+
 int TableWidget::shownRows() const { return rows_->rowCount(); }
 int TableWidget::allRows() const { return rows_->allRows(); }
 
@@ -418,7 +428,8 @@ void TableWidget::paintEvent(QPaintEvent* event) {
     if (shownRows() == 0) {
         QPainter painter(viewport());
         painter.setPen(Theme::current().quietText);
-        const QRect place = viewport()->rect().adjusted(4 * gridStep, 4 * gridStep, -4 * gridStep, -4 * gridStep);
+        const int above = std::clamp((viewport()->height() - fontMetrics().height()) / 2, 0, 4 * gridStep);
+        const QRect place = viewport()->rect().adjusted(4 * gridStep, above, -4 * gridStep, 0);
         painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, emptyText());
     }
     if (!gap_) return;

@@ -24,6 +24,9 @@ public:
     void setFilter(const QString& text);
     int shownRows() const;
     int allRows() const;
+    // Asks for room for this many rows and the titles; it takes what else its place has left.
+    void askForRows(int rows);
+    QSize sizeHint() const override;
 
 signals:
     void rowsChanged();                 // the number of rows, or of those that are shown
