@@ -447,5 +447,19 @@ TEST(WindowTest, EveryPageFitsIntoTwelveHundredAndEightyByEightHundred) {
     });
 }
 
+TEST(WindowTest, InASmallWindowPagesScrollAndNothingReachesBeyondItsPanel) {
+    Station station;
+    for (const QSize size : {QSize(1276, 768), QSize(1024, 700)}) {
+        station.window.resize(size);
+        forEachPage(station, [&] {
+            station.window.grab();  // lays out
+            for (const QWidget* control : controlsInSight(station)) {
+                const QWidget* panel = control->parentWidget();
+                EXPECT_LE(control->geometry().bottom(), panel->rect().bottom()) << describe(control);
+            }
+        });
+    }
+}
+
 }  // namespace
 }  // namespace corvane
