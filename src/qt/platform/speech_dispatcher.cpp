@@ -8,17 +8,38 @@
 #include <optional>
 #include <string>
 
+#include "qt/platform/late_library.h"
+
 namespace corvane {
 
 namespace {
 
 constexpr std::chrono::milliseconds farewell{150};
 
+// What is used of the service's library.
+struct Service {
+    const LateLibrary library{"libspeechd.so.2"};
+    decltype(spd_open2)* open = library.function<decltype(spd_open2)>("spd_open2");
+    decltype(spd_close)* close = library.function<decltype(spd_close)>("spd_close");
+    decltype(spd_say)* say = library.function<decltype(spd_say)>("spd_say");
+    decltype(spd_set_language)* setLanguage = library.function<decltype(spd_set_language)>("spd_set_language");
+    decltype(spd_set_synthesis_voice)* setVoice =
+        library.function<decltype(spd_set_synthesis_voice)>("spd_set_synthesis_voice");
+
+    bool isThere() const { return open && close && say && setLanguage && setVoice; }
+};
+
+const Service& service() {
+    static const Service loaded;
+    return loaded;
+}
+
 // Starts the service if it does not run, unless SPEECHD_ADDRESS names one that the user runs.
 SPDConnection* openConnection() {
+    if (!service().isThere()) return nullptr;
     const int start = std::getenv("SPEECHD_ADDRESS") == nullptr ? 1 : 0;
     char* reason = nullptr;
-    SPDConnection* connection = spd_open2("corvane", "main", nullptr, SPD_MODE_SINGLE, nullptr, start, &reason);
+    SPDConnection* connection = service().open("corvane", "main", nullptr, SPD_MODE_SINGLE, nullptr, start, &reason);
     std::free(reason);
     return connection;
 }
@@ -39,7 +60,7 @@ private:
     using Clock = std::chrono::steady_clock;
 
     struct CloseConnection {
-        void operator()(SPDConnection* connection) const { spd_close(connection); }
+        void operator()(SPDConnection* connection) const { service().close(connection); }
     };
 
     bool open(const std::string& voice) {
@@ -55,14 +76,14 @@ private:
         lastFailure_.reset();
         voice_ = voice;
         // The service's default language is not the user's, so it must be set.
-        spd_set_language(connection_.get(), language_.c_str());
-        if (!voice_.empty()) spd_set_synthesis_voice(connection_.get(), voice_.c_str());
+        service().setLanguage(connection_.get(), language_.c_str());
+        if (!voice_.empty()) service().setVoice(connection_.get(), voice_.c_str());
         return true;
     }
 
     // Texts of this priority wait for each other; priority "text" would cut off the one before.
     bool send(const std::string& text) {
-        if (spd_say(connection_.get(), SPD_MESSAGE, text.c_str()) >= 0) return true;
+        if (service().say(connection_.get(), SPD_MESSAGE, text.c_str()) >= 0) return true;
         connection_.reset();
         return false;
     }

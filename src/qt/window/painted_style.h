@@ -4,6 +4,7 @@
 // visit to every page, and twice the time that a page takes to open.
 #pragma once
 
+#include <QIcon>
 #include <QProxyStyle>
 
 namespace corvane {
@@ -28,6 +29,7 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override;
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
     void polish(QWidget* widget) override;
     using QProxyStyle::polish;
 };

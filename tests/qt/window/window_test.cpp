@@ -398,6 +398,11 @@ TEST(WindowTest, AnotherThemeIsSeenAtOnceAndEverywhere) {
         const QImage picture = station.window.grab().toImage();
         EXPECT_EQ(picture.pixelColor(2, picture.height() - 3), Theme::current().window);
         EXPECT_EQ(message->grab().toImage().pixelColor(message->width() - 2, 2), Theme::current().warning) << text;
+        // The mark at the end of a menu bar that has no room for its menus.
+        const QIcon more = station.window.style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+        const QImage mark = more.pixmap(QSize(16, 16)).toImage();
+        EXPECT_EQ(mark.pixelColor(0, 0).alpha(), 0);
+        EXPECT_NEAR(mark.pixelColor(7, 8).lightness(), Theme::current().text.lightness(), 40) << text;
         for (const auto& [name, ground] : {std::pair{"PortPopUpButton", Theme::current().key},
                                            {"sendTextField", Theme::current().key},
                                            {"lineTable", Theme::current().panel}}) {
