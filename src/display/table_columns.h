@@ -47,7 +47,7 @@ inline constexpr std::array watchListTableColumns{
 };
 inline constexpr std::array watchTableColumns{
     TableColumn{"tune", "Tune", 8, TableColumn::Alignment::center},
-    TableColumn{"activator", "Activator", 12, TableColumn::Alignment::left, false, TableColumn::Tells::name},
+    TableColumn{"activator", "Activator", 17, TableColumn::Alignment::left, false, TableColumn::Tells::name},
     TableColumn{"frequency", "kHz", 10, TableColumn::Alignment::right, false, TableColumn::Tells::kilohertz},
     TableColumn{"mode", "Mode", 7},
     TableColumn{"kind", "List", 7},
@@ -60,7 +60,7 @@ inline constexpr std::array watchTableColumns{
 // Of the on-line lists.
 inline constexpr std::array potaTableColumns{
     TableColumn{"tune", "Tune", 8, TableColumn::Alignment::center},
-    TableColumn{"activator", "Activator", 12, TableColumn::Alignment::left, true, TableColumn::Tells::name},
+    TableColumn{"activator", "Activator", 17, TableColumn::Alignment::left, true, TableColumn::Tells::name},
     TableColumn{"frequency", "kHz", 10, TableColumn::Alignment::right, true, TableColumn::Tells::kilohertz},
     TableColumn{"mode", "Mode", 7, TableColumn::Alignment::left, true},
     TableColumn{"reference", "Park", 10, TableColumn::Alignment::center, true},
@@ -71,7 +71,7 @@ inline constexpr std::array potaTableColumns{
 };
 inline constexpr std::array sotaTableColumns{
     TableColumn{"tune2", "Tune", 8, TableColumn::Alignment::center},
-    TableColumn{"activator2", "Activator", 12, TableColumn::Alignment::left, true, TableColumn::Tells::name},
+    TableColumn{"activator2", "Activator", 17, TableColumn::Alignment::left, true, TableColumn::Tells::name},
     TableColumn{"activatorName", "Operator", 14, TableColumn::Alignment::left, true},
     TableColumn{"frequency2", "kHz", 10, TableColumn::Alignment::right, true, TableColumn::Tells::kilohertz},
     TableColumn{"mode2", "Mode", 7, TableColumn::Alignment::left, true},
