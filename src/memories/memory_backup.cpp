@@ -38,4 +38,9 @@ std::string memoryBackupName(std::chrono::system_clock::time_point when) {
     return fmt::format("memory-channels/{:%Y-%m-%dT%H%M%SZ}.csv", fmt::gmtime(when));
 }
 
+std::string memoryEditsName(std::chrono::system_clock::time_point when) {
+    return fmt::format("memory-channels/{:%Y-%m-%dT%H%M%SZ}-not-written.csv",
+                       fmt::gmtime(std::chrono::floor<std::chrono::seconds>(when)));
+}
+
 }  // namespace corvane

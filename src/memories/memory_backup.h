@@ -18,4 +18,7 @@ std::string memoryTableCsv(const ChannelsAsRead& channels);
 // The file's name in the data folder, with the UTC time to the second: "memory-channels/2026-11-23T140312Z.csv".
 std::string memoryBackupName(std::chrono::system_clock::time_point when);
 
+// The same for changes that were not written: "memory-channels/2026-11-23T140312Z-not-written.csv".
+std::string memoryEditsName(std::chrono::system_clock::time_point when);
+
 }  // namespace corvane

@@ -28,7 +28,7 @@ MemoryChannels::MemoryChannels(Display& display, Link& link, Mirror& mirror, Voi
 }
 
 void MemoryChannels::setRows(const MemoryTable& rows) {
-    vqMemArray_ = rows;
+    vqMemArray_ = held_ = rows;
     display_.memoriesTable.reloadData();
 }
 
@@ -40,6 +40,8 @@ void MemoryChannels::setKeysEnabled(bool enabled) {
 void MemoryChannels::startMemoryRead() {
     forgetOtherSession();
     saveBeforeReplacing();
+    savedEdits_.clear();
+    saveEdits();
     setRows({});
     readNote_ = {};
     ask(read_.begin(link_.session()));
@@ -68,7 +70,7 @@ void MemoryChannels::takeMemoryReply(std::string_view response) {
     const MemoryReply reply = memoryReply(response);
     const MemoryReadStep step = read_.take(reply);
     if (step.inUse) return mirror_.takeMemoryInUse(response);
-    if (step.row) vqMemArray_[*step.row] = rowOf(reply);
+    if (step.row) vqMemArray_[*step.row] = held_[*step.row] = rowOf(reply);
     ask(step);
 }
 
@@ -77,7 +79,7 @@ void MemoryChannels::takeTagReply(std::string_view response) {
     const TagReply reply = tagReply(response);
     const bool unasked = read_.vqTagRead != "run";
     const MemoryReadStep step = read_.take(reply);
-    if (step.row) vqMemArray_[*step.row].tag = reply.tag;
+    if (step.row) vqMemArray_[*step.row].tag = held_[*step.row].tag = reply.tag;
     if (unasked && step.row) showChannels();
     ask(step);
     if (step.ended) finishMemoryRead();

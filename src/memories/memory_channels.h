@@ -45,8 +45,10 @@ public:
     const MemoryRead& read() const { return read_; }
     const std::string& tagOf(int row) const { return vqMemArray_.at(static_cast<std::size_t>(row)).tag; }
 
-    // Puts these rows into the table.
+    // Puts these rows into the table, as if they had been read.
     void setRows(const MemoryTable& rows);
+    // Saves the table in a file that Import takes, if it has changes that were not written to the transceiver.
+    void saveEdits();
     void setKeysEnabled(bool enabled);  // the keys that read and write
 
     // --- reading
@@ -88,7 +90,7 @@ private:
     void showStatus();  // of the last read
     void showReadProgress(std::string_view problem = {});
 
-    void watchWrite(unsigned number);
+    void watchWrite(unsigned number, const MemoryTable& written);
     void endWriteEarly();
     SavedFile saveAsRead();
     void saveBeforeReplacing();
@@ -107,11 +109,13 @@ private:
     Surroundings around_;
     Tasks tasks_;
     MemoryTable vqMemArray_;
+    MemoryTable held_;  // the table without the changes that would be lost: as it was read, written or saved
     const std::vector<std::string> vqMemTagArray_ = std::vector<std::string>(memoryChannels, " ");
     MemoryRead read_;
     std::string_view readNote_;                      // what the progress of the present read also says
     ChannelsAsRead saved_;                           // what the last file of saved channels holds
     std::chrono::system_clock::time_point savedAt_;  // the second in its name
+    std::string savedEdits_;                         // the file with the changes that the present read replaces
     std::optional<MemoryWrite> write_;               // while one is on its way
     unsigned writeNumber_ = 0;
 };

@@ -60,6 +60,7 @@ void MemoryChannels::askBeforeWriting() {
 void MemoryChannels::writeMemoriesToRadio() {
     if (!saveBeforeWriting()) return;
     write_.emplace(++writeNumber_, link_.isOpen() ? link_.waitingBytes() : 0);
+    const MemoryTable written = vqMemArray_;
     for (int row = 0; row < memoryChannels; ++row) {
         const MemoryChannel& channel = vqMemArray_[static_cast<std::size_t>(row)];
         std::string commands = memoryWriteCommand(row, channel);
@@ -69,24 +70,25 @@ void MemoryChannels::writeMemoriesToRadio() {
     }
     write_->addRest(closing.size());
     link_.sendCommand(closing);
-    tasks_.after(pauseBeforeLast, [this, number = writeNumber_, session = link_.session()] {
+    tasks_.after(pauseBeforeLast, [this, number = writeNumber_, session = link_.session(), written] {
         if (session == link_.session()) {
             if (write_) write_->addRest(lastCommands.size());
             link_.sendCommand(lastCommands);
         }
         showChannels();
-        watchWrite(number);
+        watchWrite(number, written);
     });
 }
 
 // A whole table takes 1.2 s at 38400 baud. The write has succeeded when its last byte has left.
-void MemoryChannels::watchWrite(unsigned number) {
+void MemoryChannels::watchWrite(unsigned number, const MemoryTable& written) {
     if (!write_ || write_->number() != number) return;  // it has ended, or another has begun behind it
     if (const std::size_t waiting = link_.waitingBytes(); link_.isOpen() && waiting > 0) {
         display_.memoryReadField.setStringValue(write_->progressText(waiting));
-        return tasks_.after(writeInterval, [this, number] { watchWrite(number); });
+        return tasks_.after(writeInterval, [this, number, written] { watchWrite(number, written); });
     }
     write_.reset();
+    held_ = written;
     display_.announcements.say("The memory channels are written");
     showStatus();
     voice_.playSound("Seatbelts");
@@ -120,6 +122,18 @@ void MemoryChannels::saveBeforeReplacing() {
         voice_.warn("The channels that were read before could not be saved", "To " + file.path + ": " + file.error);
 }
 
+void MemoryChannels::saveEdits() {
+    if (vqMemArray_ == held_) return;
+    const SavedFile file = around_.dataFolder.save(memoryEditsName(tasks_.now()), memoryCsv(vqMemArray_));
+    if (!file.error.empty())
+        return voice_.warn("Changes of memory channels that were not written could not be saved",
+                           "To " + file.path + ": " + file.error);
+    held_ = vqMemArray_;
+    savedEdits_ = file.path;
+    showWhereChannelsAreSaved();
+    display_.announcements.say(display_.memoryBackupField.stringValue());
+}
+
 bool MemoryChannels::saveBeforeWriting() {
     forgetOtherSession();
     if (!read_.unsaved) return true;
@@ -134,6 +148,9 @@ bool MemoryChannels::saveBeforeWriting() {
 }
 
 void MemoryChannels::showWhereChannelsAreSaved() {
+    if (!savedEdits_.empty())
+        return display_.memoryBackupField.setStringValue("Changes that were not written are saved: Import takes " +
+                                                         savedEdits_);
     display_.memoryBackupField.setStringValue("Before a write, the channels as last read are saved in " +
                                               around_.dataFolder.path() + "/memory-channels");
 }

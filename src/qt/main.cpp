@@ -42,6 +42,7 @@ int main(int argc, char** argv) {
     });
     window.show();
     const int result = QApplication::exec();
+    controller.memories.saveEdits();
     // Otherwise the transceiver would keep sending reports.
     if (controller.link.isOpen()) controller.display.openCloseButton.performClick();
     window.hide();

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "memories/memory_csv.h"
 #include "tests/support/radio_bench.h"
 #include "wire/cat_command.h"
 
@@ -144,6 +145,65 @@ TEST(MemoryWrite, AWholeReadThatNoFileHoldsIsSavedBeforeAnotherReplacesIt) {
     read();
     EXPECT_THAT(bench.around.alerts.shown, ElementsAre(HasSubstr("No space left on device.")));
     EXPECT_TRUE(bench.controller.memories.read().whole) << "the read went on";
+}
+
+TEST(MemoryEdits, AreSavedBeforeAReadReplacesThem) {
+    RereadBench bench;
+    const auto name = [&](std::string_view tag) { bench.display.memoriesTable.editCell(0, 4, tag); };
+    const auto reopen = [&] {
+        bench.display.openCloseButton.performClick();
+        bench.display.openCloseButton.performClick();
+        bench.advance(13s);
+        bench.settle();
+    };
+    const auto saved = [&] {
+        std::vector<std::string> paths;
+        for (const auto& [path, contents] : bench.around.dataFolder.files)
+            if (path.ends_with("-not-written.csv")) paths.push_back(path);
+        return paths;
+    };
+    name("EDITED");
+    reopen();
+    ASSERT_EQ(saved().size(), 1U);
+    EXPECT_EQ(bench.display.memoryBackupField.stringValue(),
+              "Changes that were not written are saved: Import takes " + saved()[0]);
+    EXPECT_EQ(bench.controller.memories.tagOf(0), "20M PHONE   ");
+    const MemoryImport import = readMemoryCsv(bench.around.dataFolder.files[saved()[0]]);
+    ASSERT_FALSE(import.channels.empty());
+    EXPECT_EQ(import.channels[0].channel.tag, "EDITED");
+
+    reopen();
+    name("TYPED");
+    name("20M PHONE   ");
+    bench.display.readMemoriesButton.performClick();
+    bench.settle();
+    EXPECT_EQ(saved().size(), 1U) << "nothing was changed";
+    name("WRITTEN");
+    bench.display.writeMemoriesButton.performClick();
+    bench.advance(1s);
+    reopen();
+    EXPECT_EQ(saved().size(), 1U) << "the transceiver has it";
+    bench.around.dataFolder.failure = "No space left on device.";
+    bench.around.alerts.shown.clear();
+    name("LOST");
+    bench.display.readMemoriesButton.performClick();
+    bench.settle();
+    EXPECT_THAT(bench.around.alerts.shown, testing::Contains(HasSubstr("Changes of memory channels")));
+    EXPECT_TRUE(bench.controller.memories.read().whole) << "the read went on";
+}
+
+// A write that ended early has not brought all of them to the transceiver.
+TEST(MemoryEdits, AreSavedAfterAWriteThatEndedEarlyAndAtTheEnd) {
+    RereadBench bench;
+    bench.display.memoriesTable.editCell(0, 4, "EDITED");
+    bench.port->waiting = 1'000;
+    bench.display.writeMemoriesButton.performClick();
+    bench.port->unplug();
+    bench.advance(5s);
+    const std::size_t before = bench.around.dataFolder.files.size();
+    bench.controller.memories.saveEdits();
+    bench.controller.memories.saveEdits();
+    EXPECT_EQ(bench.around.dataFolder.files.size(), before + 1);
 }
 
 TEST(MemoryWrite, ChannelsOfAnotherSessionAreNoPartOfWhatIsSaved) {
