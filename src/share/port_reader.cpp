@@ -1,5 +1,6 @@
 #include "share/port_reader.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace corvane {
@@ -30,6 +31,22 @@ std::optional<std::string> PortReader::next() {
         } else {
             return !whole || end > longestCommand ? "?" : std::string(rest.substr(0, end));
         }
+    }
+}
+
+bool PortReader::takeOut(std::string_view kind, std::string_view command) {
+    if (skipping_) return false;
+    for (std::size_t at = read_;;) {
+        at = std::min(bytes_.find_first_not_of(lineEnds, at), bytes_.size());
+        const std::size_t end = bytes_.find(';', at);
+        if (end == std::string::npos) return false;
+        const std::string_view text = std::string_view(bytes_).substr(at, end - at);
+        if (text == command) {
+            bytes_.erase(at, end + 1 - at);
+            return true;
+        }
+        if (text.starts_with(kind)) return false;
+        at = end + 1;
     }
 }
 

@@ -15,6 +15,9 @@ public:
     void feed(std::string_view bytes);
     // The next whole command without its ";". Line ends between commands do not count.
     std::optional<std::string> next();
+    // Takes out `command` ahead of others, if it is the first of the whole commands that begin as `kind` does:
+    // takeOut("TX", "TX0"). Whether it was there.
+    bool takeOut(std::string_view kind, std::string_view command);
     void clear() { *this = {}; }
     std::size_t held() const { return bytes_.size() - read_; }
 

@@ -112,7 +112,7 @@ void VirtualPort::portClosed() {
 // The work of one turn is bounded: a program that floods the port waits, the window does not.
 void VirtualPort::serve() {
     if (waiting_) {
-        if (!handle(waiting_->command, waiting_->since)) return;
+        if (!handle(waiting_->command, waiting_->since)) return unkeyAhead();
         waiting_.reset();
     }
     for (bool mayRead = true; !waiting_;) {
@@ -128,6 +128,13 @@ void VirtualPort::serve() {
     }
     if (waiting_) wake();
     show();
+}
+
+// The end of its transmission does not wait behind a command that must.
+void VirtualPort::unkeyAhead() {
+    if (radio_.keyedBy() != number) return;
+    if (reader_.held() < bytesInTurn) reader_.feed(around_.terminal.read(bytesInTurn));
+    if (reader_.takeOut("TX", "TX0")) radio_.unkey();
 }
 
 void VirtualPort::serveLater() {

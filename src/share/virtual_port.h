@@ -69,6 +69,7 @@ private:
     void programLeft();
     void serve();
     void serveLater();
+    void unkeyAhead();
     bool handle(const std::string& command, ShareTime since);
     bool permit(bool permitted, std::string_view wish, std::string_view switchName);
     bool read(const PortRequest& request, const std::string& command);

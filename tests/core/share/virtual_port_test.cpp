@@ -288,6 +288,24 @@ TEST_F(VirtualPortTest, UnkeysWhoeverCannotUnkeyItself) {
     silence(false);
     settle();
     bench.display.openCloseButton.performClick();
+    // So does one whose program waits for the end of a memory read: its "TX0;" goes ahead, but not past another "TX1;".
+    bench.display.openCloseButton.performClick();
+    settle();
+    for (const char* between : {"", "TX1;"}) {
+        ask("TX1;");
+        settle();
+        bench.controller.virtualPort.lineTaken = [] { return true; };
+        port().toPort += std::string("MC098;\r\nFA;") + between + "TX0;FA;";
+        EXPECT_EQ(ask(""), "");
+        bench.advance(100ms);
+        EXPECT_EQ(bench.transceiver.ask("TX;"), *between ? "TX1;" : "TX0;");
+        bench.controller.virtualPort.lineTaken = [] { return false; };
+        bench.advance(100ms);
+        EXPECT_EQ(ask(""), "?;FA014250000;FA014250000;");
+        settle();
+        EXPECT_EQ(bench.transceiver.ask("TX;"), "TX0;");
+    }
+    bench.display.openCloseButton.performClick();
     // What it sent before it left is read first: it leaves nothing keyed.
     bench.display.openCloseButton.performClick();
     settle();
