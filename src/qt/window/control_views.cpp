@@ -151,12 +151,6 @@ GroupedPopUpView::GroupedPopUpView(PopUpButton& model, QWidget* parent) : QPushB
     setMenu(menu);
 }
 
-void GroupedPopUpView::paintEvent(QPaintEvent* event) {
-    QPushButton::paintEvent(event);
-    QPainter painter(this);
-    paintChevron(painter, rect(), palette().color(QPalette::PlaceholderText));
-}
-
 void addGroupedEntries(QMenu& menu, PopUpButton& model) {
     const auto& entries = model.entries();
     for (auto group = model.groups().begin(); group != model.groups().end(); ++group) {

@@ -120,9 +120,6 @@ class GroupedPopUpView : public QPushButton {
 
 public:
     GroupedPopUpView(PopUpButton& model, QWidget* parent = nullptr);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 };
 
 // Adds the entries of a pop-up to a menu, a menu of its own for every group.

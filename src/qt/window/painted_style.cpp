@@ -81,6 +81,19 @@ void paintBox(QPainter& painter, const QRect& rect, const QBrush& ground, const 
     painter.restore();
 }
 
+// The mark of what opens a list or menu, at the right end of its box.
+void paintChevron(QPainter& painter, const QStyleOption& option) {
+    const Theme& theme = Theme::current();
+    const QColor none = option.palette.color(QPalette::Disabled, QPalette::ButtonText);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(isIn(option, QStyle::State_Enabled) ? theme.quietText : none, 1.6, Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
+    const QPointF tip(option.rect.right() - 3.0 * gridStep + 1, option.rect.center().y() + 2.5);
+    painter.drawPolyline(QPolygonF({tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}));
+    painter.restore();
+}
+
 void paintField(QPainter& painter, const QStyleOption& option, const QWidget* widget) {
     const Theme& theme = Theme::current();
     const bool editor = isEditorOfTable(widget);
@@ -98,6 +111,7 @@ void paintKey(QPainter& painter, const QStyleOptionButton& option) {
     if (!isIn(option, QStyle::State_Enabled)) ground = theme.panel;
     paintBox(painter, option.rect, ground, focused || isDefault ? theme.accent : theme.line, keyRadius,
              focused ? 2 : 1);
+    if (option.features.testFlag(QStyleOptionButton::HasMenu)) paintChevron(painter, option);
 }
 
 void paintTab(QPainter& painter, const QStyleOptionTab& option) {
@@ -120,8 +134,14 @@ void paintTitle(QPainter& painter, const QStyleOptionHeader& option, int margin)
     painter.fillRect(option.rect, theme.panel);
     painter.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1), theme.line);
     painter.setPen(theme.quietText);
+    // Only the dialog that chooses a file has an indicator; the program's own tables have it in their titles.
+    // Qt says "down" of an ascending order.
+    const char* sorted = option.sortIndicator == QStyleOptionHeader::SortDown ? " \u25b4"
+                         : option.sortIndicator == QStyleOptionHeader::SortUp ? " \u25be"
+                                                                              : "";
     painter.drawText(option.rect.adjusted(margin, 0, -margin, -1),
-                     static_cast<int>(option.textAlignment | Qt::AlignVCenter) | Qt::TextSingleLine, option.text);
+                     static_cast<int>(option.textAlignment | Qt::AlignVCenter) | Qt::TextSingleLine,
+                     option.text + QString::fromUtf8(sorted));
 }
 
 void paintMenuTitle(QPainter& painter, const QStyleOptionMenuItem& option) {
@@ -326,7 +346,10 @@ void PaintedStyle::drawControl(ControlElement element, const QStyleOption* optio
 
 void PaintedStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                       const QWidget* widget) const {
-    if (control == CC_ComboBox) return paintField(*painter, *option, widget);
+    if (control == CC_ComboBox) {
+        paintField(*painter, *option, widget);
+        return onlyShows(widget) ? void() : paintChevron(*painter, *option);
+    }
     if (const auto* bar = as<QStyleOptionSlider>(option); control == CC_ScrollBar && bar)
         return paintBox(*painter, handleOf(*bar).adjusted(1, 1, -1, -1), Theme::current().line, Theme::current().line,
                         4);

@@ -140,16 +140,6 @@ void PopUpView::showPopup() {
     QComboBox::showPopup();
 }
 
-void PopUpView::paintEvent(QPaintEvent* event) {
-    QComboBox::paintEvent(event);
-    if (!model_.action) return;
-    QPainter painter(this);
-    const bool usable = isEnabled() && !model_.busy();
-    paintChevron(painter, rect(),
-                 usable ? palette().color(QPalette::PlaceholderText)
-                        : palette().color(QPalette::Disabled, QPalette::ButtonText));
-}
-
 void PopUpView::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 void PopUpView::mousePressEvent(QMouseEvent* event) {

@@ -133,13 +133,6 @@ QPalette Theme::palette() const {
     return colors;
 }
 
-void paintChevron(QPainter& painter, const QRect& box, const QColor& ink) {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(ink, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF tip(box.right() - 3.0 * gridStep + 1, box.center().y() + 2.5);
-    painter.drawPolyline(QPolygonF({tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}));
-}
-
 void paintFocus(const QWidget& widget, QPainter& painter) {
     if (!widget.hasFocus()) return;
     painter.setPen(QPen(Theme::current().accent, 1.5));

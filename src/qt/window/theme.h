@@ -43,9 +43,6 @@ struct Theme {
 // A frame around a widget that has the keyboard and paints itself.
 void paintFocus(const QWidget& widget, QPainter& painter);
 
-// The mark of what opens a list or menu, at the right end of its box.
-void paintChevron(QPainter& painter, const QRect& box, const QColor& ink);
-
 // White or near-black, whichever reads better on `background`.
 QColor readableOn(const QColor& background);
 
