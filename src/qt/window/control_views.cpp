@@ -132,6 +132,7 @@ ProgressView::ProgressView(LevelIndicator& model, ChangeQueue& queue, QWidget* p
     describe(*this, model);
     setRange(0, model.maximum());
     setTextVisible(false);
+    setFixedHeight(sizeHint().height());  // Qt would not let it be lower than a line of text
     const auto show = [this, &model] {
         setValue(model.integerValue());
         setVisible(model.visible());
