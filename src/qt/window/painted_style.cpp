@@ -1,7 +1,6 @@
 #include "qt/window/painted_style.h"
 
 #include <QComboBox>
-#include <QIconEngine>
 #include <QLineEdit>
 #include <QPainter>
 #include <QStyleOption>
@@ -10,6 +9,7 @@
 #include <QVariant>
 #include <algorithm>
 
+#include "qt/window/style_parts.h"
 #include "qt/window/theme.h"
 
 namespace corvane {
@@ -24,25 +24,13 @@ constexpr QMargins fieldMargins{9, 4, 9, 4};
 constexpr QMargins editorMargins{7, 1, 7, 1};  // of a field in a table
 constexpr int fieldHeight = 22;                // of the contents, at least
 constexpr int dropDown = 20;                   // the place of a pop-up's chevron
-constexpr int fieldRadius = 5;
-constexpr int editorRadius = 3;
 constexpr int tableRadius = 3;
-constexpr int tableFrame = 2;  // leaves the corners of the edge uncovered
-constexpr int keyRadius = 6;
+constexpr int tableFrame = 2;        // leaves the corners of the edge uncovered
 constexpr QSize keyMargins{22, 12};  // both sides together
 constexpr int leastKey = 80;
-constexpr QSize tabMargins{36, 18};
-constexpr int tabLine = 3;  // under the selected tab
 constexpr int titleMargin = 10;
-constexpr int titleHeight = 15;  // above and below the title of a column, with the line
 constexpr QSize menuBarMargins{20, 10};
-constexpr int menuMark = 22;   // the place of the mark of an entry, left
-constexpr int menuArrow = 26;  // the place of the arrow of a sub-menu, right
-constexpr int menuHeight = 10;
-constexpr int menuSeparator = 9;
 constexpr int scrollBar = 10;
-constexpr int leastScrollHandle = 24;
-constexpr int progressHeight = 6;
 constexpr int popUpEntryHeight = 8;  // above and below an entry together
 
 template <class Option>
@@ -58,6 +46,11 @@ bool isEditorOfTable(const QWidget* widget) {
     return widget && widget->parentWidget() && qobject_cast<const QTableView*>(widget->parentWidget()->parentWidget());
 }
 
+FieldKind kindOf(const QWidget* widget) {
+    if (isEditorOfTable(widget)) return FieldKind::inTable;
+    return onlyShows(widget) ? FieldKind::onlyShows : FieldKind::entry;
+}
+
 bool isTable(const QWidget* widget) { return qobject_cast<const QTableView*>(widget); }
 
 bool isListOfPopUp(const QWidget* widget) {
@@ -68,204 +61,6 @@ int titleMarginOf(const QWidget* header) {
     const QVariant margin = header ? header->property(titleMarginProperty) : QVariant();
     return margin.isValid() ? margin.toInt() : titleMargin;
 }
-
-// A rounded box with an edge of one pixel.
-void paintBox(QPainter& painter, const QRect& rect, const QBrush& ground, const QColor& edge, int radius,
-              double width = 1) {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(edge, width));
-    painter.setBrush(ground);
-    const double inset = width / 2;
-    painter.drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), radius, radius);
-    painter.restore();
-}
-
-// The mark of what opens a list or menu, at the right end of its box.
-void paintChevron(QPainter& painter, const QStyleOption& option) {
-    const Theme& theme = Theme::current();
-    const QColor none = option.palette.color(QPalette::Disabled, QPalette::ButtonText);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(isIn(option, QStyle::State_Enabled) ? theme.quietText : none, 1.6, Qt::SolidLine, Qt::RoundCap,
-                        Qt::RoundJoin));
-    const QPointF tip(option.rect.right() - 3.0 * gridStep + 1, option.rect.center().y() + 2.5);
-    painter.drawPolyline(QPolygonF({tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}));
-    painter.restore();
-}
-
-void paintField(QPainter& painter, const QStyleOption& option, const QWidget* widget) {
-    const Theme& theme = Theme::current();
-    const bool editor = isEditorOfTable(widget);
-    const bool focused = isIn(option, QStyle::State_HasFocus) || editor;
-    paintBox(painter, option.rect, onlyShows(widget) ? QBrush(Qt::NoBrush) : QBrush(theme.key),
-             focused ? theme.accent : theme.line, editor ? editorRadius : fieldRadius);
-}
-
-void paintKey(QPainter& painter, const QStyleOptionButton& option) {
-    const Theme& theme = Theme::current();
-    const bool isDefault = option.features.testFlag(QStyleOptionButton::DefaultButton);
-    const bool focused = isIn(option, QStyle::State_HasFocus);
-    QColor ground = isIn(option, QStyle::State_MouseOver) ? theme.keyHover : theme.key;
-    if (isIn(option, QStyle::State_Sunken)) ground = ground.darker(120);
-    if (!isIn(option, QStyle::State_Enabled)) ground = theme.panel;
-    paintBox(painter, option.rect, ground, focused || isDefault ? theme.accent : theme.line, keyRadius,
-             focused ? 2 : 1);
-    if (option.features.testFlag(QStyleOptionButton::HasMenu)) paintChevron(painter, option);
-}
-
-void paintTab(QPainter& painter, const QStyleOptionTab& option) {
-    const Theme& theme = Theme::current();
-    if (isIn(option, QStyle::State_HasFocus)) painter.fillRect(option.rect, theme.key);
-    if (isIn(option, QStyle::State_Selected))
-        painter.fillRect(option.rect.adjusted(0, option.rect.height() - tabLine, 0, 0), theme.accent);
-}
-
-void paintTabTitle(QPainter& painter, const QStyleOptionTab& option) {
-    const Theme& theme = Theme::current();
-    const bool bright = isIn(option, QStyle::State_Selected) || isIn(option, QStyle::State_MouseOver);
-    painter.setPen(bright ? theme.text : theme.quietText);
-    painter.drawText(option.rect.adjusted(0, 0, 0, -tabLine), Qt::AlignCenter | Qt::TextShowMnemonic, option.text);
-}
-
-// Of a column of a table.
-void paintTitle(QPainter& painter, const QStyleOptionHeader& option, int margin) {
-    const Theme& theme = Theme::current();
-    painter.fillRect(option.rect, theme.panel);
-    painter.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1), theme.line);
-    painter.setPen(theme.quietText);
-    // Only the dialog that chooses a file has an indicator; the program's own tables have it in their titles.
-    // Qt says "down" of an ascending order.
-    const char* sorted = option.sortIndicator == QStyleOptionHeader::SortDown ? " \u25b4"
-                         : option.sortIndicator == QStyleOptionHeader::SortUp ? " \u25be"
-                                                                              : "";
-    painter.drawText(option.rect.adjusted(margin, 0, -margin, -1),
-                     static_cast<int>(option.textAlignment | Qt::AlignVCenter) | Qt::TextSingleLine,
-                     option.text + QString::fromUtf8(sorted));
-}
-
-void paintMenuTitle(QPainter& painter, const QStyleOptionMenuItem& option) {
-    const Theme& theme = Theme::current();
-    painter.fillRect(option.rect, theme.window);
-    const bool selected = isIn(option, QStyle::State_Selected) && isIn(option, QStyle::State_Enabled);
-    if (selected) paintBox(painter, option.rect, theme.accent, theme.accent, 4);
-    painter.setPen(selected ? readableOn(theme.accent) : theme.text);
-    painter.drawText(option.rect, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip | Qt::TextSingleLine,
-                     option.text);
-}
-
-void paintTick(QPainter& painter, const QPointF& middle, const QColor& ink) {
-    painter.setPen(QPen(ink, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF({middle + QPointF(-3.5, 0), middle + QPointF(-1, 3), middle + QPointF(4, -3.5)}));
-}
-
-void paintMenuEntry(QPainter& painter, const QStyleOptionMenuItem& option) {
-    const Theme& theme = Theme::current();
-    const QRect& rect = option.rect;
-    if (option.menuItemType == QStyleOptionMenuItem::Separator) {
-        painter.fillRect(QRect(rect.left() + gridStep, rect.center().y(), rect.width() - 2 * gridStep, 1), theme.line);
-        return;
-    }
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setFont(option.font);
-    const bool enabled = isIn(option, QStyle::State_Enabled);
-    const bool selected = isIn(option, QStyle::State_Selected) && enabled;
-    if (selected) paintBox(painter, rect, theme.accent, theme.accent, 4);
-    const QColor ink = selected  ? readableOn(theme.accent)
-                       : enabled ? theme.text
-                                 : option.palette.color(QPalette::Disabled, QPalette::Text);
-    if (option.checked) paintTick(painter, QPointF(rect.left() + menuMark / 2.0, rect.center().y() + 1), ink);
-    painter.setPen(ink);
-    const QRect words = rect.adjusted(menuMark, 0, -menuArrow, 0);
-    constexpr int flags = Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextDontClip | Qt::TextSingleLine;
-    const auto tab = option.text.indexOf('\t');
-    painter.drawText(words, flags | Qt::AlignLeft, option.text.left(tab));
-    if (tab >= 0)
-        painter.drawText(words.adjusted(0, 0, menuArrow - 2 * gridStep, 0), flags | Qt::AlignRight,
-                         option.text.mid(tab + 1));
-    if (option.menuItemType == QStyleOptionMenuItem::SubMenu) {
-        const QPointF tip(rect.right() - 2.0 * gridStep, rect.center().y() + 0.5);
-        painter.setPen(QPen(ink, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawPolyline(QPolygonF({tip + QPointF(-4, -4), tip, tip + QPointF(-4, 4)}));
-    }
-    painter.restore();
-}
-
-void paintProgress(QPainter& painter, const QRect& rect, const QColor& color) {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawRoundedRect(rect, progressHeight / 2.0, progressHeight / 2.0);
-    painter.restore();
-}
-
-// The part of a progress bar that is done.
-QRect doneOf(const QStyleOptionProgressBar& option) {
-    const double range = std::max(1, option.maximum - option.minimum);
-    QRect done = option.rect;
-    done.setWidth(static_cast<int>(option.rect.width() * (option.progress - option.minimum) / range));
-    return done;
-}
-
-QRect handleOf(const QStyleOptionSlider& option) {
-    const bool lies = option.orientation == Qt::Horizontal;
-    const int length = lies ? option.rect.width() : option.rect.height();
-    const qint64 range = std::max(0, option.maximum - option.minimum);
-    const auto share = range == 0 ? length : length * option.pageStep / std::max<qint64>(1, range + option.pageStep);
-    const int handle = std::min(length, std::max(leastScrollHandle, static_cast<int>(share)));
-    const int start = QStyle::sliderPositionFromValue(option.minimum, option.maximum, option.sliderPosition,
-                                                      length - handle, option.upsideDown);
-    return lies ? QRect(start, 0, handle, option.rect.height()) : QRect(0, start, option.rect.width(), handle);
-}
-
-QRect scrollBarPart(const QStyleOptionSlider& option, QStyle::SubControl part) {
-    const bool lies = option.orientation == Qt::Horizontal;
-    const QRect handle = handleOf(option);
-    QRect rect = option.rect;
-    switch (part) {
-        case QStyle::SC_ScrollBarGroove:
-            return rect;
-        case QStyle::SC_ScrollBarSlider:
-            return handle;
-        case QStyle::SC_ScrollBarSubPage:
-            lies ? rect.setRight(handle.left() - 1) : rect.setBottom(handle.top() - 1);
-            return rect;
-        case QStyle::SC_ScrollBarAddPage:
-            lies ? rect.setLeft(handle.right() + 1) : rect.setTop(handle.bottom() + 1);
-            return rect;
-        default:
-            return {};  // no arrows at the ends
-    }
-}
-
-QSize menuEntrySize(const QStyleOptionMenuItem& option, const QSize& contents) {
-    if (option.menuItemType == QStyleOptionMenuItem::Separator) return {contents.width(), menuSeparator};
-    const int shortcut = option.text.contains('\t') ? 3 * gridStep : 0;
-    return {contents.width() + menuMark + menuArrow + shortcut, option.fontMetrics.height() + menuHeight};
-}
-
-// Two chevrons to the right, in the colour of the theme that is in use when it is painted.
-class MoreMark : public QIconEngine {
-public:
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(Theme::current().text, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        for (const int right : {0, 5}) {
-            const QPointF tip = QRectF(rect).center() + QPointF(right, 0);
-            painter->drawPolyline(QPolygonF({tip + QPointF(-4, -4), tip, tip + QPointF(-4, 4)}));
-        }
-    }
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return picture;
-    }
-    QIconEngine* clone() const override { return new MoreMark(*this); }
-};
 
 }  // namespace
 
@@ -286,7 +81,7 @@ void PaintedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     switch (element) {
         case PE_PanelLineEdit:
         case PE_FrameLineEdit:
-            return paintField(*painter, *option, widget);
+            return paintField(*painter, *option, kindOf(widget));
         case PE_Frame: {
             const bool isWindow = widget && widget->isWindow();  // the list of a pop-up
             const int radius = isWindow ? 0 : isTable(widget) ? tableRadius : fieldRadius;
@@ -333,10 +128,9 @@ void PaintedStyle::drawControl(ControlElement element, const QStyleOption* optio
             if (const auto* item = as<QStyleOptionMenuItem>(option)) return paintMenuEntry(*painter, *item);
             break;
         case CE_ProgressBarGroove:
-            return paintProgress(*painter, option->rect, theme.key);
+            return paintProgressGround(*painter, option->rect);
         case CE_ProgressBarContents:
-            if (const auto* bar = as<QStyleOptionProgressBar>(option))
-                return paintProgress(*painter, doneOf(*bar), theme.accent);
+            if (const auto* bar = as<QStyleOptionProgressBar>(option)) return paintProgressDone(*painter, *bar);
             break;
         default:
             break;
@@ -347,12 +141,11 @@ void PaintedStyle::drawControl(ControlElement element, const QStyleOption* optio
 void PaintedStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                       const QWidget* widget) const {
     if (control == CC_ComboBox) {
-        paintField(*painter, *option, widget);
+        paintField(*painter, *option, kindOf(widget));
         return onlyShows(widget) ? void() : paintChevron(*painter, *option);
     }
     if (const auto* bar = as<QStyleOptionSlider>(option); control == CC_ScrollBar && bar)
-        return paintBox(*painter, handleOf(*bar).adjusted(1, 1, -1, -1), Theme::current().line, Theme::current().line,
-                        4);
+        return paintScrollBar(*painter, *bar);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
@@ -389,12 +182,10 @@ QSize PaintedStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
         case CT_PushButton:
             return (contents + keyMargins).expandedTo(QSize(leastKey, 0));
         case CT_TabBarTab:
-            if (const auto* tab = as<QStyleOptionTab>(option))
-                return tab->fontMetrics.size(Qt::TextShowMnemonic, tab->text) + tabMargins + QSize(0, tabLine);
+            if (const auto* tab = as<QStyleOptionTab>(option)) return tabSize(*tab);
             break;
         case CT_HeaderSection:
-            if (const auto* title = as<QStyleOptionHeader>(option))
-                return title->fontMetrics.size(0, title->text) + QSize(2 * titleMarginOf(widget), titleHeight);
+            if (const auto* title = as<QStyleOptionHeader>(option)) return titleSize(*title, titleMarginOf(widget));
             break;
         case CT_MenuBarItem:
             return contents + menuBarMargins;
@@ -443,7 +234,7 @@ int PaintedStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, co
 // Every menu bar asks for the mark of what has no room. Qt's own is a file: to read it, Qt would load all its image
 // formats before the window is there, which takes 5 ms.
 QIcon PaintedStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
-    if (icon == SP_ToolBarHorizontalExtensionButton) return QIcon(new MoreMark);
+    if (icon == SP_ToolBarHorizontalExtensionButton) return moreMark();
     return QProxyStyle::standardIcon(icon, option, widget);
 }
 
