@@ -38,8 +38,6 @@ const Option* as(const QStyleOption* option) {
     return qstyleoption_cast<const Option*>(option);
 }
 
-bool isIn(const QStyleOption& option, QStyle::StateFlag state) { return option.state.testFlag(state); }
-
 bool onlyShows(const QWidget* widget) { return widget && widget->property(onlyShowsProperty).toBool(); }
 
 bool isEditorOfTable(const QWidget* widget) {

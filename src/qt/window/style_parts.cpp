@@ -23,8 +23,6 @@ constexpr int menuArrow = 26;        // the place of the arrow of a sub-menu, ri
 constexpr int menuHeight = 10;       // above and below an entry together
 constexpr int menuSeparator = 9;
 
-bool isIn(const QStyleOption& option, QStyle::StateFlag state) { return option.state.testFlag(state); }
-
 void paintTick(QPainter& painter, const QPointF& middle, const QColor& ink) {
     painter.setPen(QPen(ink, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(QPolygonF({middle + QPointF(-3.5, 0), middle + QPointF(-1, 3), middle + QPointF(4, -3.5)}));
@@ -81,7 +79,6 @@ public:
 
 }  // namespace
 
-// A rounded box with an edge of one pixel.
 void paintBox(QPainter& painter, const QRect& rect, const QBrush& ground, const QColor& edge, int radius,
               double width) {
     painter.save();
@@ -93,7 +90,6 @@ void paintBox(QPainter& painter, const QRect& rect, const QBrush& ground, const 
     painter.restore();
 }
 
-// The mark of what opens a list or menu, at the right end of its box.
 void paintChevron(QPainter& painter, const QStyleOption& option) {
     const Theme& theme = Theme::current();
     const QColor none = option.palette.color(QPalette::Disabled, QPalette::ButtonText);

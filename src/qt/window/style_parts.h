@@ -12,6 +12,8 @@ inline constexpr int fieldRadius = 5;
 inline constexpr int progressHeight = 6;
 inline constexpr int leastScrollHandle = 24;
 
+inline bool isIn(const QStyleOption& option, QStyle::StateFlag state) { return option.state.testFlag(state); }
+
 // A rounded box with an edge.
 void paintBox(QPainter& painter, const QRect& rect, const QBrush& ground, const QColor& edge, int radius,
               double width = 1);
