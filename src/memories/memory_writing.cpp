@@ -88,7 +88,7 @@ void MemoryChannels::watchWrite(unsigned number, const MemoryTable& written) {
         return tasks_.after(writeInterval, [this, number, written] { watchWrite(number, written); });
     }
     write_.reset();
-    held_ = written;
+    if (link_.isOpen()) held_ = written;
     display_.announcements.say("The memory channels are written");
     showStatus();
     voice_.playSound("Seatbelts");
